@@ -1,0 +1,39 @@
+// The entry point: one executable, a window without arguments, a command-line tool with them.
+#include "app/application_info.h"
+#include "app/mode.h"
+#include "console/runner.h"
+#include "core/kernel.h"
+#include "GUI/main_window.h"
+
+#include <QApplication>
+#include <QCoreApplication>
+
+#include <csignal>
+
+namespace {
+
+int run_window(int argc, char** argv) {
+    QApplication application(argc, argv);
+    kernel().remove_old_executable_if_required();
+    GUI::main_window window;
+    window.show();
+    return application.exec();
+}
+
+int run_command_line(int argc, char** argv) {
+    QCoreApplication application(argc, argv);
+    kernel().remove_old_executable_if_required();
+    return console::runner()(argc, argv);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    // A write beyond the file-size limit must fail like any other write, so that the file is left
+    // as it was and reported, instead of killing the process in the middle of a run.
+    std::signal(SIGXFSZ, SIG_IGN);
+    set_application_info();
+    if (program_starts_in_GUI_mode(argc, argv))
+        return run_window(argc, argv);
+    return run_command_line(argc, argv);
+}

@@ -1,0 +1,72 @@
+// The single facade through which both front ends reach the language and style store and the
+// revision engine. It holds no state: every call lists the bundle's directories again, loads the
+// plugins it needs again and reads the settings again. Nothing here prints; failures come back as
+// false, empty strings, empty descriptions or absent lists, and the front ends word them.
+#ifndef STYLE_TARNEL_CORE_KERNEL_H
+#define STYLE_TARNEL_CORE_KERNEL_H
+
+#include "core/style_description.h"
+#include "engine/revision_task.h"
+
+#include <boost/optional.hpp>
+
+#include <atomic>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+class kernel {
+public:
+    // Catalogue.
+    std::vector<std::string> supported_programming_languages() const;
+    boost::optional<std::vector<style_description>> supported_formatting_styles_for(
+        std::string const& language) const;
+    std::map<std::string, std::vector<std::string>> supported_langs_n_styles() const;
+    std::map<std::string, std::string> info_about_structures_of(std::string const& language) const;
+    std::vector<std::string> list_of_keywords_of(std::string const& language) const;
+    std::vector<std::string> filename_extensions_for(std::string const& language) const;
+    std::vector<std::string> list_of_placeholders() const;
+    bool this_is_a_plugin(std::string const& path) const;
+
+    // Import and export.
+    std::string import_language_from(std::string const& path) const;
+    style_description import_style_from(std::string const& path, std::string const& language) const;
+    style_description import_style_from(std::string const& path) const;
+    bool export_style(std::string const& style, std::string const& language,
+                      std::string const& destination) const;
+    std::string full_path_to_style_addon_by(std::string const& style,
+                                            std::string const& language) const;
+
+    // Deleting and renaming.
+    bool delete_language_by(std::string const& language) const;
+    bool delete_style_by(std::string const& style, std::string const& language) const;
+    bool rename_style(std::string const& style, std::string const& language,
+                      std::string const& new_name) const;
+
+    // Structure forms.
+    std::string language_structure_form_based_on(std::string const& language,
+                                                 std::string const& style,
+                                                 std::string const& structure) const;
+    bool update_language_structure_form(std::string const& language, std::string const& style,
+                                        std::string const& structure,
+                                        std::string const& form) const;
+
+    // Revision: on the calling thread, printing progress and report; or on a detached worker
+    // thread that reports through the four callbacks and reads `stop` between files.
+    int start_revise(revision_task const& task) const;
+    int start_revise(revision_task const& task, std::function<void(int)> maximum,
+                     std::function<void(int)> value, std::function<void(std::string)> status,
+                     std::function<void(std::string)> finished,
+                     std::atomic<bool> const& stop) const;
+
+    // Self-update.
+    bool apply(std::string const& path_to_new_executable) const;
+    void remove_old_executable_if_required() const;
+
+    // First-start agreement.
+    void remember_that_EULA_was_accepted() const;
+    bool this_is_first_start_of_app() const;
+};
+
+#endif

@@ -1,0 +1,24 @@
+// An example language plugin: INI files, formatted by the example that a style addon gives for a
+// key-value line ("name = SOME", "name=SOME", ...) and for a section header ("[name]", "[ name ]").
+#ifndef INI_LANGUAGE_PLUGIN_H
+#define INI_LANGUAGE_PLUGIN_H
+
+#include "interface_to_language_plugin.h"
+
+#include <QObject>
+
+class ini_language_plugin : public QObject, public interface_to_language_plugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.style-tarnel.interface_to_language_plugin")
+    Q_INTERFACES(interface_to_language_plugin)
+public:
+    std::string language_name() override { return "INI"; }
+    std::vector<std::string> list_of_keywords() override { return {"true", "false", "yes", "no"}; }
+    std::vector<std::string> filename_extensions() override { return {"ini", "cfg"}; }
+    std::map<std::string, std::string> forms_of_structures() override;
+    std::string revise(std::string const& source, std::string const& addon,
+                       line_ending_traits const& traits) override;
+    void end_of_revision() override {}
+};
+
+#endif

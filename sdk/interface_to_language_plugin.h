@@ -1,0 +1,59 @@
+// The contract between Style Tarnel and a language plugin. Self-contained: a plugin needs only this
+// header, Qt 5 Core and the standard library to be built and loaded by the host.
+//
+// A plugin's root object derives from QObject and from interface_to_language_plugin, names the
+// interface with Q_INTERFACES(interface_to_language_plugin) and declares
+//     Q_PLUGIN_METADATA(IID "org.style-tarnel.interface_to_language_plugin")
+// The order of the virtual members below is the binary interface: never reorder them.
+#ifndef STYLE_TARNEL_INTERFACE_TO_LANGUAGE_PLUGIN_H
+#define STYLE_TARNEL_INTERFACE_TO_LANGUAGE_PLUGIN_H
+
+#include <QtPlugin>
+
+#include <map>
+#include <string>
+#include <vector>
+
+// How one source file ends its lines and spells a space, in the file's own encoding: EOL is the
+// exact byte sequence ("\n", "\r\n", "\r", or their UTF-16 and UTF-32 forms), space is " " for
+// 8-bit text and two or four bytes for UTF-16 and UTF-32. Both are empty for a text without a
+// line break.
+struct line_ending_traits {
+    std::string EOL;
+    std::string space;
+};
+
+// What revise() returns, in place of a result, for source it cannot format.
+#define STYLE_TARNEL_SYNTAX_ERROR_TEXT "Style Tarnel: syntax error was detected!"
+
+class interface_to_language_plugin {
+public:
+    virtual ~interface_to_language_plugin() = default;
+
+    // The language's display name, e.g. "C++": the name the language is known by everywhere.
+    virtual std::string language_name() = 0;
+
+    // The language's keywords, for highlighting.
+    virtual std::vector<std::string> list_of_keywords() = 0;
+
+    // Default filename extensions of the language's sources, without the dot.
+    virtual std::vector<std::string> filename_extensions() = 0;
+
+    // Structure name -> ECMAScript regular expression that a form of that structure must match
+    // in full. An empty map accepts every addon.
+    virtual std::map<std::string, std::string> forms_of_structures() = 0;
+
+    // Reformats `source` (raw bytes as on disk) in the style that `addon` (the whole addon text)
+    // describes. Returns `source` unchanged, byte for byte, when there is nothing to change, and
+    // STYLE_TARNEL_SYNTAX_ERROR_TEXT when the source cannot be formatted.
+    virtual std::string revise(std::string const& source, std::string const& addon,
+                               line_ending_traits const& traits) = 0;
+
+    // Called once after the last file of a revision run, whatever happened to the files.
+    virtual void end_of_revision() = 0;
+};
+
+#define STYLE_TARNEL_INTERFACE_ID "org.style-tarnel.interface_to_language_plugin"
+Q_DECLARE_INTERFACE(interface_to_language_plugin, "org.style-tarnel.interface_to_language_plugin")
+
+#endif

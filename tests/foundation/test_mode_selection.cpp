@@ -1,0 +1,63 @@
+// Windowed or command-line start, decided by the shape of the command line alone.
+#include "app/mode.h"
+#include "tests/harness/temporary_bundle.h"
+
+#include <QProcess>
+#include <QtTest>
+
+class test_mode_selection : public QObject {
+    Q_OBJECT
+private slots:
+    void decides_by_the_command_line_data();
+    void decides_by_the_command_line();
+    void a_start_without_arguments_opens_the_window();
+    void a_start_with_a_flag_runs_on_the_command_line();
+};
+
+void test_mode_selection::decides_by_the_command_line_data() {
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<bool>("windowed");
+    QTest::newRow("no arguments") << QStringList{} << true;
+    QTest::newRow("process serial number") << QStringList{"-psn_0_12345"} << true;
+    QTest::newRow("process serial number, capitals") << QStringList{"-PSN_0_12345"} << true;
+    QTest::newRow("bare -psn") << QStringList{"-psn"} << true;
+    QTest::newRow("one flag") << QStringList{"--help"} << false;
+    QTest::newRow("one empty argument") << QStringList{""} << false;
+    QTest::newRow("psn inside a word") << QStringList{"x-psn"} << false;
+    QTest::newRow("psn and one more") << QStringList{"-psn_0_1", "--ls"} << false;
+    QTest::newRow("two flags") << QStringList{"-l=C", "-s=GNU"} << false;
+}
+
+void test_mode_selection::decides_by_the_command_line() {
+    QFETCH(QStringList, arguments);
+    QFETCH(bool, windowed);
+    std::vector<QByteArray> storage{"Style Tarnel"};
+    for (auto const& argument : arguments)
+        storage.push_back(argument.toUtf8());
+    std::vector<char*> argv;
+    for (auto& argument : storage)
+        argv.push_back(argument.data());
+    argv.push_back(nullptr);
+    QCOMPARE(program_starts_in_GUI_mode(int(storage.size()), argv.data()), windowed);
+}
+
+void test_mode_selection::a_start_without_arguments_opens_the_window() {
+    // The window's event loop keeps the process running until it is closed.
+    temporary_bundle bundle;
+    QProcess process;
+    process.setProcessEnvironment(bundle.environment());
+    process.start(bundle.executable(), QStringList{});
+    QVERIFY(process.waitForStarted());
+    QVERIFY(!process.waitForFinished(1500));
+    process.terminate();
+    QVERIFY(process.waitForFinished(10000));
+}
+
+void test_mode_selection::a_start_with_a_flag_runs_on_the_command_line() {
+    temporary_bundle bundle;
+    run_result result = bundle.run({"--version"}, run_options{false, {}, {}, {}, 20000, {}});
+    QVERIFY(!result.crashed);
+}
+
+QTEST_GUILESS_MAIN(test_mode_selection)
+#include "test_mode_selection.moc"

@@ -1,0 +1,128 @@
+#include "tests/harness/temporary_bundle.h"
+
+#include "tests/harness/built_files.h"
+
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+
+#include <unistd.h>
+
+temporary_bundle::temporary_bundle(QString const& executable_to_copy)
+    : directory(QDir::tempPath() + "/style-tarnel-test-XXXXXX") {
+    if (!directory.isValid())
+        return;
+    QDir root_dir(directory.path());
+    for (auto sub : {"bin", "PlugIns/languages", "PlugIns/styles", "config", "cache", "home", "work"})
+        root_dir.mkpath(sub);
+    QString const source = executable_to_copy.isEmpty() ? built::executable() : executable_to_copy;
+    valid = QFile::copy(source, executable());
+    QFile::setPermissions(executable(), QFile::permissions(source));
+}
+
+QString temporary_bundle::root() const { return directory.path(); }
+QString temporary_bundle::executable() const { return root() + "/bin/Style Tarnel"; }
+QString temporary_bundle::plugins_directory() const { return root() + "/PlugIns/languages"; }
+QString temporary_bundle::addons_directory() const { return root() + "/PlugIns/styles"; }
+QString temporary_bundle::config_home() const { return root() + "/config"; }
+QString temporary_bundle::cache_home() const { return root() + "/cache"; }
+QString temporary_bundle::home() const { return root() + "/home"; }
+QString temporary_bundle::work_directory() const { return root() + "/work"; }
+
+bool temporary_bundle::add_plugin(QString const& built_plugin, QString const& as) const {
+    QString const name = as.isEmpty() ? QFileInfo(built_plugin).fileName() : as;
+    QString const target = plugins_directory() + "/" + name;
+    QFile::remove(target);
+    return QFile::copy(built_plugin, target);
+}
+
+bool temporary_bundle::add_addon(QString const& file_name, QByteArray const& content) const {
+    QFile file(addons_directory() + "/" + file_name);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(content) == content.size();
+}
+
+QString temporary_bundle::write_file(QString const& relative_path, QByteArray const& content) const {
+    QString const path = work_directory() + "/" + relative_path;
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(content);
+    return path;
+}
+
+QByteArray temporary_bundle::contents_of(QString const& path) {
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QProcessEnvironment temporary_bundle::environment() const {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("XDG_CONFIG_HOME", config_home());
+    environment.insert("XDG_CACHE_HOME", cache_home());
+    environment.insert("HOME", home());
+    environment.insert("QT_QPA_PLATFORM", "offscreen");
+    return environment;
+}
+
+void temporary_bundle::share_with_unprivileged_user() const {
+    QFile::setPermissions(root(), QFile::permissions(root()) | QFile::ReadOther | QFile::ExeOther);
+    QDirIterator it(root(), QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        QString const path = it.next();
+        QFileInfo const info(path);
+        if (info.isSymLink())
+            continue;
+        auto permissions = info.permissions() | QFile::ReadOther;
+        if (info.isDir() || info.isExecutable())
+            permissions |= QFile::ExeOther;
+        // Settings and cache are the program's own: it must be able to write there.
+        if (path.startsWith(config_home()) || path.startsWith(cache_home()) || path.startsWith(home()))
+            permissions |= QFile::WriteOther;
+        QFile::setPermissions(path, permissions);
+    }
+    for (auto const& own : {config_home(), cache_home(), home()})
+        QFile::setPermissions(own, QFile::permissions(own) | QFile::WriteOther | QFile::ExeOther);
+}
+
+run_result temporary_bundle::run(QStringList const& arguments, run_options const& options) const {
+    QProcessEnvironment environment = this->environment();
+    for (auto const& key : options.extra_environment.keys())
+        environment.insert(key, options.extra_environment.value(key));
+
+    QString program = executable();
+    QStringList program_arguments = arguments;
+    if (!options.shell_prefix.isEmpty()) {
+        program_arguments = QStringList{"-c", options.shell_prefix + " exec \"$0\" \"$@\"", program} + arguments;
+        program = "/bin/sh";
+    }
+    if (options.unprivileged && ::geteuid() == 0) {
+        share_with_unprivileged_user();
+        program_arguments = QStringList{"--reuid=65534", "--regid=65534", "--clear-groups", "--", program} +
+                            program_arguments;
+        program = "setpriv";
+    }
+
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(options.working_directory.isEmpty() ? work_directory()
+                                                                    : options.working_directory);
+    process.start(program, program_arguments);
+    run_result result;
+    if (!process.waitForStarted())
+        return result;
+    if (!options.input.isEmpty())
+        process.write(options.input);
+    process.closeWriteChannel();
+    if (!process.waitForFinished(options.timeout_ms)) {
+        process.kill();
+        process.waitForFinished();
+    }
+    result.out = process.readAllStandardOutput();
+    result.err = process.readAllStandardError();
+    result.crashed = process.exitStatus() != QProcess::NormalExit;
+    result.status = result.crashed ? -1 : process.exitCode();
+    return result;
+}

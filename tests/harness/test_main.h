@@ -1,0 +1,51 @@
+// Entry points for test executables. Tests of the kernel and the engine run in-process, but the
+// kernel finds its plugins and addons beside its own executable: so such a test copies itself into
+// a temporary bundle, runs that copy with temporary settings, and passes its result on.
+#ifndef STYLE_TARNEL_TESTS_TEST_MAIN_H
+#define STYLE_TARNEL_TESTS_TEST_MAIN_H
+
+#include <QApplication>
+#include <QCoreApplication>
+#include <QtTest>
+
+#include <functional>
+
+namespace tarnel_test {
+
+// Runs `tests` in a copy of this executable inside a temporary bundle; the copy's own
+// QCoreApplication file path then points the kernel at <bundle>/PlugIns.
+int run_in_temporary_bundle(int argc, char** argv, std::function<int(int, char**)> const& tests);
+
+// Whether this process is the copy inside the temporary bundle.
+bool running_in_temporary_bundle();
+
+// Sets the application's identity as the program does, so settings land where its do.
+void identify_as_the_program();
+
+}  // namespace tarnel_test
+
+// In-process tests that need a bundle of their own (kernel, store, engine).
+#define STYLE_TARNEL_TEST_MAIN_IN_BUNDLE(TestClass)                                           \
+    int main(int argc, char** argv) {                                                         \
+        return tarnel_test::run_in_temporary_bundle(argc, argv, [](int c, char** v) {         \
+            QCoreApplication application(c, v);                                               \
+            tarnel_test::identify_as_the_program();                                           \
+            TestClass test;                                                                   \
+            QTEST_SET_MAIN_SOURCE_PATH                                                        \
+            return QTest::qExec(&test, c, v);                                                 \
+        });                                                                                   \
+    }
+
+// The same for widget tests (run with QT_QPA_PLATFORM=offscreen).
+#define STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(TestClass)                                    \
+    int main(int argc, char** argv) {                                                         \
+        return tarnel_test::run_in_temporary_bundle(argc, argv, [](int c, char** v) {         \
+            QApplication application(c, v);                                                   \
+            tarnel_test::identify_as_the_program();                                           \
+            TestClass test;                                                                   \
+            QTEST_SET_MAIN_SOURCE_PATH                                                        \
+            return QTest::qExec(&test, c, v);                                                 \
+        });                                                                                   \
+    }
+
+#endif

@@ -1,0 +1,68 @@
+#include "test_language_plugin.h"
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+#include <thread>
+
+namespace {
+
+std::string hex(std::string const& bytes) {
+    static char const digits[] = "0123456789abcdef";
+    std::string text;
+    for (unsigned char byte : bytes) {
+        text += digits[byte >> 4];
+        text += digits[byte & 15];
+    }
+    return text.empty() ? "-" : text;
+}
+
+void log(std::string const& line) {
+    char const* file = std::getenv("TEST_PLUGIN_LOG");
+    if (file == nullptr)
+        return;
+    if (FILE* out = std::fopen(file, "a")) {
+        std::fprintf(out, "%s %s\n", TEST_PLUGIN_TAG, line.c_str());
+        std::fclose(out);
+    }
+}
+
+}  // namespace
+
+std::string test_language_plugin::language_name() { return TEST_LANGUAGE_NAME; }
+
+std::vector<std::string> test_language_plugin::list_of_keywords() { return {"begin", "end", "if"}; }
+
+std::vector<std::string> test_language_plugin::filename_extensions() { return {"tst", "test"}; }
+
+std::map<std::string, std::string> test_language_plugin::forms_of_structures() {
+    // "function" is a prefix of "function call": forms are found by a substring search.
+    return {
+        {"block", R"(begin\s+SOME\s+end)"},
+        {"function", R"(type\s+name\s*\(\s*\)\s*\{\s*SOME\s*\})"},
+        {"function call", R"(name\s*\(\s*argument\s*\)\s*;)"},
+    };
+}
+
+std::string test_language_plugin::revise(std::string const& source, std::string const&,
+                                         line_ending_traits const& traits) {
+    log("revise " + hex(traits.EOL) + " " + hex(traits.space) + " " + std::to_string(source.size()));
+    if (char const* delay = std::getenv("TEST_PLUGIN_DELAY_MS"))
+        std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(delay)));
+    if (source.find("SYNTAX_ERROR") != std::string::npos)
+        return STYLE_TARNEL_SYNTAX_ERROR_TEXT;
+    if (source.find("THROW") != std::string::npos)
+        throw std::runtime_error("the test plugin was asked to throw");
+    if (source.find("EMPTY") != std::string::npos)
+        return std::string();
+
+    std::string const space = traits.space.empty() ? std::string(" ") : traits.space;
+    std::string const twice = space + space;
+    std::string result = source;
+    for (std::size_t at = result.find(twice); at != std::string::npos; at = result.find(twice, at))
+        result.erase(at, space.size());
+    return result;
+}
+
+void test_language_plugin::end_of_revision() { log("end_of_revision"); }

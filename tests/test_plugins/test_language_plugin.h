@@ -1,0 +1,30 @@
+// A language plugin whose every answer a test can predict.
+//
+// revise(): collapses every run of two spaces (in the text's own encoding, from the traits) into
+// one, so a text without double spaces comes back unchanged. Markers in the source:
+//   SYNTAX_ERROR -> the syntax-error text;  THROW -> throws;  EMPTY -> returns "".
+// With TEST_PLUGIN_LOG set, each call appends a line to that file:
+//   "<tag> revise <EOL in hex> <space in hex> <source size>" and "<tag> end_of_revision".
+// With TEST_PLUGIN_DELAY_MS set, each revise() sleeps that long first.
+#ifndef TEST_LANGUAGE_PLUGIN_H
+#define TEST_LANGUAGE_PLUGIN_H
+
+#include "interface_to_language_plugin.h"
+
+#include <QObject>
+
+class test_language_plugin : public QObject, public interface_to_language_plugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.style-tarnel.interface_to_language_plugin")
+    Q_INTERFACES(interface_to_language_plugin)
+public:
+    std::string language_name() override;
+    std::vector<std::string> list_of_keywords() override;
+    std::vector<std::string> filename_extensions() override;
+    std::map<std::string, std::string> forms_of_structures() override;
+    std::string revise(std::string const& source, std::string const& addon,
+                       line_ending_traits const& traits) override;
+    void end_of_revision() override;
+};
+
+#endif
