@@ -1,0 +1,24 @@
+#include "core/directory_listing.h"
+
+#include "core/path_to.h"
+
+#include <QDir>
+
+namespace {
+
+std::vector<std::string> plain_files_in(QString const& directory) {
+    std::vector<std::string> names;
+    for (auto const& name : QDir(directory).entryList(QDir::Files, QDir::Name | QDir::IgnoreCase))
+        names.push_back(name.toStdString());
+    return names;
+}
+
+}  // namespace
+
+std::vector<std::string> list_of_names_of_plugins() {
+    return plain_files_in(path_to().plugins_directory());
+}
+
+std::vector<std::string> list_of_names_of_addons() {
+    return plain_files_in(path_to().addons_directory());
+}

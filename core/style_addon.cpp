@@ -1,0 +1,90 @@
+#include "core/style_addon.h"
+
+#include "core/path_to.h"
+#include "engine/read_from.h"
+#include "engine/traits_of.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <boost/algorithm/string/erase.hpp>
+
+namespace {
+
+// Addons saved in a 16-bit encoding whose characters are all ASCII read as their ASCII text.
+std::string without_NUL_bytes(std::string text) {
+    boost::algorithm::erase_all(text, std::string(1, '\0'));
+    return text;
+}
+
+std::string addon_text_at(QString const& path) {
+    std::string text;
+    if (!read_from(path).to(text))
+        return std::string();
+    return without_NUL_bytes(std::move(text));
+}
+
+QString path_in_addons_directory(std::string const& file_name) {
+    return path_to().addons_directory() + QDir::separator() + QString::fromStdString(file_name);
+}
+
+}  // namespace
+
+bool style_addon::operator()(std::string const& path) const {
+    return QFileInfo(QString::fromStdString(path)).completeSuffix() == "style";
+}
+
+std::string addon_file_name_for(std::string const& style, std::string const& language) {
+    return style + "[" + language + "].style";
+}
+
+style_description obtain_style_description::from(std::string const& file_name) const {
+    return from_raw(path_in_addons_directory(file_name));
+}
+
+style_description obtain_style_description::from_raw(QString const& path) const {
+    return from_text(addon_text_at(path));
+}
+
+style_description obtain_style_description::from_raw(std::string const& path) const {
+    return from_raw(QString::fromStdString(path));
+}
+
+style_description obtain_style_description::from_text(std::string const& text) const {
+    auto const style = extract_value_of().from_ini_like("NAME", text, "=");
+    auto const language = extract_value_of().from_ini_like("LANGUAGE", text, "=");
+    if (!style || !language)
+        return style_description();
+    return style_description{*style, *language};
+}
+
+boost::optional<std::string> extract_value_of::from_ini_like(std::string const& key,
+                                                             std::string const& text,
+                                                             std::string const& separator) const {
+    std::size_t const at = text.find(key + separator);
+    if (at == std::string::npos)
+        return boost::none;
+    std::size_t const begin = at + key.size() + separator.size();
+    std::size_t const end = text.find('\n', begin);
+    return text.substr(begin, end == std::string::npos ? std::string::npos : end - begin);
+}
+
+std::string obtain_structure_form::from(std::string const& file_name) const {
+    return from_already_reading(addon_text_at(path_in_addons_directory(file_name)));
+}
+
+std::string obtain_structure_form::from_already_reading(std::string const& raw_text) const {
+    std::string const text = without_NUL_bytes(raw_text);
+    std::string const EOL = detail::traits_of()(text).EOL;
+    std::size_t const name = text.find("S_NAME=" + structure);
+    if (name == std::string::npos)
+        return std::string();
+    std::string const begin_marker = "S_BEG" + EOL;
+    std::size_t const begin = text.find(begin_marker, name + 7 + structure.size());
+    if (begin == std::string::npos)
+        return std::string();
+    std::size_t const form = begin + begin_marker.size();
+    std::size_t const end = text.find(EOL + "S_END", form);
+    return text.substr(form, end == std::string::npos ? std::string::npos : end - form);
+}
+
+std::string style_name_validator() { return "[a-zA-Z\\d\\s-_\\&]{0,}"; }

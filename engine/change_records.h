@@ -1,0 +1,44 @@
+// Change records: one per revised source file, so that a run skips every file that has not
+// changed since it was last revised with the same language, style and unchanged addon.
+// Key: the file's absolute path without its leading "/"; value: [revision time (UTC seconds),
+// language, style, addon modification time (UTC seconds)].
+#ifndef STYLE_TARNEL_ENGINE_CHANGE_RECORDS_H
+#define STYLE_TARNEL_ENGINE_CHANGE_RECORDS_H
+
+#include <QString>
+
+class QSettings;
+
+class save_info_about_changes_of {
+public:
+    // Uses `store` when given (a run keeps one for all its files), else a store of its own.
+    explicit save_info_about_changes_of(QSettings* store = nullptr) : store(store) {}
+    void this_source_file(QString const& path, QString const& language, QString const& style,
+                          QString const& addon_path) const;
+
+private:
+    QSettings* store;
+};
+
+class this_source_file {
+public:
+    explicit this_source_file(QSettings* store = nullptr) : store(store) {}
+    bool was_not_changed(QString const& path, QString const& language, QString const& style,
+                         QString const& addon_path) const;
+
+private:
+    QSettings* store;
+};
+
+class remove_info_about_changes_of {
+public:
+    explicit remove_info_about_changes_of(QSettings* store = nullptr) : store(store) {}
+    // A file: its record. A directory: every record whose key begins with the directory's key
+    // (so /a/lib also clears /a/lib2/x). A missing path: nothing.
+    void this_path(QString const& path) const;
+
+private:
+    QSettings* store;
+};
+
+#endif

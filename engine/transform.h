@@ -1,0 +1,17 @@
+// Turns a path a user typed into an absolute one: a leading "~" becomes the home directory, a
+// relative path is taken against the current directory, and the result is normalised.
+#ifndef STYLE_TARNEL_ENGINE_TRANSFORM_H
+#define STYLE_TARNEL_ENGINE_TRANSFORM_H
+
+#include <QString>
+
+class transform {
+public:
+    explicit transform(QString path) : path(std::move(path)) {}
+    QString to_absolute() const;
+
+private:
+    QString path;
+};
+
+#endif
