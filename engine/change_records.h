@@ -1,7 +1,8 @@
 // Change records: one per revised source file, so that a run skips every file that has not
 // changed since it was last revised with the same language, style and unchanged addon.
 // Key: the file's absolute path without its leading "/"; value: [revision time (UTC seconds),
-// language, style, addon modification time (UTC seconds)].
+// language, style, addon modification time (UTC seconds)]. Each operation uses the store it is
+// given (a run keeps one for all its files) or else opens the records' store for itself.
 #ifndef STYLE_TARNEL_ENGINE_CHANGE_RECORDS_H
 #define STYLE_TARNEL_ENGINE_CHANGE_RECORDS_H
 
@@ -11,7 +12,6 @@ class QSettings;
 
 class save_info_about_changes_of {
 public:
-    // Uses `store` when given (a run keeps one for all its files), else a store of its own.
     explicit save_info_about_changes_of(QSettings* store = nullptr) : store(store) {}
     void this_source_file(QString const& path, QString const& language, QString const& style,
                           QString const& addon_path) const;
@@ -23,6 +23,9 @@ private:
 class this_source_file {
 public:
     explicit this_source_file(QSettings* store = nullptr) : store(store) {}
+    // True only when the record exists, holds four valid values, names this language and style,
+    // and neither the file nor the addon was modified after the times it holds (a file touched
+    // in the second of its revision still counts as unchanged).
     bool was_not_changed(QString const& path, QString const& language, QString const& style,
                          QString const& addon_path) const;
 

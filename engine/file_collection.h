@@ -1,0 +1,43 @@
+// Turns the paths of a revision task into the ordered list of files to revise, and checks the
+// files named directly against the task's extensions before anything is touched.
+#ifndef STYLE_TARNEL_ENGINE_FILE_COLLECTION_H
+#define STYLE_TARNEL_ENGINE_FILE_COLLECTION_H
+
+#include <QString>
+#include <QStringList>
+
+#include <string>
+#include <vector>
+
+// Appends to `parts` the pieces of `text` between occurrences of `separator`; an empty `text`
+// adds nothing. Empty pieces (two separators in a row) are kept.
+void split_by_string(std::vector<std::string>& parts, std::string const& text,
+                     std::string const& separator);
+
+class obtain_full_file_paths_from {
+public:
+    explicit obtain_full_file_paths_from(QStringList paths) : paths(std::move(paths)) {}
+
+    // Every path in order: a directory gives its files below it, at any depth, whose names match
+    // one of the extensions (symbolic links left out), as absolute paths; a regular file gives
+    // itself, as given; anything else gives nothing. `extensions` are separated by spaces.
+    QStringList with(QString const& extensions) const;
+    QStringList paths_from_this(QString const& path, QStringList const& name_filters) const;
+
+private:
+    QStringList paths;
+};
+
+class there_are_some {
+public:
+    explicit there_are_some(QStringList paths) : paths(std::move(paths)) {}
+
+    // True when a path names a regular file whose suffix is none of `extensions` (joined by
+    // single spaces, compared exactly). Directories and missing paths are not checked.
+    bool with_extensions_that_not_corresponds_to(std::string const& extensions) const;
+
+private:
+    QStringList paths;
+};
+
+#endif

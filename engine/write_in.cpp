@@ -1,0 +1,60 @@
+#include "engine/write_in.h"
+
+#include "core/product.h"
+
+#include <algorithm>
+
+void write_in::about_problem_with_plugin(std::string const& plugin_file) const {
+    report += "Sorry, I can't revise, something wrong with plugin '" + plugin_file + "'.\n\n";
+}
+
+void write_in::about_problem_with_addon(std::string const& addon_file) const {
+    report += "Sorry, I can't revise, something wrong with addon '" + addon_file + "'.\n\n";
+}
+
+void write_in::about_invalid_format_of_addon(std::string const& structure,
+                                             std::string const& addon_file) const {
+    report += "Sorry, format of structure '" + structure + "' in the style addon '" + addon_file +
+              "' is invalid. Please make sure this addon corresponds to requirements specified at " +
+              product::web_site + "/user-guide/style-addon-by-hand.\n\n";
+}
+
+void write_in::about_invalid_file(QString const& path) const {
+    report += "Sorry, I can't revise file '" + path.toStdString() +
+              "'. If this file exists - please check read/write permissions.\n\n";
+}
+
+void write_in::about_syntax_error_in(QString const& path) const {
+    report += "Sorry, I can't revise file '" + path.toStdString() +
+              "', because it contains syntax error, or language structure "
+              "that cannot be formatted correctly.\n\n";
+}
+
+void write_in::about_paths_with_unallowed(std::string const& extensions) const {
+    std::string listed = extensions;
+    std::replace(listed.begin(), listed.end(), ' ', ',');
+    report += "Sorry, but you can specify only paths to files with extensions '" + listed +
+              "', please correct it.";
+}
+
+void write_in::about_interruption() const { report += "\nRevision was interrupted by user!\n\n"; }
+
+void write_in::finish_info(int found, unsigned long revised, unsigned long changed) const {
+    if (found == 0) {
+        report += "No files was found, revision was canceled.";
+        return;
+    }
+    report += found == 1 ? std::string("1 file was found, ") : std::to_string(found) + " files was found, ";
+    if (revised == 0) {
+        report += "no files was revised.";
+        return;
+    }
+    report += revised == 1 ? std::string("1 file was revised, ")
+                           : std::to_string(revised) + " files was revised, ";
+    if (changed == 0)
+        report += "no files was changed.";
+    else if (changed == 1)
+        report += "1 file was changed.";
+    else
+        report += std::to_string(changed) + " files was changed.";
+}

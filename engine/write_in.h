@@ -1,0 +1,28 @@
+// The messages of a revision run, each appended to the run's one report. Their words are the
+// product's own and are kept exactly as they stand ("files was found").
+#ifndef STYLE_TARNEL_ENGINE_WRITE_IN_H
+#define STYLE_TARNEL_ENGINE_WRITE_IN_H
+
+#include <QString>
+
+#include <string>
+
+class write_in {
+public:
+    explicit write_in(std::string& report) : report(report) {}
+
+    void about_problem_with_plugin(std::string const& plugin_file) const;
+    void about_problem_with_addon(std::string const& addon_file) const;
+    void about_invalid_format_of_addon(std::string const& structure, std::string const& addon_file) const;
+    void about_invalid_file(QString const& path) const;
+    void about_syntax_error_in(QString const& path) const;
+    // `extensions` joined by single spaces; the message lists them joined by commas.
+    void about_paths_with_unallowed(std::string const& extensions) const;
+    void about_interruption() const;
+    void finish_info(int found, unsigned long revised, unsigned long changed) const;
+
+private:
+    std::string& report;
+};
+
+#endif
