@@ -23,11 +23,18 @@ std::string addon_text_at(QString const& path) {
     return without_NUL_bytes(std::move(text));
 }
 
-QString path_in_addons_directory(std::string const& file_name) {
+}  // namespace
+
+QString path_of_addon(std::string const& file_name) {
     return path_to().addons_directory() + QDir::separator() + QString::fromStdString(file_name);
 }
 
-}  // namespace
+boost::optional<std::string> addon_text_of(std::string const& file_name) {
+    std::string text;
+    if (!read_from(path_of_addon(file_name)).to(text))
+        return boost::none;
+    return without_NUL_bytes(std::move(text));
+}
 
 bool style_addon::operator()(std::string const& path) const {
     return QFileInfo(QString::fromStdString(path)).completeSuffix() == "style";
@@ -38,7 +45,7 @@ std::string addon_file_name_for(std::string const& style, std::string const& lan
 }
 
 style_description obtain_style_description::from(std::string const& file_name) const {
-    return from_raw(path_in_addons_directory(file_name));
+    return from_raw(path_of_addon(file_name));
 }
 
 style_description obtain_style_description::from_raw(QString const& path) const {
@@ -69,7 +76,7 @@ boost::optional<std::string> extract_value_of::from_ini_like(std::string const& 
 }
 
 std::string obtain_structure_form::from(std::string const& file_name) const {
-    return from_already_reading(addon_text_at(path_in_addons_directory(file_name)));
+    return from_already_reading(addon_text_at(path_of_addon(file_name)));
 }
 
 std::string obtain_structure_form::from_already_reading(std::string const& raw_text) const {

@@ -54,6 +54,12 @@ private:
     std::string structure;
 };
 
+// The text of the addon of that file name in the addons directory, NUL bytes dropped; absent
+// when the file cannot be read.
+boost::optional<std::string> addon_text_of(std::string const& file_name);
+// The full path of the addons directory's file of that name.
+QString path_of_addon(std::string const& file_name);
+
 // The pattern that style names (and task tab names) must match in full.
 std::string style_name_validator();
 

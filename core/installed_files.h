@@ -1,0 +1,36 @@
+// Going through what is installed, in the order of the directory listings: the plugins that load
+// as language plugins, and the style addons with their descriptions. Every call lists and loads
+// anew; nothing is kept between calls.
+#ifndef STYLE_TARNEL_CORE_INSTALLED_FILES_H
+#define STYLE_TARNEL_CORE_INSTALLED_FILES_H
+
+#include "core/style_description.h"
+#include "interface_to_language_plugin.h"
+
+#include <functional>
+#include <string>
+
+// Calls `is_wanted` with each plugin file's name and its loaded plugin (files that do not load
+// are skipped) until it returns true. The plugin is valid only during that call. True when a
+// plugin was wanted.
+bool first_plugin_where(
+    std::function<bool(std::string const& file_name, interface_to_language_plugin& plugin)> const&
+        is_wanted);
+
+// True when some plugin reports exactly that language name; `use` is then called with the first.
+bool with_plugin_of(std::string const& language,
+                    std::function<void(interface_to_language_plugin& plugin)> const& use);
+
+enum class addons_pass { exhausted, found, broken };
+
+// Calls `is_wanted` with each addon file's name and its description until it returns true
+// (found). A description with an empty style or language stops the pass at once (broken).
+addons_pass first_addon_where(
+    std::function<bool(std::string const& file_name, style_description const& description)> const&
+        is_wanted);
+
+// The first addon of that style and language: `file_name` gets its file name when found.
+addons_pass addon_of(std::string const& style, std::string const& language,
+                     std::string& file_name);
+
+#endif

@@ -1,0 +1,75 @@
+// kernel: removing an installed language with all its styles, removing one style, and giving a
+// style a new name (inside the addon and in its file name).
+#include "core/kernel.h"
+
+#include "core/directory_listing.h"
+#include "core/installed_files.h"
+#include "core/store_files.h"
+#include "core/style_addon.h"
+#include "core/style_addon_editing.h"
+
+namespace {
+
+// Removes every addon of the language; false when one of them stays, or the addons directory
+// holds a file that is no addon (the pass then stops there).
+bool remove_addons_of(std::string const& language) {
+    bool removed = true;
+    addons_pass const pass = first_addon_where([&](std::string const& file_name,
+                                                   style_description const& d) {
+        if (d.language == language && !detail::remove::from<addons_directory>(file_name))
+            removed = false;
+        return false;
+    });
+    return removed && pass != addons_pass::broken;
+}
+
+}  // namespace
+
+bool kernel::delete_language_by(std::string const& language) const {
+    bool deleted = true;
+    // Every plugin of that name goes, a twin reporting the same name too; the styles go with a
+    // plugin that could be removed and stay with one that could not.
+    first_plugin_where([&](std::string const& file_name, interface_to_language_plugin& plugin) {
+        if (plugin.language_name() != language)
+            return false;
+        if (!detail::remove::from<plugins_directory>(file_name))
+            deleted = false;
+        else if (!remove_addons_of(language))
+            deleted = false;
+        return false;
+    });
+    return deleted;
+}
+
+bool kernel::delete_style_by(std::string const& style, std::string const& language) const {
+    // Reads the header values itself, so that a file that is no addon is passed over here.
+    for (auto const& file_name : list_of_names_of_addons()) {
+        auto const text = addon_text_of(file_name);
+        if (!text)
+            return false;
+        auto const name = extract_value_of().from_ini_like("NAME", *text, "=");
+        auto const language_name = extract_value_of().from_ini_like("LANGUAGE", *text, "=");
+        if (name && language_name && *name == style && *language_name == language)
+            return detail::remove::from<addons_directory>(file_name);
+    }
+    return true;
+}
+
+bool kernel::rename_style(std::string const& style, std::string const& language,
+                          std::string const& new_name) const {
+    // A new file name that would leave the addons directory changes nothing at all.
+    if (!is_plain_file_name(addon_file_name_for(new_name, language)))
+        return false;
+    std::string file_name;
+    switch (addon_of(style, language, file_name)) {
+    case addons_pass::broken:
+        return false;
+    case addons_pass::exhausted:
+        return true;
+    case addons_pass::found:
+        break;
+    }
+    bool const renamed_inside = rename_this_style(file_name, style).to(new_name);
+    bool const file_renamed = rename_this_addon_file(file_name).based_on(new_name, language);
+    return renamed_inside && file_renamed;
+}

@@ -1,0 +1,31 @@
+// kernel: reading and replacing the form of one structure in an installed style.
+#include "core/kernel.h"
+
+#include "core/installed_files.h"
+#include "core/style_addon.h"
+#include "core/style_addon_editing.h"
+
+std::string kernel::language_structure_form_based_on(std::string const& language,
+                                                     std::string const& style,
+                                                     std::string const& structure) const {
+    std::string file_name;
+    if (addon_of(style, language, file_name) != addons_pass::found)
+        return std::string();
+    return obtain_structure_form(structure).from(file_name);
+}
+
+bool kernel::update_language_structure_form(std::string const& language, std::string const& style,
+                                            std::string const& structure,
+                                            std::string const& form) const {
+    std::string file_name;
+    switch (addon_of(style, language, file_name)) {
+    case addons_pass::found:
+        return update_this(structure, file_name).by(form);
+    case addons_pass::broken:
+        return false;
+    case addons_pass::exhausted:
+        break;
+    }
+    // A style that is not installed: nothing to write.
+    return true;
+}

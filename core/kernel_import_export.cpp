@@ -1,0 +1,94 @@
+// kernel: installing a language plugin or a style addon by copying it into the bundle, and
+// copying an installed addon out to where the user wants it.
+#include "core/kernel.h"
+
+#include "core/directory_listing.h"
+#include "core/installed_files.h"
+#include "core/store_files.h"
+#include "core/style_addon.h"
+#include "engine/plugin_obtainer.h"
+#include "engine/read_from.h"
+#include "engine/write_to.h"
+
+#include <QFileInfo>
+#include <QPluginLoader>
+
+namespace {
+
+QString from_utf8(std::string const& text) { return QString::fromStdString(text); }
+
+// Copies an addon into the addons directory; the copy must still describe the same style.
+bool store_addon(std::string const& path, style_description const& description) {
+    return store::in<addons_directory>(from_utf8(path), [&](QString const& copy) {
+        return obtain_style_description().from(copy.toStdString()) == description;
+    });
+}
+
+}  // namespace
+
+std::string kernel::import_language_from(std::string const& path) const {
+    std::string language;
+    // The copy must load as a language plugin and name its language before it replaces a plugin
+    // of the same file name.
+    bool const stored = store::in<plugins_directory>(from_utf8(path), [&](QString const& copy) {
+        QPluginLoader loader;
+        interface_to_language_plugin* plugin = plugin_obtainer(loader)(copy);
+        if (plugin != nullptr)
+            language = plugin->language_name();
+        return !language.empty();
+    });
+    return stored ? language : std::string();
+}
+
+style_description kernel::import_style_from(std::string const& path,
+                                            std::string const& language) const {
+    style_description const description = obtain_style_description().from_raw(path);
+    // A file that is no addon is never installed: it would hide every style.
+    if (description.is_empty() || description.language != language)
+        return description;
+    return store_addon(path, description) ? description : style_description();
+}
+
+style_description kernel::import_style_from(std::string const& path) const {
+    style_description const description = obtain_style_description().from_raw(path);
+    if (description.is_empty())
+        return description;
+    bool stored = true;
+    with_plugin_of(description.language, [&](interface_to_language_plugin&) {
+        stored = store_addon(path, description);
+    });
+    return stored ? description : style_description();
+}
+
+bool kernel::export_style(std::string const& style, std::string const& language,
+                          std::string const& destination) const {
+    // The front ends build the exported file's name from these names: they must keep it in the
+    // directory chosen.
+    if (!is_plain_file_name(addon_file_name_for(style, language)))
+        return false;
+    if (!is_plain_file_name(QFileInfo(from_utf8(destination)).fileName().toStdString()))
+        return false;
+    std::string file_name;
+    switch (addon_of(style, language, file_name)) {
+    case addons_pass::broken:
+        return false;
+    case addons_pass::exhausted:
+        return true;  // Only installed styles are offered for export.
+    case addons_pass::found:
+        break;
+    }
+    std::string bytes;
+    return read_from(path_of_addon(file_name)).to(bytes) &&
+           write_to(from_utf8(destination)).from(bytes);
+}
+
+std::string kernel::full_path_to_style_addon_by(std::string const& style,
+                                                std::string const& language) const {
+    // Unlike the lists, a stray file does not hide the addon wanted here.
+    for (auto const& file_name : list_of_names_of_addons()) {
+        style_description const d = obtain_style_description().from(file_name);
+        if (!d.is_empty() && d.style == style && d.language == language)
+            return path_of_addon(file_name).toStdString();
+    }
+    return std::string();
+}

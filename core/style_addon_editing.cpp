@@ -1,0 +1,50 @@
+#include "core/style_addon_editing.h"
+
+#include "core/store_files.h"
+#include "core/style_addon.h"
+#include "engine/traits_of.h"
+#include "engine/write_to.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+bool update_this::by(std::string const& form) const {
+    auto text = addon_text_of(file_name);
+    if (!text)
+        return false;
+    std::string const EOL = detail::traits_of()(*text).EOL;
+    // Stricter than reading a form: the name must be followed by the line ending at once.
+    std::string const section = "S_NAME=" + structure + EOL + "S_BEG" + EOL;
+    std::size_t const at = text->find(section);
+    if (at == std::string::npos)
+        return false;
+    std::size_t const begin = at + section.size();
+    std::size_t const end = text->find(EOL + "S_END", begin);
+    text->replace(begin, end == std::string::npos ? std::string::npos : end - begin, form);
+    return write_to(path_of_addon(file_name)).from(*text);
+}
+
+bool rename_this_style::to(std::string const& new_name) const {
+    auto text = addon_text_of(file_name);
+    if (!text)
+        return false;
+    std::string const old_header = "NAME=" + old_name;
+    std::size_t const at = text->find(old_header);
+    if (at == std::string::npos)
+        return false;
+    text->replace(at, old_header.size(), "NAME=" + new_name);
+    return write_to(path_of_addon(file_name)).from(*text);
+}
+
+bool rename_this_addon_file::based_on(std::string const& new_name,
+                                      std::string const& language) const {
+    std::string const new_file_name = addon_file_name_for(new_name, language);
+    // The names come from the user and from inside the addon: they must not lead out of the
+    // addons directory.
+    if (!is_plain_file_name(file_name) || !is_plain_file_name(new_file_name))
+        return false;
+    if (new_file_name == file_name)
+        return QFileInfo(path_of_addon(file_name)).exists();
+    // Refuses to replace a file of the new name.
+    return QFile::rename(path_of_addon(file_name), path_of_addon(new_file_name));
+}
