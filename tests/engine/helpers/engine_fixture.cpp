@@ -54,7 +54,7 @@ void install_plugin(QString const& built_plugin, QString const& as) {
 QByteArray addon_text(QByteArray const& style, QByteArray const& language,
                       QByteArray const& block_form) {
     return "NAME=" + style + "\nLANGUAGE=" + language + "\n\nS_NAME=block\nS_BEG\n" + block_form +
-           "\nS_END\n\nS_NAME=function call\nS_BEG\nname(argument);\nS_END\n";
+           "\nS_END\n\nS_NAME=function\nS_BEG\ntype name() { SOME }\nS_END\n\nS_NAME=function call\nS_BEG\nname(argument);\nS_END\n";
 }
 
 QString install_addon(QString const& file_name, QByteArray const& content) {
