@@ -1,0 +1,17 @@
+// The C++ language plugin's root object: the engine's plugin base with the C++ description.
+#ifndef TARNEL_PLUGINS_CPP_LANGUAGE_PLUGIN_H
+#define TARNEL_PLUGINS_CPP_LANGUAGE_PLUGIN_H
+
+#include "language_plugin_base.h"
+
+#include <QObject>
+
+class cpp_language_plugin : public QObject, public tarnel_engine::language_plugin_base {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.style-tarnel.interface_to_language_plugin")
+    Q_INTERFACES(interface_to_language_plugin)
+public:
+    cpp_language_plugin();
+};
+
+#endif

@@ -1,0 +1,100 @@
+// The brackets are read with clang's raw lexer, so that those in comments, strings and character
+// literals do not count.
+#include "bracket_balance.h"
+
+#include <clang/Basic/LangOptions.h>
+#include <clang/Lex/Lexer.h>
+
+#include <vector>
+
+namespace tarnel_engine {
+
+namespace {
+
+struct open_conditional {
+    std::vector<char> at_start;                     // the open brackets where #if stood
+    std::vector<char> after_first_branch;           // ... and where its first branch ended
+    bool first_branch_done = false;
+};
+
+char closer_of(clang::tok::TokenKind kind) {
+    switch (kind) {
+    case clang::tok::r_paren: return '(';
+    case clang::tok::r_square: return '[';
+    case clang::tok::r_brace: return '{';
+    default: return 0;
+    }
+}
+
+char opener_of(clang::tok::TokenKind kind) {
+    switch (kind) {
+    case clang::tok::l_paren: return '(';
+    case clang::tok::l_square: return '[';
+    case clang::tok::l_brace: return '{';
+    default: return 0;
+    }
+}
+
+}  // namespace
+
+bool brackets_are_balanced_in(std::string const& code) {
+    clang::LangOptions options;
+    options.CPlusPlus = options.CPlusPlus11 = options.CPlusPlus14 = options.CPlusPlus17 = true;
+    options.LineComment = true;
+    options.Digraphs = false;
+    clang::Lexer lexer(clang::SourceLocation(), options, code.data(), code.data(), code.data() + code.size());
+    lexer.SetCommentRetentionState(false);
+
+    std::vector<char> open;
+    std::vector<open_conditional> conditionals;
+    clang::Token token;
+    bool in_directive = false;
+    bool have_token = false;  // a token read ahead after a lone "#" that still needs counting
+    while (true) {
+        if (!have_token)
+            lexer.LexFromRawLexer(token);
+        have_token = false;
+        if (token.is(clang::tok::eof))
+            break;
+        if (token.isAtStartOfLine())
+            in_directive = false;
+        if (token.isAtStartOfLine() && token.is(clang::tok::hash)) {
+            in_directive = true;
+            clang::Token name;
+            lexer.LexFromRawLexer(name);
+            if (name.is(clang::tok::eof) || name.isAtStartOfLine()) {
+                token = name;
+                have_token = true;
+                continue;
+            }
+            std::string const directive = name.is(clang::tok::raw_identifier) ? name.getRawIdentifier().str() : std::string();
+            if (directive == "if" || directive == "ifdef" || directive == "ifndef") {
+                conditionals.push_back({open, {}, false});
+            } else if ((directive == "elif" || directive == "else" || directive == "elifdef" || directive == "elifndef") &&
+                       !conditionals.empty()) {
+                if (!conditionals.back().first_branch_done) {
+                    conditionals.back().after_first_branch = open;
+                    conditionals.back().first_branch_done = true;
+                }
+                open = conditionals.back().at_start;
+            } else if (directive == "endif" && !conditionals.empty()) {
+                if (conditionals.back().first_branch_done)
+                    open = conditionals.back().after_first_branch;
+                conditionals.pop_back();
+            }
+            continue;
+        }
+        if (in_directive)
+            continue;
+        if (char const opener = opener_of(token.getKind())) {
+            open.push_back(opener);
+        } else if (char const closed = closer_of(token.getKind())) {
+            if (open.empty() || open.back() != closed)
+                return false;
+            open.pop_back();
+        }
+    }
+    return open.empty();
+}
+
+}  // namespace tarnel_engine

@@ -1,0 +1,28 @@
+// One call of the clang-format engine on a whole text (internal to the engine library).
+#ifndef TARNEL_ENGINE_ENGINE_CALL_H
+#define TARNEL_ENGINE_ENGINE_CALL_H
+
+#include <clang/Format/Format.h>
+
+#include <string>
+
+namespace tarnel_engine {
+
+struct engine_outcome {
+    std::string text;
+    // False when the engine could not format some line because of a syntax error.
+    bool complete = true;
+};
+
+class format_with {
+public:
+    explicit format_with(clang::format::FormatStyle const& style) : style(style) {}
+    engine_outcome the_code(std::string const& code) const;
+
+private:
+    clang::format::FormatStyle const& style;
+};
+
+}  // namespace tarnel_engine
+
+#endif

@@ -1,0 +1,126 @@
+// Disk entries are the inferred options in clang-format's configuration syntax: readable by a
+// person, and re-read by the engine's own parser.
+#include "inference_cache.h"
+
+#include "addon_forms.h"
+#include "option_inference.h"
+#include "placeholder_instances.h"
+#include "token_safe_settings.h"
+#include "white_space.h"
+
+#include <QByteArray>
+#include <QCryptographicHash>
+#include <QDir>
+#include <QFile>
+#include <QSaveFile>
+
+#include <boost/xpressive/xpressive.hpp>
+
+namespace tarnel_engine {
+
+namespace {
+
+// Raise when the search itself changes, so that entries written by an older search are not used.
+char const* const search_revision = "1";
+
+std::string key_of(std::string const& addon, language_description const& language) {
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    for (std::string const& part : {std::string(STYLE_TARNEL_PLUGIN_VERSION), std::string(search_revision), language.name, addon}) {
+        hash.addData(part.data(), static_cast<int>(part.size()));
+        hash.addData("\n", 1);
+    }
+    for (structure const& each : language.structures) {
+        for (std::string const& part : {each.name, each.tokens})
+            hash.addData(part.data(), static_cast<int>(part.size()));
+        for (std::string const& option : each.decides)
+            hash.addData(option.data(), static_cast<int>(option.size()));
+    }
+    return hash.result().toHex().toStdString();
+}
+
+QString cache_directory() {
+    QByteArray const cache_home = qgetenv("XDG_CACHE_HOME");
+    if (!cache_home.isEmpty())
+        return QString::fromLocal8Bit(cache_home) + "/style-tarnel";
+    QByteArray const home = qgetenv("HOME");
+    if (home.isEmpty())
+        return QString();
+    return QString::fromLocal8Bit(home) + "/.cache/style-tarnel";
+}
+
+QString cache_file_for(std::string const& key) {
+    QString const directory = cache_directory();
+    return directory.isEmpty() ? QString() : directory + "/" + QString::fromStdString(key) + ".clang-format";
+}
+
+bool read_from_disk(std::string const& key, clang::format::FormatStyle& style) {
+    QString const path = cache_file_for(key);
+    QFile file(path);
+    if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
+        return false;
+    QByteArray const text = file.readAll();
+    clang::format::FormatStyle read = token_safe_predefined_style("LLVM");
+    if (clang::format::parseConfiguration(text.toStdString(), &read))
+        return false;
+    make_token_safe(read);
+    style = read;
+    return true;
+}
+
+// A cache that cannot be written is only slower, never wrong: failures are ignored.
+void write_to_disk(std::string const& key, clang::format::FormatStyle const& style) {
+    QString const path = cache_file_for(key);
+    if (path.isEmpty() || !QDir().mkpath(cache_directory()))
+        return;
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly))
+        return;
+    std::string const text = clang::format::configurationAsText(style);
+    file.write(text.data(), static_cast<qint64>(text.size()));
+    file.commit();
+}
+
+bool matches_in_full(std::string const& form, std::string const& expression) {
+    namespace xp = boost::xpressive;
+    try {
+        return xp::regex_match(form, xp::sregex::compile(expression));
+    } catch (...) {
+        return false;
+    }
+}
+
+}  // namespace
+
+std::vector<form_case> form_cases_in(std::string const& addon, language_description const& language) {
+    std::map<std::string, std::string> const expressions = expressions_of(language.structures);
+    std::vector<form_case> cases;
+    for (structure const& each : language.structures) {
+        std::string const form = form_of_structure(each.name).in(addon);
+        if (form.empty() || !matches_in_full(form, expressions.at(each.name)))
+            continue;
+        cases.push_back({with_instances(form_as_code(form)), each.decides});
+    }
+    return cases;
+}
+
+inference_cache& inference_cache::shared() {
+    static inference_cache cache;
+    return cache;
+}
+
+clang::format::FormatStyle inference_cache::style_for(std::string const& addon, language_description const& language) {
+    std::string const key = key_of(addon, language);
+    std::lock_guard<std::mutex> const lock(guard);
+    auto const known = in_memory.find(key);
+    if (known != in_memory.end())
+        return known->second;
+    clang::format::FormatStyle style;
+    if (!read_from_disk(key, style)) {
+        style = infer_options().from(form_cases_in(addon, language));
+        write_to_disk(key, style);
+    }
+    in_memory.emplace(key, style);
+    return style;
+}
+
+}  // namespace tarnel_engine

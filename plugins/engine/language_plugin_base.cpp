@@ -1,0 +1,30 @@
+// Nothing may leave the plugin as an exception: every member answers even when it fails.
+#include "language_plugin_base.h"
+
+namespace tarnel_engine {
+
+language_plugin_base::language_plugin_base(language_description const& language)
+    : language(language), revisions(language) {}
+
+std::string language_plugin_base::language_name() { return language.name; }
+
+std::vector<std::string> language_plugin_base::list_of_keywords() { return language.keywords; }
+
+std::vector<std::string> language_plugin_base::filename_extensions() { return language.filename_extensions; }
+
+std::map<std::string, std::string> language_plugin_base::forms_of_structures() {
+    try {
+        return expressions_of(language.structures);
+    } catch (...) {
+        return {};
+    }
+}
+
+std::string language_plugin_base::revise(std::string const& source, std::string const& addon,
+                                         line_ending_traits const& traits) {
+    return revisions.revise(source, addon, traits);
+}
+
+void language_plugin_base::end_of_revision() { revisions.forget_the_run(); }
+
+}  // namespace tarnel_engine

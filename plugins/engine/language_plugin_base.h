@@ -1,0 +1,31 @@
+// The plugin interface implemented once for every language of ours: a plugin's root object
+// derives from QObject and from this class, and passes its language description.
+#ifndef TARNEL_ENGINE_LANGUAGE_PLUGIN_BASE_H
+#define TARNEL_ENGINE_LANGUAGE_PLUGIN_BASE_H
+
+#include "interface_to_language_plugin.h"
+#include "language.h"
+#include "revision.h"
+
+namespace tarnel_engine {
+
+class language_plugin_base : public interface_to_language_plugin {
+public:
+    // The description must outlive the plugin (plugins pass a function-local static).
+    explicit language_plugin_base(language_description const& language);
+
+    std::string language_name() override;
+    std::vector<std::string> list_of_keywords() override;
+    std::vector<std::string> filename_extensions() override;
+    std::map<std::string, std::string> forms_of_structures() override;
+    std::string revise(std::string const& source, std::string const& addon, line_ending_traits const& traits) override;
+    void end_of_revision() override;
+
+private:
+    language_description const& language;
+    reviser revisions;
+};
+
+}  // namespace tarnel_engine
+
+#endif

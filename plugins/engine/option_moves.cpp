@@ -1,0 +1,158 @@
+// The candidate table. Values are kept as configuration text so that the table reads like the
+// engine's own documentation, and adding a value is one string.
+#include "option_moves.h"
+
+namespace tarnel_engine {
+
+namespace {
+
+std::vector<std::string> each_of(std::string const& option, std::vector<std::string> const& values) {
+    std::vector<std::string> candidates;
+    for (std::string const& value : values)
+        candidates.push_back("{" + option + ": " + value + "}");
+    return candidates;
+}
+
+std::vector<std::string> true_or_false(std::string const& option) { return each_of(option, {"true", "false"}); }
+
+option_group flag(std::string const& option) { return {option, true_or_false(option)}; }
+
+option_group one_of(std::string const& option, std::vector<std::string> const& values) {
+    return {option, each_of(option, values)};
+}
+
+option_group brace_wrapping(std::string const& flag, std::vector<std::string> const& values = {"true", "false"}) {
+    std::vector<std::string> candidates;
+    for (std::string const& value : values)
+        candidates.push_back("{BreakBeforeBraces: Custom, BraceWrapping: {" + flag + ": " + value + "}}");
+    return {"BraceWrapping." + flag, candidates};
+}
+
+option_group enabled(std::string const& option) {
+    return {option, {"{" + option + ": {Enabled: true}}", "{" + option + ": {Enabled: false}}"}};
+}
+
+std::vector<option_group> make_groups() {
+    std::vector<option_group> groups = {
+        {"Indentation",
+         {"{IndentWidth: 2, UseTab: Never}", "{IndentWidth: 3, UseTab: Never}", "{IndentWidth: 4, UseTab: Never}",
+          "{IndentWidth: 8, UseTab: Never}", "{IndentWidth: 8, TabWidth: 8, UseTab: Always}",
+          "{IndentWidth: 8, TabWidth: 8, UseTab: ForIndentation}", "{IndentWidth: 4, TabWidth: 4, UseTab: ForIndentation}",
+          "{IndentWidth: 4, TabWidth: 4, UseTab: Always}"}},
+        one_of("UseTab", {"Never", "ForIndentation", "ForContinuationAndIndentation", "AlignWithSpaces", "Always"}),
+        one_of("ContinuationIndentWidth", {"2", "4", "8"}),
+        one_of("ColumnLimit", {"80", "79", "100", "120", "0"}),
+        one_of("BreakBeforeBraces", {"Attach", "Linux", "Mozilla", "Stroustrup", "Allman", "Whitesmiths", "GNU", "WebKit"}),
+        brace_wrapping("AfterFunction"),
+        brace_wrapping("AfterControlStatement", {"Never", "MultiLine", "Always"}),
+        brace_wrapping("BeforeElse"),
+        brace_wrapping("AfterClass"),
+        brace_wrapping("AfterStruct"),
+        brace_wrapping("AfterUnion"),
+        brace_wrapping("AfterEnum"),
+        brace_wrapping("AfterNamespace"),
+        brace_wrapping("AfterExternBlock"),
+        brace_wrapping("AfterCaseLabel"),
+        brace_wrapping("BeforeCatch"),
+        brace_wrapping("BeforeWhile"),
+        brace_wrapping("BeforeLambdaBody"),
+        brace_wrapping("IndentBraces"),
+        brace_wrapping("SplitEmptyFunction"),
+        brace_wrapping("SplitEmptyRecord"),
+        one_of("SpaceBeforeParens", {"ControlStatements", "Never", "ControlStatementsExceptControlMacros",
+                                     "ControlStatementsExceptForEachMacros", "NonEmptyParentheses", "Always"}),
+        {"SpacesInParens",
+         {"{SpacesInParens: Never}",
+          "{SpacesInParens: Custom, SpacesInParensOptions: {InConditionalStatements: true, Other: true}}",
+          "{SpacesInParens: Custom, SpacesInParensOptions: {InConditionalStatements: true, Other: false}}"}},
+        one_of("PointerAlignment", {"Right", "Left", "Middle"}),
+        flag("DerivePointerAlignment"),
+        one_of("ReferenceAlignment", {"Pointer", "Left", "Right", "Middle"}),
+        one_of("AllowShortIfStatementsOnASingleLine", {"Never", "WithoutElse", "OnlyFirstIf", "AllIfsAndElse"}),
+        flag("AllowShortLoopsOnASingleLine"),
+        one_of("AllowShortFunctionsOnASingleLine", {"None", "Empty", "Inline", "InlineOnly", "All"}),
+        one_of("AllowShortBlocksOnASingleLine", {"Never", "Empty", "Always"}),
+        flag("AllowShortCaseLabelsOnASingleLine"),
+        flag("AllowShortEnumsOnASingleLine"),
+        one_of("AllowShortLambdasOnASingleLine", {"None", "Empty", "Inline", "All"}),
+        flag("IndentCaseLabels"),
+        flag("IndentCaseBlocks"),
+        one_of("NamespaceIndentation", {"None", "Inner", "All"}),
+        one_of("AccessModifierOffset", {"-2", "-1", "-4", "-3", "-8", "0"}),
+        flag("IndentAccessModifiers"),
+        one_of("EmptyLineBeforeAccessModifier", {"LogicalBlock", "Never", "Leave", "Always"}),
+        one_of("BreakAfterReturnType", {"None", "Automatic", "ExceptShortType", "All", "TopLevel", "AllDefinitions",
+                                        "TopLevelDefinitions"}),
+        one_of("BreakBeforeBinaryOperators", {"None", "NonAssignment", "All"}),
+        flag("BreakBeforeTernaryOperators"),
+        one_of("AlignAfterOpenBracket", {"Align", "DontAlign", "AlwaysBreak", "BlockIndent"}),
+        one_of("AlignOperands", {"Align", "DontAlign", "AlignAfterOperator"}),
+        flag("BinPackArguments"),
+        flag("BinPackParameters"),
+        flag("AllowAllArgumentsOnNextLine"),
+        flag("AllowAllParametersOfDeclarationOnNextLine"),
+        one_of("BreakConstructorInitializers", {"BeforeColon", "BeforeComma", "AfterColon"}),
+        one_of("PackConstructorInitializers", {"BinPack", "Never", "CurrentLine", "NextLine", "NextLineOnly"}),
+        one_of("ConstructorInitializerIndentWidth", {"4", "2", "8"}),
+        one_of("BreakInheritanceList", {"BeforeColon", "BeforeComma", "AfterColon", "AfterComma"}),
+        flag("SpaceAfterCStyleCast"),
+        flag("SpaceBeforeAssignmentOperators"),
+        flag("SpaceAfterTemplateKeyword"),
+        flag("SpaceBeforeCpp11BracedList"),
+        flag("Cpp11BracedListStyle"),
+        flag("SpaceBeforeRangeBasedForLoopColon"),
+        flag("SpaceBeforeCtorInitializerColon"),
+        flag("SpaceBeforeInheritanceColon"),
+        flag("SpaceInEmptyBlock"),
+        flag("SpaceAfterLogicalNot"),
+        flag("SpaceBeforeSquareBrackets"),
+        flag("SpacesInSquareBrackets"),
+        one_of("SpacesInAngles", {"Never", "Always", "Leave"}),
+        one_of("SpacesBeforeTrailingComments", {"1", "2"}),
+        {"AlignTrailingComments",
+         {"{AlignTrailingComments: {Kind: Always}}", "{AlignTrailingComments: {Kind: Never}}",
+          "{AlignTrailingComments: {Kind: Leave}}"}},
+        one_of("BreakTemplateDeclarations", {"MultiLine", "Yes", "No", "Leave"}),
+        one_of("IndentPPDirectives", {"None", "AfterHash", "BeforeHash"}),
+        one_of("PPIndentWidth", {"-1", "1", "2", "4"}),
+        one_of("AlignEscapedNewlines", {"Right", "Left", "LeftWithLastLine", "DontAlign"}),
+        enabled("AlignConsecutiveAssignments"),
+        enabled("AlignConsecutiveDeclarations"),
+        enabled("AlignConsecutiveMacros"),
+        enabled("AlignConsecutiveBitFields"),
+        flag("IndentGotoLabels"),
+        flag("IndentWrappedFunctionNames"),
+        one_of("IndentExternBlock", {"AfterExternBlock", "NoIndent", "Indent"}),
+        one_of("LambdaBodyIndentation", {"Signature", "OuterScope"}),
+        one_of("BitFieldColonSpacing", {"Both", "None", "Before", "After"}),
+        one_of("AlignArrayOfStructures", {"None", "Left", "Right"}),
+        flag("SpaceBeforeCaseColon"),
+        one_of("MaxEmptyLinesToKeep", {"1", "2"}),
+    };
+    return groups;
+}
+
+}  // namespace
+
+std::vector<option_group> const& option_groups() {
+    static std::vector<option_group> const groups = make_groups();
+    return groups;
+}
+
+bool applies_to_every_structure(std::string const& group_name) {
+    return group_name == "Indentation" || group_name == "UseTab" || group_name == "BreakBeforeBraces";
+}
+
+bool apply_candidate(clang::format::FormatStyle& style, std::string const& candidate) {
+    clang::format::FormatStyle moved = style;
+    bool const on_expansion = candidate.find("BraceWrapping") != std::string::npos ||
+                              candidate.find("SpacesInParensOptions") != std::string::npos;
+    if (on_expansion && clang::format::parseConfiguration(clang::format::configurationAsText(style), &moved))
+        return false;
+    if (clang::format::parseConfiguration(candidate, &moved))
+        return false;
+    style = moved;
+    return true;
+}
+
+}  // namespace tarnel_engine

@@ -1,0 +1,33 @@
+// The table of options the inference may move, each with its candidate values written in
+// clang-format's configuration syntax (internal to the engine library).
+#ifndef TARNEL_ENGINE_OPTION_MOVES_H
+#define TARNEL_ENGINE_OPTION_MOVES_H
+
+#include <clang/Format/Format.h>
+
+#include <string>
+#include <vector>
+
+namespace tarnel_engine {
+
+struct option_group {
+    // The clang-format option it moves (structures name it in `decides`), or a name for options
+    // that only work together, such as "Indentation" (indent width, tab width and tab use).
+    std::string name;
+    // Each candidate: a YAML mapping that sets the group's options to one combination of values.
+    std::vector<std::string> candidates;
+};
+
+// Every group, in the order the search visits them: broad options first.
+std::vector<option_group> const& option_groups();
+
+// The groups that apply to every structure, whatever its catalogue entry names.
+bool applies_to_every_structure(std::string const& group_name);
+
+// Applies a candidate to a style. Brace wrapping flags and custom space options are applied on
+// top of the expansion of the style's preset, so that one flag moves and the others stay.
+bool apply_candidate(clang::format::FormatStyle& style, std::string const& candidate);
+
+}  // namespace tarnel_engine
+
+#endif

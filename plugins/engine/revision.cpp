@@ -1,0 +1,114 @@
+// The revision pipeline: decode, check brackets, format until stable, check that only white space
+// changed, encode back.
+#include "revision.h"
+
+#include "addon_forms.h"
+#include "bracket_balance.h"
+#include "engine_call.h"
+#include "inference_cache.h"
+#include "placeholder_instances.h"
+#include "text_encoding.h"
+#include "token_safe_settings.h"
+#include "white_space.h"
+
+#include <map>
+
+namespace tarnel_engine {
+
+namespace {
+
+// The engine changes its own output again on a few files in a hundred; a handful of rounds
+// settles them.
+int const rounds_to_stability = 4;
+
+std::string const syntax_error = STYLE_TARNEL_SYNTAX_ERROR_TEXT;
+
+clang::format::FormatStyle::LineEndingStyle engine_line_ending(line_ending ending) {
+    return ending == line_ending::carriage_return_line_feed ? clang::format::FormatStyle::LE_CRLF
+                                                            : clang::format::FormatStyle::LE_LF;
+}
+
+}  // namespace
+
+struct reviser::run_state {
+    std::string addon;
+    clang::format::FormatStyle style;
+};
+
+reviser::reviser(language_description const& language) : language(language) {}
+reviser::~reviser() = default;
+
+void reviser::forget_the_run() { run.reset(); }
+
+std::string reviser::revise(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
+    try {
+        text_encoding const encoding = text_encoding::of(source, traits);
+        std::optional<std::string> const decoded = encoding.decoded(source);
+        if (!decoded || decoded->find('\0') != std::string::npos)
+            return source;
+        if (!brackets_are_balanced_in(*decoded))
+            return syntax_error;
+        if (!run || run->addon != addon)
+            run = std::make_unique<run_state>(run_state{addon, inference_cache::shared().style_for(addon, language)});
+        clang::format::FormatStyle style = run->style;
+        style.LineEnding = engine_line_ending(encoding.ending());
+
+        engine_outcome outcome = format_with(style).the_code(*decoded);
+        if (!outcome.complete)
+            return syntax_error;
+        bool stable = outcome.text == *decoded;
+        for (int round = 0; round < rounds_to_stability && !stable; ++round) {
+            engine_outcome again = format_with(style).the_code(outcome.text);
+            stable = again.text == outcome.text;
+            outcome = std::move(again);
+        }
+        // A text the engine keeps changing, or one where more than white space would change, is
+        // left as it is: never a half-settled or token-changing result.
+        if (!stable || !only_white_space_differs(*decoded, outcome.text))
+            return source;
+        std::optional<std::string> encoded = encoding.encoded(outcome.text);
+        if (!encoded || *encoded == source)
+            return source;
+        return std::move(*encoded);
+    } catch (...) {
+        return syntax_error;
+    }
+}
+
+std::string options_inferred_from(std::string const& addon, language_description const& language) {
+    return clang::format::configurationAsText(inference_cache::shared().style_for(addon, language));
+}
+
+std::map<std::string, std::string> forms_formatted_by_inferred_options(std::string const& addon,
+                                                                       language_description const& language) {
+    clang::format::FormatStyle const style = inference_cache::shared().style_for(addon, language);
+    std::map<std::string, std::string> formatted;
+    for (structure const& each : language.structures) {
+        std::string const form = form_of_structure(each.name).in(addon);
+        if (form.empty())
+            continue;
+        std::string const code = form_as_code(form);
+        formatted[each.name] =
+            form_as_code(without_instances(format_with(style).the_code(with_instances(code) + "\n").text));
+    }
+    return formatted;
+}
+
+std::string addon_written_in(std::string const& options, std::string const& style_name, language_description const& language) {
+    clang::format::FormatStyle style = token_safe_predefined_style("LLVM");
+    bool const predefined = clang::format::getPredefinedStyle(options, clang::format::FormatStyle::LK_Cpp, &style);
+    if (!predefined && clang::format::parseConfiguration(options, &style))
+        return std::string();
+    make_token_safe(style);
+    std::map<std::string, std::string> forms;
+    for (structure const& each : language.structures) {
+        std::string const code = with_instances(form_as_code(each.tokens));
+        forms[each.name] = form_as_code(without_instances(format_with(style).the_code(code + "\n").text));
+    }
+    std::string addon = "NAME=" + style_name + "\nLANGUAGE=" + language.name + "\n";
+    for (auto const& [name, form] : forms)
+        addon += "\nS_NAME=" + name + "\nS_BEG\n" + form + "\nS_END\n";
+    return addon;
+}
+
+}  // namespace tarnel_engine

@@ -1,0 +1,50 @@
+// Revising one source in the style of an addon: what a language plugin's revise() does, with the
+// promises it keeps (only white space changes, idempotent, encoding and line ending kept).
+#ifndef TARNEL_ENGINE_REVISION_H
+#define TARNEL_ENGINE_REVISION_H
+
+#include "interface_to_language_plugin.h"
+#include "language.h"
+
+#include <map>
+#include <memory>
+#include <string>
+
+namespace tarnel_engine {
+
+class reviser {
+public:
+    explicit reviser(language_description const& language);
+    ~reviser();
+
+    // The source in the addon's style; the source itself, byte for byte, when nothing changes or
+    // when the only result would change more than white space; STYLE_TARNEL_SYNTAX_ERROR_TEXT for
+    // code the engine cannot format completely or whose brackets do not pair up. Never throws.
+    std::string revise(std::string const& source, std::string const& addon, line_ending_traits const& traits);
+
+    // Drops what this run remembered (the last addon and its options); the inference caches stay.
+    void forget_the_run();
+
+private:
+    struct run_state;
+    language_description const& language;
+    std::unique_ptr<run_state> run;
+};
+
+// The options inferred from an addon, in clang-format's configuration syntax.
+std::string options_inferred_from(std::string const& addon, language_description const& language);
+
+// For each present form of the addon: whether formatting it alone under the inferred options gives
+// it back unchanged. Structure name -> the formatted form (equal to the form when it is a fixed
+// point), placeholders restored.
+std::map<std::string, std::string> forms_formatted_by_inferred_options(std::string const& addon,
+                                                                       language_description const& language);
+
+// Writes an addon for the language: each structure's tokens formatted under the options given in
+// clang-format's configuration syntax (or a predefined style's name), in the order of the names.
+// Empty when the options cannot be read.
+std::string addon_written_in(std::string const& options, std::string const& style_name, language_description const& language);
+
+}  // namespace tarnel_engine
+
+#endif

@@ -1,0 +1,38 @@
+// A language's structures: each a fixed token sequence with placeholders, whose white space is
+// what a style addon shows. From the tokens comes the expression that a form must match.
+#ifndef TARNEL_ENGINE_STRUCTURE_CATALOGUE_H
+#define TARNEL_ENGINE_STRUCTURE_CATALOGUE_H
+
+#include <map>
+#include <string>
+#include <vector>
+
+namespace tarnel_engine {
+
+struct structure {
+    // Lower-case words separated by single blanks, as addons and manuals name it.
+    std::string name;
+    // The token sequence, written out as code (its own white space does not matter).
+    std::string tokens;
+    // One sentence for the manual: what the structure shows a reader of the style.
+    std::string purpose;
+    // The option groups of the inference (option_moves.h) whose values this structure's form decides.
+    std::vector<std::string> decides;
+};
+
+using structure_catalogue = std::vector<structure>;
+
+// Splits code into the tokens that forms must keep: words, literals, comment markers and
+// operators (longest first); white space separates and is dropped.
+std::vector<std::string> tokens_of(std::string const& code);
+
+// The ECMAScript expression that matches the tokens with any white space between them (at least a
+// blank between two words), and around them. Linear: literal tokens joined by \s* or \s+.
+std::string expression_for(std::vector<std::string> const& tokens);
+
+// Structure name -> expression, as the plugin interface gives them to the host.
+std::map<std::string, std::string> expressions_of(structure_catalogue const& catalogue);
+
+}  // namespace tarnel_engine
+
+#endif

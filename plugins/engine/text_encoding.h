@@ -1,0 +1,38 @@
+// The encoding and line ending of a source, told by the line-ending traits the host passes, and
+// the way to UTF-8 with line feeds (what the engine formats) and back to the file's own bytes.
+#ifndef TARNEL_ENGINE_TEXT_ENCODING_H
+#define TARNEL_ENGINE_TEXT_ENCODING_H
+
+#include "interface_to_language_plugin.h"
+
+#include <optional>
+#include <string>
+
+namespace tarnel_engine {
+
+enum class line_ending { line_feed, carriage_return_line_feed, carriage_return };
+
+class text_encoding {
+public:
+    // UTF-16 and UTF-32 are recognised by the pattern of the EOL bytes (how many bytes, which of
+    // them are zero), not by the length of the space: a UTF-16 CR LF comes with a four-byte space.
+    // A text without line break is 8-bit unless it starts with a UTF-16 or UTF-32 byte-order mark.
+    static text_encoding of(std::string const& source, line_ending_traits const& traits);
+
+    // The source as UTF-8 with the file's line ending mapped as the engine needs it (CR alone
+    // becomes LF); nothing when the bytes are not valid in the encoding.
+    std::optional<std::string> decoded(std::string const& source) const;
+    // The formatted UTF-8 text back in the file's encoding and line ending.
+    std::optional<std::string> encoded(std::string const& text) const;
+
+    line_ending ending() const { return line_ending_kind; }
+
+private:
+    unsigned unit = 1;          // bytes per code unit: 1, 2 or 4
+    bool little_endian = true;  // for units of 2 and 4 bytes
+    line_ending line_ending_kind = line_ending::line_feed;
+};
+
+}  // namespace tarnel_engine
+
+#endif

@@ -1,0 +1,27 @@
+// The engine's settings that would edit tokens, switched off, and the predefined styles that the
+// inference starts from (internal to the engine library).
+#ifndef TARNEL_ENGINE_TOKEN_SAFE_SETTINGS_H
+#define TARNEL_ENGINE_TOKEN_SAFE_SETTINGS_H
+
+#include <clang/Format/Format.h>
+
+#include <string>
+#include <vector>
+
+namespace tarnel_engine {
+
+// Switches off include sorting and regrouping, brace insertion and removal, namespace end
+// comments, comment reflow, qualifier reordering, semicolon and parenthesis removal, literal
+// separators, trailing commas, quote rewriting, string splitting and using-declaration sorting,
+// and keeps the end of the file as it is: whatever the style says, only white space may change.
+void make_token_safe(clang::format::FormatStyle& style);
+
+// The engine's predefined styles, in the order the inference prefers them on a tie.
+std::vector<std::string> const& names_of_predefined_styles();
+
+// A predefined style for C and C++ code, made token-safe.
+clang::format::FormatStyle token_safe_predefined_style(std::string const& name);
+
+}  // namespace tarnel_engine
+
+#endif
