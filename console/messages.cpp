@@ -1,0 +1,88 @@
+#include "console/messages.h"
+
+#include "core/product.h"
+
+#include <iostream>
+
+namespace console {
+
+void say(std::string const& message) { std::cerr << message << std::endl; }
+
+void done() { say("It's done."); }
+
+namespace message {
+
+std::string usage_hint() { return " Please run app with '-h' flag to see usage info."; }
+std::string listing_hint() { return " Please run app with '--ls' flag to see what supported."; }
+
+std::string argument_not_in_form_name_value() {
+    return "Valid argument (except '--delete') must be in the form 'name=value'.";
+}
+std::string unknown_arguments() { return "There are unknown arguments."; }
+std::string not_understood() { return "I don't understand what you want to do."; }
+
+std::string no_such_file_or_directory(std::string const& path) {
+    return "No such file or directory '" + path + "', please correct path.";
+}
+std::string no_such_language(std::string const& language) {
+    return "There is no language '" + language + "'.";
+}
+std::string no_such_style(std::string const& style, std::string const& language) {
+    return "There is no style '" + style + "' for language '" + language + "'.";
+}
+std::string invalid_extensions() { return "Filename extension may contain English letters and digits only."; }
+
+std::string cannot_export_to(std::string const& directory) {
+    return "I cannot export style to '" + directory + "'. " +
+           "Please make sure this directory exists and you have write permissions.";
+}
+std::string cannot_export_style_to(std::string const& directory) {
+    return "I cannot export style to '" + directory + "'.";
+}
+
+std::string invalid_style_name(std::string const& name) {
+    return "Invalid name of style '" + name + "', " + "it must be in English.";
+}
+std::string cannot_rename_style(std::string const& style) { return "I cannot rename style '" + style + "'."; }
+
+std::string no_such_file(std::string const& path) { return "No such file '" + path + "'."; }
+std::string cannot_import_language(std::string const& path) {
+    return "I cannot import language '" + path + "'.";
+}
+std::string no_language_for_imported_style(std::string const& language) {
+    return "There is no language '" + language +
+           "', so I cannot import style for it. Please import this language first.";
+}
+std::string cannot_import_style(std::string const& path) {
+    return "I cannot import style '" + path + "', it has invalid format. " + "For more info please read " +
+           product::web_site + "/user-guide/style-addon-by-hand" + ".";
+}
+std::string invalid_extension_of_file(std::string const& path) {
+    return "Invalid extension of file '" + path + "'.";
+}
+
+std::string no_such_style_to_delete(std::string const& style, std::string const& language) {
+    return "There is no style '" + style + "' for language '" + language + "', so I cannot delete it.";
+}
+std::string only_style_of_language(std::string const& style, std::string const& language) {
+    return "Sorry, I cannot delete style '" + style + "', because it's the only one for language '" +
+           language + "'. If you don't need this style - " + "please import at least one other for language '" +
+           language + "', and after that you'll be able to " + "delete style '" + style + "'.";
+}
+std::string cannot_delete_style(std::string const& style) { return "I cannot delete style '" + style + "'."; }
+std::string no_such_language_to_delete(std::string const& language) {
+    return "There is no language '" + language + "', so I cannot delete it.";
+}
+std::string only_language(std::string const& language) {
+    return "Sorry, I cannot delete language '" + language + "', because it's the only one. " +
+           "If you don't need this language - " + "please import at least one other, and after that you'll be able to " +
+           "delete language '" + language + "'.";
+}
+std::string cannot_delete_language(std::string const& language) {
+    return "Sorry, I cannot delete language '" + language + "'.";
+}
+
+std::string cannot_apply_update(std::string const& path) { return "I cannot apply update '" + path + "'."; }
+
+}  // namespace message
+}  // namespace console

@@ -1,0 +1,54 @@
+// Every message of the command-line front end, in one place, word for word. Messages go to
+// standard error, one per line, flushed; standard output is kept for the revision report.
+#ifndef STYLE_TARNEL_CONSOLE_MESSAGES_H
+#define STYLE_TARNEL_CONSOLE_MESSAGES_H
+
+#include <string>
+
+namespace console {
+
+// Writes one message and a line end to standard error, and flushes.
+void say(std::string const& message);
+
+// "It's done."
+void done();
+
+namespace message {
+
+std::string usage_hint();
+std::string listing_hint();
+
+std::string argument_not_in_form_name_value();
+std::string unknown_arguments();
+std::string not_understood();
+
+std::string no_such_file_or_directory(std::string const& path);
+std::string no_such_language(std::string const& language);
+std::string no_such_style(std::string const& style, std::string const& language);
+std::string invalid_extensions();
+
+std::string cannot_export_to(std::string const& directory);
+std::string cannot_export_style_to(std::string const& directory);
+
+std::string invalid_style_name(std::string const& name);
+std::string cannot_rename_style(std::string const& style);
+
+std::string no_such_file(std::string const& path);
+std::string cannot_import_language(std::string const& path);
+std::string no_language_for_imported_style(std::string const& language);
+std::string cannot_import_style(std::string const& path);
+std::string invalid_extension_of_file(std::string const& path);
+
+std::string no_such_style_to_delete(std::string const& style, std::string const& language);
+std::string only_style_of_language(std::string const& style, std::string const& language);
+std::string cannot_delete_style(std::string const& style);
+std::string no_such_language_to_delete(std::string const& language);
+std::string only_language(std::string const& language);
+std::string cannot_delete_language(std::string const& language);
+
+std::string cannot_apply_update(std::string const& path);
+
+}  // namespace message
+}  // namespace console
+
+#endif

@@ -1,0 +1,112 @@
+#include "console/show_help_info.h"
+
+#include "core/product.h"
+
+#include <iostream>
+#include <string>
+
+namespace console {
+
+namespace {
+
+// The banner is a box 56 characters wide; text longer than its field pushes the "|" right.
+std::string banner_line(std::string const& text) {
+    std::string line = " | " + text;
+    if (text.size() < 52)
+        line.append(52 - text.size(), ' ');
+    return line + "|";
+}
+
+// Several lines end in a blank before their line end: that is part of the text.
+char const* const usage_lines[] = {
+    "",
+    " Usage: ./Style\\ Tarnel [FLAGS]",
+    "",
+    "  If you run app without FLAGS, it will run in GUI mode.",
+    "",
+    " FLAGS are:",
+    "",
+    "  -h, --help          Print help info and exit.",
+    "  -v, --version       Print version and exit.",
+    "  -l, --lang          Specify name of programming language.",
+    "  -s, --style         Specify name of formatting style.",
+    "  -p, --path          Specify path to your file or directory.",
+    "  -f, --force         Revise file(s) forcibly.",
+    "      --exts          Specify list of extensions of your files.",
+    "                      By default standard extensions will be used.",
+    "      --import        Specify path to importing file (style addon or language plugin).",
+    "      --export        Specify path where exporting style addon will be placed.",
+    "      --delete        Delete language or style.",
+    "      --rename        Rename style.",
+    "      --ls            Print list of supported languages and styles.",
+    "      --update        Update an app.",
+    "",
+    " Real-life examples:",
+    "",
+    "  ./Style\\ Tarnel --lang=C --style='Kernighan&Ritchie' --path=/home/someuser/proj/src",
+    "",
+    "      'C' language, 'Kernighan&Ritchie' style. All files with standard C-extensions in ",
+    "      directory 'home/someuser/proj/src' (and in subfolders) will be formatted.",
+    "",
+    "  ./Style\\ Tarnel -l=C -s=GNU -p=~/main.c -p=~/math.h > /tmp/tq.log",
+    "",
+    "      'C' language, 'GNU' style. Files 'main.c' and 'math.h' in user's home directory will be formatted. ",
+    "      You can specify any number of paths at the same time. Report will be redirected from ",
+    "      std output into file '/tmp/tq.log'.",
+    "",
+    "  ./Style\\ Tarnel --lang=C++ --style=Google --exts=cc,hpp --path=\"../../../../../w session/src\"",
+    "",
+    "      'C++' language, 'Google' style. Only files with extensions 'cc' and 'hpp' in directory ",
+    "      '/Users/someuser/w session/src' will be formatted. Comma-separated list of extensions cannot ",
+    "      contain spaces. As you see path can be relative.",
+    "",
+    "  ./Style\\ Tarnel --import=/Users/someuser/libc-language-plugin.dylib",
+    "",
+    "      Language plugin 'libc-language-plugin.dylib' from directory '/Users/someuser' will be imported. ",
+    "      If you already have such plugin, it will be replaced. You can import only one language plugin ",
+    "      or style addon at a time.",
+    "",
+    "  ./Style\\ Tarnel -l=C++ -s=my-Google-based --export=/home/someuser",
+    "",
+    "      Your own 'Google-based' formatting style for 'C++' language will be exported into ",
+    "      '/home/someuser' directory. You'll see style addon named 'my-Google-based[C++].style' in this path. ",
+    "      If you already have style addon with such name in this directory, it will be replaced.",
+    "",
+    "  ./Style\\ Tarnel -l=C --delete",
+    "",
+    "      Delete 'C' language plugin. Of course, all styles for this language will be deleted too.",
+    "",
+    "  ./Style\\ Tarnel --lang=C++ --style=\"SC st\" --delete",
+    "",
+    "      Delete 'SC st' style addon for 'C++' language. You can delete only one language and only ",
+    "      one style at a time.",
+    "",
+    "  ./Style\\ Tarnel -l=C++ -s='SC st' --rename='SC st2'",
+    "",
+    "      Rename style for 'C++' language from 'SC st' to 'SC st2'. You can rename only one style at a time.",
+    "",
+    "  ./Style\\ Tarnel --update=\"/Users/someuser/Downloads/Style Tarnel\"",
+    "",
+    "      Update app by executable 'Style Tarnel' in directory '/Users/someuser/Downloads'.",
+    "",
+};
+
+}  // namespace
+
+void show_help_info::operator()() const {
+    std::string const frame = " +" + std::string(53, '-') + "+";
+    std::cerr << frame << '\n'
+              << banner_line(product::title) << '\n'
+              << banner_line(std::string("Version ") + product::version) << '\n'
+              << banner_line(std::string("For more info please visit ") + product::web_site) << '\n'
+              << frame << '\n';
+    for (char const* line : usage_lines)
+        std::cerr << line << '\n';
+    std::cerr.flush();
+}
+
+void show_version::operator()() const {
+    std::cerr << product::title << ", version " << product::version << std::endl;
+}
+
+}  // namespace console

@@ -1,0 +1,170 @@
+// The command line's store operations: export, rename, import, delete, and the self-update.
+#include "console/result_of_run.h"
+
+#include "console/messages.h"
+#include "core/kernel.h"
+#include "core/style_addon.h"
+#include "core/there_is_no_such.h"
+#include "engine/plugin_obtainer.h"
+#include "engine/transform.h"
+
+#include <QFileInfo>
+
+namespace console {
+
+namespace {
+
+std::string absolute(std::string const& path) {
+    return transform(QString::fromStdString(path)).to_absolute().toStdString();
+}
+
+// Even a file that is only read must be writable: a read-only one is reported as missing.
+bool usable_file(std::string const& path) {
+    QFileInfo const info(QString::fromStdString(path));
+    return info.exists() && info.isFile() && info.isReadable() && info.isWritable();
+}
+
+bool usable_directory(std::string const& path) {
+    QFileInfo const info(QString::fromStdString(path));
+    return info.exists() && info.isDir() && info.isReadable() && info.isWritable();
+}
+
+// Says which of the language and the style is unknown; true when both are installed.
+bool language_and_style_are_installed(std::string const& language, std::string const& style) {
+    if (there_is_no_such().language(language)) {
+        say(message::no_such_language(language) + message::listing_hint());
+        return false;
+    }
+    if (there_is_no_such().style(style, language)) {
+        say(message::no_such_style(style, language) + message::listing_hint());
+        return false;
+    }
+    return true;
+}
+
+int delete_style(std::string const& style, std::string const& language) {
+    if (there_is_no_such().style(style, language)) {
+        say(message::no_such_style_to_delete(style, language) + message::listing_hint());
+        return 1;
+    }
+    auto const styles = kernel().supported_formatting_styles_for(language);
+    if (styles && styles->size() == 1) {
+        say(message::only_style_of_language(style, language));
+        return 1;
+    }
+    if (!kernel().delete_style_by(style, language)) {
+        say(message::cannot_delete_style(style));
+        return 1;
+    }
+    done();
+    return 0;
+}
+
+int delete_language(std::string const& language) {
+    if (there_is_no_such().language(language)) {
+        say(message::no_such_language_to_delete(language) + message::listing_hint());
+        return 1;
+    }
+    if (kernel().supported_programming_languages().size() == 1) {
+        say(message::only_language(language));
+        return 1;
+    }
+    if (!kernel().delete_language_by(language)) {
+        say(message::cannot_delete_language(language));
+        return 1;
+    }
+    done();
+    return 0;
+}
+
+}  // namespace
+
+int result_of_run::export_style_based_on(argument_list const& arguments) const {
+    std::string const language = value_of(arguments, "--lang", "-l");
+    std::string const style = value_of(arguments, "--style", "-s");
+    if (!language_and_style_are_installed(language, style))
+        return 1;
+    std::string const directory = absolute(value_of(arguments, "--export"));
+    if (!usable_directory(directory)) {
+        say(message::cannot_export_to(directory));
+        return 1;
+    }
+    std::string const target = directory + "/" + addon_file_name_for(style, language);
+    if (!kernel().export_style(style, language, target)) {
+        say(message::cannot_export_style_to(directory));
+        return 1;
+    }
+    done();
+    return 0;
+}
+
+int result_of_run::rename_style_based_on(argument_list const& arguments) const {
+    std::string const language = value_of(arguments, "--lang", "-l");
+    std::string const style = value_of(arguments, "--style", "-s");
+    std::string const new_name = value_of(arguments, "--rename");
+    if (!language_and_style_are_installed(language, style))
+        return 1;
+    if (!matches_in_full(new_name, style_name_validator())) {
+        say(message::invalid_style_name(new_name));
+        return 1;
+    }
+    if (!kernel().rename_style(style, language, new_name)) {
+        say(message::cannot_rename_style(style));
+        return 1;
+    }
+    done();
+    return 0;
+}
+
+int result_of_run::import_something_based_on(argument_list const& arguments) const {
+    std::string const path = absolute(value_of(arguments, "--import"));
+    if (!usable_file(path)) {
+        say(message::no_such_file(path) + message::usage_hint());
+        return 1;
+    }
+    if (language_plugin()(path)) {
+        if (kernel().import_language_from(path).empty()) {
+            say(message::cannot_import_language(path));
+            return 1;
+        }
+        done();
+        return 0;
+    }
+    if (style_addon()(path)) {
+        std::string const language = obtain_style_description().from_raw(path).language;
+        if (there_is_no_such().language(language)) {
+            say(message::no_language_for_imported_style(language));
+            return 1;
+        }
+        if (kernel().import_style_from(path).is_empty()) {
+            say(message::cannot_import_style(path));
+            return 1;
+        }
+        done();
+        return 0;
+    }
+    say(message::invalid_extension_of_file(path) + message::usage_hint());
+    return 1;
+}
+
+int result_of_run::delete_something_based_on(argument_list const& arguments) const {
+    std::string const language = value_of(arguments, "--lang", "-l");
+    std::string const style = value_of(arguments, "--style", "-s");
+    return style.empty() ? delete_language(language) : delete_style(style, language);
+}
+
+int result_of_run::update_app_based_on(argument_list const& arguments) const {
+    std::string const path = absolute(value_of(arguments, "--update"));
+    if (!usable_file(path)) {
+        say(message::no_such_file(path) + message::usage_hint());
+        return 1;
+    }
+    if (!kernel().apply(path)) {
+        say(message::cannot_apply_update(path));
+        return 1;
+    }
+    done();
+    return 0;
+}
+
+}  // namespace console

@@ -1,0 +1,74 @@
+#include "console/true_if_user.h"
+
+#include <algorithm>
+
+std::size_t quantity_of::in(console::argument_list const& arguments) const {
+    return static_cast<std::size_t>(std::count_if(arguments.begin(), arguments.end(), [&](pair const& argument) {
+        return argument.first == long_name || (!short_name.empty() && argument.first == short_name);
+    }));
+}
+
+namespace console {
+
+namespace {
+
+std::size_t languages(argument_list const& arguments) { return quantity_of("--lang", "-l").in(arguments); }
+std::size_t styles(argument_list const& arguments) { return quantity_of("--style", "-s").in(arguments); }
+
+// A language and a style, and one pair of `name`, and nothing else.
+bool one_style_with(std::string const& name, argument_list const& arguments) {
+    return arguments.size() == 3 && languages(arguments) == 1 && styles(arguments) == 1 &&
+           quantity_of(name).in(arguments) == 1;
+}
+
+}  // namespace
+
+bool true_if_user::is_there_only_one_argument_without_value_with_names(
+    std::string const& long_name, std::string const& short_name, argument_list const& arguments) const {
+    return arguments.size() == 1 &&
+           (arguments[0].first == long_name || (!short_name.empty() && arguments[0].first == short_name)) &&
+           arguments[0].second.empty();
+}
+
+bool true_if_user::want_to_get_help(argument_list const& arguments) const {
+    return is_there_only_one_argument_without_value_with_names("--help", "-h", arguments);
+}
+
+bool true_if_user::want_to_see_version(argument_list const& arguments) const {
+    return is_there_only_one_argument_without_value_with_names("--version", "-v", arguments);
+}
+
+bool true_if_user::want_to_revise(argument_list const& arguments) const {
+    // Other known names are tolerated here and ignored by the revision.
+    return arguments.size() >= 3 && languages(arguments) == 1 && styles(arguments) == 1 &&
+           quantity_of("--path", "-p").in(arguments) >= 1 &&
+           quantity_of("--force", "-f").in(arguments) <= 1 && quantity_of("--exts").in(arguments) <= 1;
+}
+
+bool true_if_user::want_to_export_style(argument_list const& arguments) const {
+    return one_style_with("--export", arguments);
+}
+
+bool true_if_user::want_to_rename_style(argument_list const& arguments) const {
+    return one_style_with("--rename", arguments);
+}
+
+bool true_if_user::want_to_import_something(argument_list const& arguments) const {
+    return arguments.size() == 1 && quantity_of("--import").in(arguments) == 1;
+}
+
+bool true_if_user::want_to_delete_something(argument_list const& arguments) const {
+    bool const language = arguments.size() == 2 && languages(arguments) == 1 &&
+                          quantity_of("--delete").in(arguments) == 1;
+    return language || one_style_with("--delete", arguments);
+}
+
+bool true_if_user::want_to_update_app(argument_list const& arguments) const {
+    return arguments.size() == 1 && quantity_of("--update").in(arguments) == 1;
+}
+
+bool true_if_user::want_to_see_what_supported(argument_list const& arguments) const {
+    return is_there_only_one_argument_without_value_with_names("--ls", "", arguments);
+}
+
+}  // namespace console
