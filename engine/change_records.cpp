@@ -79,8 +79,18 @@ void remove_info_about_changes_of::this_path(QString const& path) const {
         }
         if (!info.isDir())
             return;
-        for (auto const& stored : settings.allKeys())
-            if (stored.startsWith(key))
-                settings.remove(stored);
+        // Removing a key removes the keys below it too, so one removal per name that continues
+        // the prefix (the directory itself, or a sibling such as "lib2") clears them all; one
+        // removal per record would cost the square of their number.
+        QStringList removed;
+        for (auto const& stored : settings.allKeys()) {
+            if (!stored.startsWith(key))
+                continue;
+            QString const group = key + stored.mid(key.size()).section('/', 0, 0);
+            if (removed.isEmpty() || removed.last() != group) {
+                settings.remove(group);
+                removed << group;
+            }
+        }
     });
 }
