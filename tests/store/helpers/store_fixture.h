@@ -35,8 +35,8 @@ QByteArray contents_of(QString const& path);
 void write_file(QString const& path, QByteArray const& content);
 
 // Runs `check` in a child process as the unprivileged user "nobody" when the tests run as root
-// (where permissions stop nothing), as the current user otherwise. The bundle is opened to that
-// user for reading first. True when `check` returned true.
+// (where permissions stop nothing), as the current user otherwise. The bundle's directories are
+// opened to that user for reading first; files keep their permissions. True when `check` returned true.
 bool as_unprivileged_user(std::function<bool()> const& check);
 
 }  // namespace fixture
