@@ -117,6 +117,12 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         }
     }
 
+    // A style that is a predefined one keeps all its rules, Google's "the file's majority decides
+    // where * leans" included; any other style shows where * and & lean in its forms, and those
+    // forms, not the file being revised, decide.
+    if (total_of(distances) > 0)
+        style.DerivePointerAlignment = false;
+
     clang::format::FormatStyle read = style;
     std::string const indentation = indentation_read_from(forms);
     if (total_of(distances) > 0 && !indentation.empty() && apply_candidate(read, indentation)) {

@@ -23,9 +23,11 @@ int const rounds_to_stability = 4;
 
 std::string const syntax_error = STYLE_TARNEL_SYNTAX_ERROR_TEXT;
 
+// The file's own majority decides; the traits only break a tie. The host looks at the first line
+// break alone, and in UTF-16 it may take a CR LF that is not aligned to four bytes for an LF.
 clang::format::FormatStyle::LineEndingStyle engine_line_ending(line_ending ending) {
-    return ending == line_ending::carriage_return_line_feed ? clang::format::FormatStyle::LE_CRLF
-                                                            : clang::format::FormatStyle::LE_LF;
+    return ending == line_ending::carriage_return_line_feed ? clang::format::FormatStyle::LE_DeriveCRLF
+                                                            : clang::format::FormatStyle::LE_DeriveLF;
 }
 
 }  // namespace

@@ -46,8 +46,8 @@ std::map<std::string, std::string> manual_pages_of(tarnel_engine::language_descr
                         " holds one form for each of these structures.\n\n";
     for (tarnel_engine::structure const& each : language.structures) {
         std::string page = "# " + language.name + ": " + each.name + "\n\n" + each.purpose + "\n\n";
-        page += "Write the structure as `S_NAME=" + each.name + "` in an addon (see the user guide, *Writing a "
-                "style addon by hand*). Its form holds exactly these tokens, in this order; only the white space "
+        page += "Write the structure as `S_NAME=" + each.name + "` in an addon (see [Writing a style addon by "
+                "hand](../../user-guide/style-addon-by-hand.md)). Its form holds exactly these tokens, in this order; only the white space "
                 "between them is yours to choose:\n\n```\n" + each.tokens + "\n```\n\n";
         std::string const placeholders = placeholders_in(each.tokens);
         if (!placeholders.empty())

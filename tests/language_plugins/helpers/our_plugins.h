@@ -1,0 +1,57 @@
+// What the tests of our language plugins share: the built plugins loaded as the host loads them,
+// the shipped addons and sample files, the host's own line-ending detection, and a private cache.
+#ifndef STYLE_TARNEL_TESTS_LANGUAGE_PLUGINS_OUR_PLUGINS_H
+#define STYLE_TARNEL_TESTS_LANGUAGE_PLUGINS_OUR_PLUGINS_H
+
+#include "interface_to_language_plugin.h"
+
+#include <QPluginLoader>
+#include <QString>
+#include <QStringList>
+
+#include <memory>
+#include <string>
+
+namespace our_plugins {
+
+// Points XDG_CACHE_HOME (and HOME) at a temporary directory for the whole test process, so that
+// inference is shared between the tests of one executable and never touches the user's cache.
+void use_private_cache();
+QString cache_directory();
+
+QString plugin_path(QString const& file_name);
+QString c_plugin_file();    // libc-language-plugin.so
+QString cpp_plugin_file();  // libcpp-language-plugin.so
+QString plugin_file_of(std::string const& language);
+
+// A plugin loaded with QPluginLoader from the build's plugins folder; unloaded with the object.
+class loaded_plugin {
+public:
+    explicit loaded_plugin(QString const& file_name);
+    ~loaded_plugin();
+    interface_to_language_plugin* get() const { return plugin; }
+    interface_to_language_plugin* operator->() const { return plugin; }
+
+private:
+    std::unique_ptr<QPluginLoader> loader;
+    interface_to_language_plugin* plugin = nullptr;
+};
+
+// The shipped addons (file names in plugins/styles), all or those of one language.
+QStringList shipped_addons();
+QStringList shipped_addons_of(std::string const& language);
+std::string shipped_addon(QString const& file_name);
+std::string language_of_addon(std::string const& addon);
+
+// Sample sources under tests/language_plugins/samples, and their extensions' language.
+QStringList samples_of(std::string const& language);
+std::string sample(QString const& file_name);
+
+std::string contents_of(QString const& path);
+
+// Line-ending traits exactly as the host computes them before calling revise().
+line_ending_traits traits_of(std::string const& text);
+
+}  // namespace our_plugins
+
+#endif

@@ -1,0 +1,150 @@
+// What a revision keeps and refuses: the file's encoding (UTF-16 and UTF-32 either byte order,
+// byte-order mark included) and line ending (LF, CR LF, CR), the syntax-error text for code whose
+// brackets do not pair up or that the engine cannot format, and the inference cache on disk.
+#include "helpers/our_plugins.h"
+
+#include "tests/harness/built_files.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QtTest>
+
+using namespace our_plugins;
+
+namespace {
+
+std::string const untidy = "// caf\xC3\xA9 \xF0\x9F\x98\x80\nint  main( ){if(x){y( );}\nreturn 0;}\n";
+std::string const tidy_llvm = "// caf\xC3\xA9 \xF0\x9F\x98\x80\nint main() {\n  if (x) {\n    y();\n  }\n  return 0;\n}\n";
+
+std::string with_line_endings(std::string const& text, std::string const& EOL) {
+    std::string result;
+    for (char c : text)
+        result += c == '\n' ? EOL : std::string(1, c);
+    return result;
+}
+
+// The UTF-8 text in the named encoding, code unit by code unit, with a byte-order mark if asked.
+std::string encoded(std::string const& utf8, QString const& encoding, bool with_mark) {
+    QString const text = (with_mark ? QString(QChar(0xFEFF)) : QString()) + QString::fromStdString(utf8);
+    bool const little = encoding.endsWith("LE");
+    std::vector<unsigned> units;
+    unsigned width = 1;
+    if (encoding.startsWith("UTF-16")) {
+        width = 2;
+        for (QChar c : text)
+            units.push_back(c.unicode());
+    } else if (encoding.startsWith("UTF-32")) {
+        width = 4;
+        for (uint code : text.toUcs4())
+            units.push_back(code);
+    } else {
+        return text.toStdString();
+    }
+    std::string bytes;
+    for (unsigned unit : units)
+        for (unsigned i = 0; i < width; ++i)
+            bytes += char((unit >> (8 * (little ? i : width - 1 - i))) & 0xFF);
+    return bytes;
+}
+
+}  // namespace
+
+class test_encodings_and_errors : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { use_private_cache(); }
+
+    void keeps_encoding_and_line_ending_data() {
+        QTest::addColumn<QString>("encoding");
+        QTest::addColumn<QString>("EOL");
+        QTest::addColumn<bool>("with_mark");
+        QTest::newRow("8-bit LF") << "UTF-8" << "\n" << false;
+        QTest::newRow("8-bit CR LF") << "UTF-8" << "\r\n" << false;
+        QTest::newRow("8-bit CR") << "UTF-8" << "\r" << false;
+        QTest::newRow("UTF-8 with mark, CR LF") << "UTF-8" << "\r\n" << true;
+        QTest::newRow("UTF-16LE with mark") << "UTF-16LE" << "\n" << true;
+        QTest::newRow("UTF-16LE CR LF") << "UTF-16LE" << "\r\n" << true;
+        QTest::newRow("UTF-16BE") << "UTF-16BE" << "\n" << false;
+        QTest::newRow("UTF-16BE CR") << "UTF-16BE" << "\r" << true;
+        QTest::newRow("UTF-32LE CR LF") << "UTF-32LE" << "\r\n" << true;
+        QTest::newRow("UTF-32BE") << "UTF-32BE" << "\n" << false;
+    }
+    void keeps_encoding_and_line_ending() {
+        QFETCH(QString, encoding);
+        QFETCH(QString, EOL);
+        QFETCH(bool, with_mark);
+        std::string const source = encoded(with_line_endings(untidy, EOL.toStdString()), encoding, with_mark);
+        std::string const expected = encoded(with_line_endings(tidy_llvm, EOL.toStdString()), encoding, with_mark);
+        loaded_plugin plugin(cpp_plugin_file());
+        std::string const addon = shipped_addon("LLVM[C++].style");
+        QCOMPARE(QByteArray::fromStdString(plugin->revise(source, addon, traits_of(source))).toHex(' '),
+                 QByteArray::fromStdString(expected).toHex(' '));
+        QCOMPARE(plugin->revise(expected, addon, traits_of(expected)), expected);
+    }
+
+    void answers_syntax_errors_data() {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<bool>("is_error");
+        QTest::newRow("missing closing brace") << "int f() {\n  if (x) {\n  }\n" << true;
+        QTest::newRow("extra closing brace") << "int f() { }\n}\n" << true;
+        QTest::newRow("unclosed parenthesis") << "int f(int a;\n" << true;
+        QTest::newRow("crossed brackets") << "int a[3) = {1];\n" << true;
+        QTest::newRow("brackets in strings and comments")
+            << "char const* s = \"{(\"; // }\n/* ) */ int c = '{';\n" << false;
+        QTest::newRow("a block opened in each branch")
+            << "void f() {\n#ifdef A\n  if (a) {\n#else\n  if (b) {\n#endif\n    g();\n  }\n}\n" << false;
+        QTest::newRow("a brace inside a macro") << "#define BEGIN {\n#define END }\nint x;\n" << false;
+    }
+    void answers_syntax_errors() {
+        QFETCH(QString, code);
+        QFETCH(bool, is_error);
+        std::string const source = code.toStdString();
+        for (QString const& file : {c_plugin_file(), cpp_plugin_file()}) {
+            loaded_plugin plugin(file);
+            std::string const addon = shipped_addon(file == c_plugin_file() ? "GNU[C].style" : "Google[C++].style");
+            std::string const result = plugin->revise(source, addon, traits_of(source));
+            QCOMPARE(result == STYLE_TARNEL_SYNTAX_ERROR_TEXT, is_error);
+        }
+    }
+
+    void leaves_binary_and_text_without_code_alone() {
+        loaded_plugin plugin(c_plugin_file());
+        std::string const addon = shipped_addon("Allman[C].style");
+        std::string const binary("\x7F" "ELF\0\0\x01{", 8);
+        QCOMPARE(plugin->revise(binary, addon, traits_of(binary)), binary);
+        std::string const tidy = "int x;\n";
+        QCOMPARE(plugin->revise(tidy, addon, traits_of(tidy)), tidy);
+    }
+
+    // The options inferred from an addon are written under $XDG_CACHE_HOME/style-tarnel, and
+    // another process with a cold cache of its own (the developer tool) infers the same options.
+    void inference_is_cached_on_disk_and_deterministic() {
+        std::string const addon = shipped_addon("Stroustrup[C++].style");
+        loaded_plugin plugin(cpp_plugin_file());
+        std::string const source = "int x;\n";
+        plugin->revise(source, addon, traits_of(source));
+        QStringList const entries = QDir(cache_directory()).entryList({"*.clang-format"}, QDir::Files);
+        QVERIFY(!entries.isEmpty());
+
+        QTemporaryDir other_cache;
+        QProcess tool;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert("XDG_CACHE_HOME", other_cache.path());
+        tool.setProcessEnvironment(environment);
+        tool.start(built::build_dir() + "/bin/style-tarnel-plugin-tool",
+                   {"options", built::source_dir() + "/plugins/styles/Stroustrup[C++].style"});
+        QVERIFY(tool.waitForFinished(120000));
+        QByteArray const options = tool.readAllStandardOutput();
+        QVERIFY(options.contains("BreakBeforeBraces: Stroustrup") || options.contains("AfterFunction:   true"));
+        QVERIFY(options.contains("IndentWidth:     4"));
+        bool found = false;
+        for (QString const& entry : entries)
+            found = found || QByteArray::fromStdString(contents_of(cache_directory() + "/" + entry)) == options;
+        QVERIFY(found);
+        QVERIFY(!QDir(other_cache.path() + "/style-tarnel").entryList({"*.clang-format"}, QDir::Files).isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(test_encodings_and_errors)
+#include "test_encodings_and_errors.moc"

@@ -1,0 +1,144 @@
+// Our C and C++ plugins as the host sees them: loaded from the build with QPluginLoader, their
+// names, extensions, keywords and structure expressions, shipped addons validated by the host's
+// own check, and a plugin that survives unloading and calls from another thread.
+#include "helpers/our_plugins.h"
+
+#include "core/format_of_this.h"
+#include "core/style_addon.h"
+
+#include <QtTest>
+
+#include <boost/xpressive/xpressive.hpp>
+
+#include <thread>
+
+using namespace our_plugins;
+
+class test_plugin_contract : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { use_private_cache(); }
+
+    void names_itself_and_its_files_data() {
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QStringList>("extensions");
+        QTest::addColumn<QStringList>("some_keywords");
+        QTest::newRow("C") << c_plugin_file() << "C" << QStringList{"c", "h"}
+                           << QStringList{"while", "typedef", "restrict", "_Generic", "_Static_assert"};
+        QTest::newRow("C++") << cpp_plugin_file() << "C++"
+                             << QStringList{"cpp", "cc", "cxx", "c++", "hpp", "hh", "hxx", "h++", "h"}
+                             << QStringList{"class", "co_await", "constexpr", "reinterpret_cast", "template"};
+    }
+    void names_itself_and_its_files() {
+        QFETCH(QString, file);
+        loaded_plugin plugin(file);
+        QVERIFY2(plugin.get(), qPrintable(plugin_path(file)));
+        QFETCH(QString, language);
+        QCOMPARE(QString::fromStdString(plugin->language_name()), language);
+        QStringList extensions;
+        for (std::string const& each : plugin->filename_extensions())
+            extensions << QString::fromStdString(each);
+        QTEST(extensions, "extensions");
+        std::vector<std::string> const keywords = plugin->list_of_keywords();
+        QFETCH(QStringList, some_keywords);
+        for (QString const& keyword : some_keywords)
+            QVERIFY2(std::count(keywords.begin(), keywords.end(), keyword.toStdString()) == 1, qPrintable(keyword));
+    }
+
+    void every_expression_compiles_and_names_follow_the_rules_data() { each_plugin(); }
+    void every_expression_compiles_and_names_follow_the_rules() {
+        QFETCH(QString, file);
+        loaded_plugin plugin(file);
+        std::map<std::string, std::string> const forms = plugin->forms_of_structures();
+        QVERIFY(forms.size() >= 30);
+        QRegularExpression const lower_case_words("^[a-z]+( [a-z]+)*$");
+        for (auto const& [name, expression] : forms) {
+            QVERIFY2(lower_case_words.match(QString::fromStdString(name)).hasMatch(), name.c_str());
+            QVERIFY2(boost::xpressive::sregex::compile(expression).regex_id() != nullptr, name.c_str());
+        }
+    }
+
+    // The host's own check (format_of_this) accepts every shipped addon, and each addon describes
+    // every structure its plugin knows.
+    void shipped_addons_validate_against_their_plugin_data() { each_addon(); }
+    void shipped_addons_validate_against_their_plugin() {
+        QFETCH(QString, addon_file);
+        std::string const addon = shipped_addon(addon_file);
+        loaded_plugin plugin(plugin_file_of(language_of_addon(addon)));
+        std::string bad_structure;
+        QVERIFY2(!format_of_this(addon).is_invalid_based_on(plugin.get(), bad_structure), bad_structure.c_str());
+        for (auto const& [name, expression] : plugin->forms_of_structures())
+            QVERIFY2(!obtain_structure_form(name).from_already_reading(addon).empty(), name.c_str());
+        QCOMPARE(addon.substr(0, 5), std::string("NAME="));
+    }
+
+    void a_form_with_other_tokens_is_refused() {
+        loaded_plugin plugin(cpp_plugin_file());
+        std::string addon = shipped_addon("LLVM[C++].style");
+        std::size_t const at = addon.find("name(SOME, SOME);");
+        QVERIFY(at != std::string::npos);
+        addon.replace(at, 17, "name(SOME; SOME);");
+        std::string bad_structure;
+        QVERIFY(format_of_this(addon).is_invalid_based_on(plugin.get(), bad_structure));
+        QCOMPARE(bad_structure, std::string("function call"));
+    }
+
+    // The expressions stay linear: a form of a megabyte, mostly white space, is matched in full.
+    void a_megabyte_form_validates() {
+        loaded_plugin plugin(cpp_plugin_file());
+        std::string const form = obtain_structure_form("switch").from_already_reading(shipped_addon("GNU[C++].style"));
+        std::string huge;
+        for (char c : form)
+            huge += std::isspace(static_cast<unsigned char>(c)) ? std::string(50000, c) : std::string(1, c);
+        QVERIFY(huge.size() > 1000000);
+        auto const expression = boost::xpressive::sregex::compile(plugin->forms_of_structures().at("switch"));
+        QVERIFY(boost::xpressive::regex_match(huge, expression));
+        QVERIFY(!boost::xpressive::regex_match(huge + "x", expression));
+    }
+
+    void survives_unloading_and_calls_from_another_thread() {
+        std::string const source = "int f(){return 1;}\n";
+        std::string const addon = shipped_addon("Linux kernel[C].style");
+        std::string first;
+        {
+            loaded_plugin plugin(c_plugin_file());
+            first = plugin->revise(source, addon, traits_of(source));
+            plugin->end_of_revision();
+        }
+        QCOMPARE(first, std::string("int f()\n{\n\treturn 1;\n}\n"));
+        loaded_plugin again(c_plugin_file());
+        QVERIFY(again.get());
+        std::string second;
+        std::thread([&] { second = again->revise(source, addon, traits_of(source)); }).join();
+        QCOMPARE(second, first);
+    }
+
+    // Per-run state never leaks from one addon into the next, with or without end_of_revision.
+    void follows_the_addon_of_each_call() {
+        loaded_plugin plugin(cpp_plugin_file());
+        std::string const source = "void f(){if(a){b();}}\n";
+        std::string const gnu = plugin->revise(source, shipped_addon("GNU[C++].style"), traits_of(source));
+        std::string const llvm = plugin->revise(source, shipped_addon("LLVM[C++].style"), traits_of(source));
+        QCOMPARE(llvm, std::string("void f() {\n  if (a) {\n    b();\n  }\n}\n"));
+        QCOMPARE(gnu, std::string("void\nf ()\n{\n  if (a)\n    {\n      b ();\n    }\n}\n"));
+        plugin->end_of_revision();
+        QCOMPARE(plugin->revise(source, shipped_addon("GNU[C++].style"), traits_of(source)), gnu);
+    }
+
+private:
+    void each_plugin() {
+        QTest::addColumn<QString>("file");
+        QTest::newRow("C") << c_plugin_file();
+        QTest::newRow("C++") << cpp_plugin_file();
+    }
+    void each_addon() {
+        QTest::addColumn<QString>("addon_file");
+        for (QString const& file : shipped_addons())
+            QTest::newRow(qPrintable(file)) << file;
+    }
+};
+
+QTEST_GUILESS_MAIN(test_plugin_contract)
+#include "test_plugin_contract.moc"
