@@ -2,24 +2,23 @@
 #include "core/kernel.h"
 
 #include "core/directory_listing.h"
+#include "core/installed_files.h"
 #include "core/style_addon.h"
-#include "engine/plugin_obtainer.h"
 #include "engine/tarnel.h"
-
-#include <QPluginLoader>
 
 namespace {
 
 // The first plugin file in the listing whose plugin names the task's language. None found: the
 // language's own name, which no plugin file has, so the run says which plugin it missed.
 QString plugin_file_for(std::string const& language) {
-    for (auto const& file_name : list_of_names_of_plugins()) {
-        QPluginLoader loader;
-        if (auto* plugin = plugin_obtainer(loader)(file_name))
-            if (plugin->language_name() == language)
-                return QString::fromStdString(file_name);
-    }
-    return QString::fromStdString(language);
+    std::string found = language;
+    first_plugin_where([&](std::string const& file_name, interface_to_language_plugin& plugin) {
+        if (plugin.language_name() != language)
+            return false;
+        found = file_name;
+        return true;
+    });
+    return QString::fromStdString(found);
 }
 
 // The addon file whose inside names the task's style and language. None found: the name such an
