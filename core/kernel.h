@@ -52,8 +52,9 @@ public:
                                         std::string const& structure,
                                         std::string const& form) const;
 
-    // Revision: on the calling thread, printing progress and report; or on a detached worker
-    // thread that reports through the four callbacks and reads `stop` between files.
+    // Revision: on the calling thread, printing progress and report, returning 0 or, when SIGINT
+    // or SIGTERM interrupted it, 128 + the signal's number; or on a detached worker thread that
+    // reports through the four callbacks and reads `stop` between files.
     int start_revise(revision_task const& task) const;
     int start_revise(revision_task const& task, std::function<void(int)> maximum,
                      std::function<void(int)> value, std::function<void(std::string)> status,

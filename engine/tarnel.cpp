@@ -7,9 +7,8 @@
 
 int tarnel::operator()(QString const& plugin_file, QString const& addon_file,
                        revision_task const& task) const {
-    console_formatter()(plugin_file.toStdString(), addon_file.toStdString(), task.extensions,
-                        task.paths);
-    return 0;
+    return console_formatter()(plugin_file.toStdString(), addon_file.toStdString(),
+                               task.extensions, task.paths);
 }
 
 int tarnel::operator()(QString const& plugin_file, QString const& addon_file,

@@ -13,7 +13,7 @@
 
 class tarnel {
 public:
-    // Returns when the run is over; always 0.
+    // Returns when the run is over: 0, or 128 + the number of the signal that interrupted it.
     int operator()(QString const& plugin_file, QString const& addon_file,
                    revision_task const& task) const;
     // Returns as soon as the worker is started; always 0. Throws std::system_error when no
