@@ -3,6 +3,7 @@
 #include <cerrno>
 #include <climits>
 #include <cstdlib>
+#include <csignal>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -43,6 +44,26 @@ bool write_all(int fd, std::string const& text) {
     return true;
 }
 
+// Holds back the signals that end a process by default while it lives, so that no signal can
+// leave the temporary file behind between its creation and its rename; a pending one is
+// delivered as soon as the file is gone. SIGKILL cannot be held back.
+class signals_held_back {
+public:
+    signals_held_back() {
+        sigset_t held;
+        sigemptyset(&held);
+        for (int number : {SIGINT, SIGTERM, SIGHUP, SIGQUIT})
+            sigaddset(&held, number);
+        pthread_sigmask(SIG_BLOCK, &held, &previous);
+    }
+    ~signals_held_back() { pthread_sigmask(SIG_SETMASK, &previous, nullptr); }
+    signals_held_back(signals_held_back const&) = delete;
+    signals_held_back& operator=(signals_held_back const&) = delete;
+
+private:
+    sigset_t previous;
+};
+
 }  // namespace
 
 bool write_to::from(std::string const& text) const {
@@ -52,6 +73,7 @@ bool write_to::from(std::string const& text) const {
     if (exists && (!S_ISREG(original.st_mode) || ::access(target.c_str(), W_OK) != 0))
         return false;
 
+    signals_held_back const held;
     std::string temporary = directory_of(target) + "/." + name_of(target) + ".tarnel-XXXXXX";
     int fd = ::mkostemp(&temporary[0], O_CLOEXEC);
     if (fd < 0)
