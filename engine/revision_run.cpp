@@ -11,6 +11,7 @@
 #include "engine/write_in.h"
 #include "engine/write_to.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 
@@ -23,6 +24,21 @@ bool holds_only_white_space(std::string const& text) {
     return std::all_of(text.begin(), text.end(), [](char c) {
         return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f' || c == '\0';
     });
+}
+
+// A file's size and time of last change: what tells that someone else wrote it meanwhile.
+struct file_state {
+    qint64 size;
+    QDateTime modified;
+    bool operator!=(file_state const& other) const { return size != other.size || modified != other.modified; }
+};
+
+file_state state_of(QFileInfo const& info) { return {info.size(), info.lastModified()}; }
+
+// Whether the file at `path` is gone or no longer the one read in state `before`.
+bool changed_since(file_state const& before, QString const& path) {
+    QFileInfo const now(path);
+    return !now.exists() || state_of(now) != before;
 }
 
 enum class plugin_answer { revised, refused };
@@ -83,6 +99,7 @@ bool revision_run::revise(QString const& path) {
     }
     if (this_source_file(records.settings()).was_not_changed(path, language, style, addon_path))
         return false;
+    file_state const before = state_of(info);
     std::string text;
     if (!read_from(path).to(text)) {
         write.about_invalid_file(path);
@@ -95,7 +112,12 @@ bool revision_run::revise(QString const& path) {
     std::string result;
     if (ask(plugin, text, addon_text, result) == plugin_answer::refused)
         write.about_syntax_error_in(path);
-    else if (result != text) {
+    else if (result != text && changed_since(before, path)) {
+        // Saved, edited or removed by someone else while the plugin worked on it: writing the
+        // result would undo that, and a record would hide the new content from the next run.
+        write.about_invalid_file(path);
+        return true;
+    } else if (result != text) {
         if (write_to(path).from(result))
             ++changed_count;
         else
