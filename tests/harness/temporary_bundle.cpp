@@ -87,7 +87,8 @@ void temporary_bundle::share_with_unprivileged_user() const {
         QFile::setPermissions(own, QFile::permissions(own) | QFile::WriteOther | QFile::ExeOther);
 }
 
-run_result temporary_bundle::run(QStringList const& arguments, run_options const& options) const {
+void temporary_bundle::start(QProcess& process, QStringList const& arguments,
+                             run_options const& options) const {
     QProcessEnvironment environment = this->environment();
     for (auto const& key : options.extra_environment.keys())
         environment.insert(key, options.extra_environment.value(key));
@@ -104,22 +105,30 @@ run_result temporary_bundle::run(QStringList const& arguments, run_options const
                             program_arguments;
         program = "setpriv";
     }
-
-    QProcess process;
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(options.working_directory.isEmpty() ? work_directory()
                                                                     : options.working_directory);
     process.start(program, program_arguments);
+}
+
+run_result temporary_bundle::run(QStringList const& arguments, run_options const& options) const {
+    QProcess process;
+    start(process, arguments, options);
     run_result result;
     if (!process.waitForStarted())
         return result;
     if (!options.input.isEmpty())
         process.write(options.input);
     process.closeWriteChannel();
-    if (!process.waitForFinished(options.timeout_ms)) {
+    return result_of_finished(process, options.timeout_ms);
+}
+
+run_result result_of_finished(QProcess& process, int timeout_ms) {
+    if (!process.waitForFinished(timeout_ms)) {
         process.kill();
         process.waitForFinished();
     }
+    run_result result;
     result.out = process.readAllStandardOutput();
     result.err = process.readAllStandardError();
     result.crashed = process.exitStatus() != QProcess::NormalExit;

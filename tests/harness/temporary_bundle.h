@@ -5,6 +5,7 @@
 #define STYLE_TARNEL_TESTS_TEMPORARY_BUNDLE_H
 
 #include <QByteArray>
+#include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
@@ -54,6 +55,10 @@ public:
 
     QProcessEnvironment environment() const;
     run_result run(QStringList const& arguments, run_options const& options = run_options()) const;
+    // Starts the executable as run() does (all options but input and timeout_ms) and returns at
+    // once, for a test that acts on the program while it runs; the process's pid is the
+    // program's own.
+    void start(QProcess& process, QStringList const& arguments, run_options const& options) const;
 
     // Opens everything below the bundle to the unprivileged user (directories and files keep
     // whatever write bits a test then takes away).
@@ -63,5 +68,9 @@ private:
     QTemporaryDir directory;
     bool valid = false;
 };
+
+// Waits for a started process (killing it after `timeout_ms`) and collects what it wrote and how
+// it ended.
+run_result result_of_finished(QProcess& process, int timeout_ms);
 
 #endif
