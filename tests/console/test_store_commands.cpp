@@ -36,6 +36,7 @@ private slots:
     void refuses_invalid_names_and_taken_file_names();
     void updates_the_executable_and_cleans_up_at_the_next_start();
     void refuses_an_update_it_cannot_read();
+    void never_leaves_the_program_without_its_executable();
 };
 
 void test_store_commands::imports_a_language_plugin() {
@@ -228,6 +229,18 @@ void test_store_commands::refuses_an_update_it_cannot_read() {
     COMPARE_RUN(bundle.run({"--update=Style Tarnel"}, as_nobody()),
                 "I cannot apply update '" + utf8(update) + "'.\n", "", 1);
     QCOMPARE(QDir(bundle.root() + "/bin").entryList(QDir::Files), QStringList{"Style Tarnel"});
+}
+
+void test_store_commands::never_leaves_the_program_without_its_executable() {
+    // The running executable as its own update: once moved aside it cannot be copied back from
+    // its old path, and the old file must return to its place.
+    installed_bundle bundle;
+    QByteArray const original = temporary_bundle::contents_of(bundle.executable());
+    COMPARE_RUN(bundle.run({"--update=" + bundle.executable()}),
+                "I cannot apply update '" + utf8(bundle.executable()) + "'.\n", "", 1);
+    QCOMPARE(QDir(bundle.root() + "/bin").entryList(QDir::Files), QStringList{"Style Tarnel"});
+    QCOMPARE(temporary_bundle::contents_of(bundle.executable()), original);
+    COMPARE_RUN(bundle.run({"-v"}), "Style Tarnel, version 2.0.0\n", "", 0);
 }
 
 QTEST_GUILESS_MAIN(test_store_commands)
