@@ -1,0 +1,31 @@
+// Our C or C++ plugin's revise() (built once for each, FUZZED_LANGUAGE "C" or "C++") on any
+// source, in the style of a shipped addon of that language chosen by the input's first byte.
+// Promises: the result is the syntax-error text or has the source's non-white-space bytes, and
+// revising the result again changes nothing.
+#include "fuzz_support.h"
+
+#include "c_language.h"
+#include "cpp_language.h"
+#include "language_plugin_base.h"
+
+#include <cstring>
+
+namespace {
+std::vector<std::string> addons;
+}
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
+    fuzz::start_quiet_application(argc, argv);
+    addons = fuzz::shipped_addons_of(FUZZED_LANGUAGE);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
+    static tarnel_engine::language_plugin_base plugin(std::strcmp(FUZZED_LANGUAGE, "C") == 0 ? c_language()
+                                                                                          : cpp_language());
+    if (size == 0 || addons.empty())
+        return 0;
+    fuzz::check_revise_promises(plugin, std::string(reinterpret_cast<char const*>(data) + 1, size - 1),
+                                addons[data[0] % addons.size()]);
+    return 0;
+}
