@@ -26,8 +26,8 @@ void check(bool promise, char const* what);
 
 // Whether the two texts hold the same bytes once every white-space byte is removed; in UTF-16 or
 // UTF-32 text (`wide`) the zero bytes of its spaces and line endings count as white space too. A
-// backslash that continues a line is white space, as the plugins define it: they lay out macros
-// again, moving and removing those.
+// backslash that continues a line (before LF, CR LF or, in a text whose lines end with CR, CR) is
+// white space, as the plugins define it: they lay out macros again, moving and removing those.
 bool same_non_white_space(std::string const& a, std::string const& b, bool wide);
 
 // Revises `source` with `plugin` in the style of `addon` and checks the product's promises: the

@@ -3,6 +3,7 @@
 // there; store commands are refused with their message and leave the directories as they were;
 // a run goes on with the addon text and plugin it started with.
 #include "tests/console/helpers/installed_bundle.h"
+#include "tests/faults/helpers/report_texts.h"
 #include "tests/faults/helpers/running_program.h"
 #include "tests/faults/helpers/source_tree.h"
 
@@ -10,7 +11,6 @@
 
 namespace {
 
-QByteArray const done_line = "It's done." + QByteArray(25, ' ') + "\n";
 
 // File names and contents of everything in `directory`.
 QMap<QString, QByteArray> snapshot_of(QString const& directory) {
@@ -102,7 +102,7 @@ void test_bundle_under_change::an_addon_or_plugin_replaced_during_a_run() {
 
     QCOMPARE(result.crashed, false);
     QCOMPARE(result.status, 0);
-    QCOMPARE(result.out, done_line + "6 files was found, 6 files was revised, 6 files was changed.\n");
+    QCOMPARE(result.out, report::done_line + "6 files was found, 6 files was revised, 6 files was changed.\n");
     int revised = 0;
     QVERIFY(tree.each_file_is_whole(revised));
     QCOMPARE(revised, 6);

@@ -2,17 +2,7 @@
 // content must not take the host down nor empty the file. Such a file is reported with the
 // syntax-error message, left as it was, and the run goes on.
 #include "tests/console/helpers/installed_bundle.h"
-
-namespace {
-
-QByteArray const done_line = "It's done." + QByteArray(25, ' ') + "\n";
-
-QByteArray syntax_error_in(QString const& path) {
-    return "Sorry, I can't revise file '" + path.toUtf8() +
-           "', because it contains syntax error, or language structure that cannot be formatted correctly.\n\n";
-}
-
-}  // namespace
+#include "tests/faults/helpers/report_texts.h"
 
 class test_faulty_plugins : public QObject {
     Q_OBJECT
@@ -30,7 +20,7 @@ void test_faulty_plugins::a_throwing_or_emptying_plugin_leaves_the_file_and_the_
     QCOMPARE(result.crashed, false);
     QCOMPARE(result.status, 0);
     QCOMPARE(QString::fromUtf8(result.out),
-             QString::fromUtf8(done_line + syntax_error_in(throwing) + syntax_error_in(emptied) +
+             QString::fromUtf8(report::done_line + report::syntax_error_in(throwing) + report::syntax_error_in(emptied) +
                                "3 files was found, 3 files was revised, 1 file was changed.\n"));
     QCOMPARE(temporary_bundle::contents_of(throwing), QByteArray("THROW  here\n"));
     QCOMPARE(temporary_bundle::contents_of(emptied), QByteArray("EMPTY  here\n"));

@@ -3,21 +3,11 @@
 // removed while the plugin holds their text. Each is reported, the run goes on, and no file is
 // left truncated, half-written, resurrected or with someone else's edit undone.
 #include "tests/console/helpers/installed_bundle.h"
+#include "tests/faults/helpers/report_texts.h"
 #include "tests/faults/helpers/running_program.h"
 #include "tests/faults/helpers/source_tree.h"
 
 #include <QFile>
-
-namespace {
-
-QByteArray const done_line = "It's done." + QByteArray(25, ' ') + "\n";
-
-QByteArray invalid_file(QString const& path) {
-    return "Sorry, I can't revise file '" + path.toUtf8() +
-           "'. If this file exists - please check read/write permissions.\n\n";
-}
-
-}  // namespace
 
 class test_files_under_change : public QObject {
     Q_OBJECT
@@ -37,7 +27,7 @@ void test_files_under_change::a_write_beyond_the_file_size_limit_leaves_the_file
     run_result const result = bundle.run({"-l=Test", "-s=Plain", "-p=src"}, options);
     QCOMPARE(result.status, 0);
     QCOMPARE(QString::fromUtf8(result.out),
-             QString::fromUtf8(done_line + invalid_file(large_file) +
+             QString::fromUtf8(report::done_line + report::invalid_file(large_file) +
                                "2 files was found, 2 files was revised, 1 file was changed.\n"));
     QVERIFY(temporary_bundle::contents_of(large_file) == large);
     QCOMPARE(temporary_bundle::contents_of(small_file), source_tree::tidy_line);
@@ -60,8 +50,8 @@ void test_files_under_change::files_that_vanish_or_become_unreadable_are_reporte
 
     QCOMPARE(result.status, 0);
     QCOMPARE(QString::fromUtf8(result.out),
-             QString::fromUtf8(done_line + invalid_file(vanished) + invalid_file(unreadable) +
-                               invalid_file(now_directory) +
+             QString::fromUtf8(report::done_line + report::invalid_file(vanished) + report::invalid_file(unreadable) +
+                               report::invalid_file(now_directory) +
                                "12 files was found, 9 files was revised, 9 files was changed.\n"));
     QVERIFY(!QFileInfo::exists(vanished));
     QVERIFY(QFileInfo(now_directory).isDir());
@@ -89,7 +79,7 @@ void test_files_under_change::a_file_edited_or_removed_while_the_plugin_has_it_i
 
     QCOMPARE(result.status, 0);
     QCOMPARE(QString::fromUtf8(result.out),
-             QString::fromUtf8(done_line + invalid_file(edited) + invalid_file(removed) +
+             QString::fromUtf8(report::done_line + report::invalid_file(edited) + report::invalid_file(removed) +
                                "6 files was found, 6 files was revised, 4 files was changed.\n"));
     QCOMPARE(temporary_bundle::contents_of(edited), tree.untidy(1) + "edited  meanwhile\n");
     QVERIFY(!QFileInfo::exists(removed));
@@ -97,7 +87,7 @@ void test_files_under_change::a_file_edited_or_removed_while_the_plugin_has_it_i
 
     // No record hides the edit: the next run revises that file and only that one.
     run_result const next = bundle.run({"-l=Test", "-s=Plain", "-p=src"});
-    QCOMPARE(next.out, done_line + "5 files was found, 1 file was revised, 1 file was changed.\n");
+    QCOMPARE(next.out, report::done_line + "5 files was found, 1 file was revised, 1 file was changed.\n");
     QCOMPARE(temporary_bundle::contents_of(edited), tree.tidy(1) + "edited meanwhile\n");
 }
 

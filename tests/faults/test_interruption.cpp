@@ -2,6 +2,7 @@
 // saves its records, says so in its report and exits with 128 + the signal; a second signal kills
 // at once. Either way every file is whole and no temporary file is left.
 #include "tests/console/helpers/installed_bundle.h"
+#include "tests/faults/helpers/report_texts.h"
 #include "tests/faults/helpers/running_program.h"
 #include "tests/faults/helpers/source_tree.h"
 
@@ -9,7 +10,6 @@
 
 namespace {
 
-QByteArray const done_line = "It's done." + QByteArray(25, ' ') + "\n";
 int const files = 12;
 int const delay_ms = 300;
 
@@ -44,7 +44,7 @@ void test_interruption::a_signal_stops_the_run_after_the_current_file() {
     QCOMPARE(result.crashed, false);
     QCOMPARE(result.status, status);
     QCOMPARE(QString::fromUtf8(result.out),
-             QString::fromUtf8(done_line + "\nRevision was interrupted by user!\n\n" +
+             QString::fromUtf8(report::done_line + "\nRevision was interrupted by user!\n\n" +
                                "12 files was found, 3 files was revised, 3 files was changed.\n"));
     QVERIFY(result.err.endsWith("Revise... 3 from 12 files\r"));
     int revised = 0;
@@ -55,7 +55,7 @@ void test_interruption::a_signal_stops_the_run_after_the_current_file() {
     // The records of the three revised files were saved: the next run takes only the others.
     run_result const rest = bundle.run(arguments);
     QCOMPARE(rest.status, 0);
-    QCOMPARE(rest.out, done_line + "12 files was found, 9 files was revised, 9 files was changed.\n");
+    QCOMPARE(rest.out, report::done_line + "12 files was found, 9 files was revised, 9 files was changed.\n");
     QVERIFY(tree.each_file_is_whole(revised));
     QCOMPARE(revised, files);
 }
