@@ -32,22 +32,28 @@ bool read_from::to(std::string& out) const {
     if (::fstat(file.get(), &status) != 0 || S_ISDIR(status.st_mode))
         return false;
 
-    // One read of the size the file has now; the loop only matters when the file grows or
-    // shrinks while it is read, or for files whose size the system does not know.
-    std::string text;
-    text.resize(status.st_size > 0 ? static_cast<std::size_t>(status.st_size) : 0);
+    // One read of the size the file has now, then a small read that finds the end. Only a file
+    // that grew meanwhile (or whose size the system does not know) makes the text grow.
+    std::string text(status.st_size > 0 ? static_cast<std::size_t>(status.st_size) : 0, '\0');
     std::size_t filled = 0;
+    char probe[4096];
     for (;;) {
-        if (filled == text.size())
-            text.resize(text.size() + 65536);
-        ssize_t got = ::read(file.get(), &text[filled], text.size() - filled);
+        bool const probing = filled == text.size();
+        char* const into = probing ? probe : &text[filled];
+        std::size_t const room = probing ? sizeof probe : text.size() - filled;
+        ssize_t got = ::read(file.get(), into, room);
         if (got < 0 && errno == EINTR)
             continue;
         if (got < 0)
             return false;
         if (got == 0)
             break;
-        filled += static_cast<std::size_t>(got);
+        if (probing) {
+            text.append(probe, static_cast<std::size_t>(got));
+            filled = text.size();
+        } else {
+            filled += static_cast<std::size_t>(got);
+        }
     }
     text.resize(filled);
     out.swap(text);
