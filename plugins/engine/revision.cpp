@@ -45,6 +45,8 @@ void reviser::forget_the_run() { run.reset(); }
 std::string reviser::revise(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
     try {
         text_encoding const encoding = text_encoding::of(source, traits);
+        if (encoding.contradicts_byte_order_mark_of(source))
+            return source;
         std::optional<std::string> const decoded = encoding.decoded(source);
         if (!decoded || decoded->find('\0') != std::string::npos)
             return source;

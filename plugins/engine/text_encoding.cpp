@@ -100,6 +100,13 @@ text_encoding text_encoding::of(std::string const& source, line_ending_traits co
     return result;
 }
 
+bool text_encoding::contradicts_byte_order_mark_of(std::string const& source) const {
+    text_encoding const by_mark = of(source, line_ending_traits{});
+    if (by_mark.unit == 1)
+        return false;
+    return by_mark.unit != unit || by_mark.little_endian != little_endian;
+}
+
 std::optional<std::string> text_encoding::decoded(std::string const& source) const {
     std::string text;
     if (unit == 1) {

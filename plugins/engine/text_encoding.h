@@ -25,6 +25,11 @@ public:
     // The formatted UTF-8 text back in the file's encoding and line ending.
     std::optional<std::string> encoded(std::string const& text) const;
 
+    // Whether the source begins with the byte-order mark of another encoding than this one. Such
+    // bytes are no proper text in either: formatting them could make the next revision, which
+    // may see no line break and go by the mark, read them in the other encoding.
+    bool contradicts_byte_order_mark_of(std::string const& source) const;
+
     line_ending ending() const { return line_ending_kind; }
 
 private:
