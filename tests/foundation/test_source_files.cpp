@@ -40,6 +40,15 @@ int in_child(step_t step) {
 // As root, permissions stop nothing: the checks run as the unprivileged user "nobody".
 bool become_nobody() { return ::geteuid() != 0 || (::setgid(65534) == 0 && ::setuid(65534) == 0); }
 
+// 0 when the unprivileged user's write to `file` failed, 1 when it succeeded.
+int write_as_nobody(QString const& file, std::string const& text) {
+    return in_child([&] {
+        if (!become_nobody())
+            return 2;
+        return write_to(file).from(text) ? 1 : 0;
+    });
+}
+
 mode_t mode_of(QString const& path) {
     struct stat status {};
     ::lstat(QFile::encodeName(path).constData(), &status);
@@ -134,12 +143,7 @@ void test_source_files::a_file_that_is_not_writable_stays_untouched() {
     ::chmod(QFile::encodeName(path("locked.c")).constData(), 0444);
     ::chmod(QFile::encodeName(directory->path()).constData(), 0777);
     QString const file = path("locked.c");
-    int const status = in_child([&] {
-        if (!become_nobody())
-            return 2;
-        return write_to(file).from("changed\n") ? 1 : 0;
-    });
-    QCOMPARE(status, 0);
+    QCOMPARE(write_as_nobody(file, "changed\n"), 0);
     QCOMPARE(contents_of(file), QByteArray("original\n"));
     QCOMPARE(QDir(directory->path()).entryList(QDir::Files | QDir::Hidden), QStringList{"locked.c"});
 }
@@ -167,12 +171,7 @@ void test_source_files::a_directory_without_write_permission_keeps_the_file() {
     ::chmod(QFile::encodeName(path("closed/f.c")).constData(), 0666);
     ::chmod(QFile::encodeName(path("closed")).constData(), 0555);
     QString const file = path("closed/f.c");
-    int const status = in_child([&] {
-        if (!become_nobody())
-            return 2;
-        return write_to(file).from("changed\n") ? 1 : 0;
-    });
-    QCOMPARE(status, 0);
+    QCOMPARE(write_as_nobody(file, "changed\n"), 0);
     QCOMPARE(contents_of(file), QByteArray("original\n"));
     ::chmod(QFile::encodeName(path("closed")).constData(), 0755);
 }
