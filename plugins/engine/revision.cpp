@@ -70,6 +70,10 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
         // left as it is: never a half-settled or token-changing result.
         if (!stable || !only_white_space_differs(*decoded, outcome.text))
             return source;
+        // Joined into one line, such a text would be taken for 8-bit text next time, and revised
+        // again differently.
+        if (encoding.is_wide_by_line_breaks_alone(source) && outcome.text.find('\n') == std::string::npos)
+            return source;
         std::optional<std::string> encoded = encoding.encoded(outcome.text);
         if (!encoded || *encoded == source)
             return source;

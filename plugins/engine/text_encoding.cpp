@@ -107,6 +107,10 @@ bool text_encoding::contradicts_byte_order_mark_of(std::string const& source) co
     return by_mark.unit != unit || by_mark.little_endian != little_endian;
 }
 
+bool text_encoding::is_wide_by_line_breaks_alone(std::string const& source) const {
+    return unit > 1 && of(source, line_ending_traits{}).unit == 1;
+}
+
 std::optional<std::string> text_encoding::decoded(std::string const& source) const {
     std::string text;
     if (unit == 1) {

@@ -30,6 +30,10 @@ public:
     // may see no line break and go by the mark, read them in the other encoding.
     bool contradicts_byte_order_mark_of(std::string const& source) const;
 
+    // Whether only its line breaks tell that the source is UTF-16 or UTF-32: it has no byte-order
+    // mark. A result without line break would be read as 8-bit text by the next revision.
+    bool is_wide_by_line_breaks_alone(std::string const& source) const;
+
     line_ending ending() const { return line_ending_kind; }
 
 private:

@@ -117,6 +117,18 @@ private slots:
         QCOMPARE(plugin->revise(tidy, addon, traits_of(tidy)), tidy);
     }
 
+    // Only its line break tells that this text is UTF-16. Joined into one line it would be read
+    // as 8-bit text by the next revision, so it is left as it is; with a byte-order mark it is not.
+    void keeps_the_only_line_break_of_wide_text_without_mark() {
+        loaded_plugin plugin(c_plugin_file());
+        std::string const addon = shipped_addon("Kernighan&Ritchie[C].style");
+        std::string const bare = encoded("int\nx;", "UTF-16LE", false);
+        QCOMPARE(plugin->revise(bare, addon, traits_of(bare)), bare);
+        std::string const marked = encoded("int\nx;", "UTF-16LE", true);
+        QCOMPARE(QByteArray::fromStdString(plugin->revise(marked, addon, traits_of(marked))).toHex(' '),
+                 QByteArray::fromStdString(encoded("int x;", "UTF-16LE", true)).toHex(' '));
+    }
+
     // The options inferred from an addon are written under $XDG_CACHE_HOME/style-tarnel, and
     // another process with a cold cache of its own (the developer tool) infers the same options.
     void inference_is_cached_on_disk_and_deterministic() {
