@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
@@ -47,38 +48,71 @@ void check(bool promise, char const* what) {
     std::abort();
 }
 
-bool same_non_white_space(std::string const& a, std::string const& b, bool wide) {
-    auto is_blank = [wide](char c) {
-        return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f' || (c == '\0' && wide);
-    };
-    auto strip = [&](std::string const& text) {
-        std::string kept;
-        for (std::size_t at = 0; at < text.size(); ++at) {
-            if (is_blank(text[at]))
-                continue;
-            if (text[at] == '\\') {
-                std::size_t next = at + 1;
-                while (next < text.size() && (text[next] == ' ' || text[next] == '\t'))
-                    ++next;
-                if (next < text.size() && (text[next] == '\n' || text[next] == '\r'))
-                    continue;
-            }
-            kept += text[at];
-        }
-        return kept;
-    };
-    return strip(a) == strip(b);
+code_units code_units_of(std::string const& text, line_ending_traits const& traits) {
+    code_units units;
+    std::string const& EOL = traits.EOL;
+    if (EOL.empty()) {
+        if (text.rfind(std::string("\xFF\xFE\0\0", 4), 0) == 0 || text.rfind(std::string("\0\0\xFE\xFF", 4), 0) == 0)
+            units.size = 4;
+        else if (text.rfind("\xFF\xFE", 0) == 0 || text.rfind("\xFE\xFF", 0) == 0)
+            units.size = 2;
+        units.little_endian = !text.empty() && text[0] == '\xFF';
+        return units;
+    }
+    if (EOL.find('\0') == std::string::npos)
+        return units;
+    // CR LF in UTF-16 or UTF-32 is two units; CR or LF alone is one.
+    auto const non_zero = std::count_if(EOL.begin(), EOL.end(), [](char c) { return c != '\0'; });
+    units.size = static_cast<unsigned>(EOL.size() / static_cast<std::size_t>(non_zero));
+    units.little_endian = EOL[0] != '\0';
+    return units;
 }
 
 namespace {
 
-// UTF-16 or UTF-32 by its line endings, or by a byte-order mark the plugins decode by.
-bool is_wide(std::string const& source, line_ending_traits const& traits) {
-    return traits.space.size() > 1 || source.rfind("\xFE\xFF", 0) == 0 || source.rfind("\xFF\xFE", 0) == 0 ||
-           source.rfind(std::string("\0\0\xFE\xFF", 4), 0) == 0;
+// The text's characters as numbers; a trailing piece shorter than a unit becomes a character that
+// equals no whole unit.
+std::vector<std::uint64_t> characters_of(std::string const& text, code_units units) {
+    std::vector<std::uint64_t> characters;
+    for (std::size_t at = 0; at < text.size(); at += units.size) {
+        std::size_t const length = std::min<std::size_t>(units.size, text.size() - at);
+        std::uint64_t value = 0;
+        for (std::size_t i = 0; i < length; ++i) {
+            std::size_t const index = units.little_endian ? length - 1 - i : i;
+            value = (value << 8) | static_cast<unsigned char>(text[at + index]);
+        }
+        if (length < units.size)
+            value |= std::uint64_t(1) << 40;
+        characters.push_back(value);
+    }
+    return characters;
+}
+
+bool is_blank(std::uint64_t c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f'; }
+
+std::vector<std::uint64_t> non_white_space_of(std::string const& text, code_units units) {
+    std::vector<std::uint64_t> const characters = characters_of(text, units);
+    std::vector<std::uint64_t> kept;
+    for (std::size_t at = 0; at < characters.size(); ++at) {
+        if (is_blank(characters[at]))
+            continue;
+        if (characters[at] == '\\') {
+            std::size_t next = at + 1;
+            while (next < characters.size() && (characters[next] == ' ' || characters[next] == '\t'))
+                ++next;
+            if (next < characters.size() && (characters[next] == '\n' || characters[next] == '\r'))
+                continue;
+        }
+        kept.push_back(characters[at]);
+    }
+    return kept;
 }
 
 }  // namespace
+
+bool same_non_white_space(std::string const& a, std::string const& b, code_units units) {
+    return non_white_space_of(a, units) == non_white_space_of(b, units);
+}
 
 void check_revise_promises(interface_to_language_plugin& plugin, std::string const& source,
                            std::string const& addon) {
@@ -86,7 +120,7 @@ void check_revise_promises(interface_to_language_plugin& plugin, std::string con
     std::string const result = plugin.revise(source, addon, traits);
     if (result == STYLE_TARNEL_SYNTAX_ERROR_TEXT)
         return;
-    if (!same_non_white_space(result, source, is_wide(source, traits))) {
+    if (!same_non_white_space(result, source, code_units_of(source, traits))) {
         std::fprintf(stderr, "--- source\n%s\n--- result\n%s\n---\n", source.c_str(), result.c_str());
         check(false, "revise changed more than white space");
     }

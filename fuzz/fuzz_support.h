@@ -24,11 +24,21 @@ std::vector<std::string> shipped_addons_of(std::string const& language);
 // Aborts with `what` when `promise` is false: libFuzzer then keeps the input as a crash.
 void check(bool promise, char const* what);
 
-// Whether the two texts hold the same bytes once every white-space byte is removed; in UTF-16 or
-// UTF-32 text (`wide`) the zero bytes of its spaces and line endings count as white space too. A
-// backslash that continues a line (before LF, CR LF or, in a text whose lines end with CR, CR) is
-// white space, as the plugins define it: they lay out macros again, moving and removing those.
-bool same_non_white_space(std::string const& a, std::string const& b, bool wide);
+// How a text's bytes make characters: code units of 1, 2 or 4 bytes, in either byte order.
+struct code_units {
+    unsigned size = 1;
+    bool little_endian = true;
+};
+
+// The code units the host's line-ending traits tell (a UTF-16 or UTF-32 line ending), or, for a
+// text without line break, its byte-order mark; one byte otherwise.
+code_units code_units_of(std::string const& text, line_ending_traits const& traits);
+
+// Whether the two texts hold the same characters once every white-space character is removed,
+// both read in `units`. A backslash that continues a line (before LF, CR LF or, in a text whose
+// lines end with CR, CR) is white space, as the plugins define it: they lay out macros again,
+// moving and removing those.
+bool same_non_white_space(std::string const& a, std::string const& b, code_units units);
 
 // Revises `source` with `plugin` in the style of `addon` and checks the product's promises: the
 // result is the syntax-error text or has the same non-white-space bytes as the source, and
