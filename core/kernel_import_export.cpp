@@ -10,6 +10,7 @@
 #include "engine/read_from.h"
 #include "engine/write_to.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QPluginLoader>
 
@@ -78,8 +79,14 @@ bool kernel::export_style(std::string const& style, std::string const& language,
         break;
     }
     std::string bytes;
-    return read_from(path_of_addon(file_name)).to(bytes) &&
-           write_to(from_utf8(destination)).from(bytes);
+    if (!read_from(path_of_addon(file_name)).to(bytes))
+        return false;
+    // A link standing at the destination is replaced by the copy, not written through: its target
+    // may lie outside the directory chosen.
+    QString const target = from_utf8(destination);
+    if (QFileInfo(target).isSymLink() && !QFile::remove(target))
+        return false;
+    return write_to(target).from(bytes);
 }
 
 std::string kernel::full_path_to_style_addon_by(std::string const& style,

@@ -38,6 +38,7 @@ private slots:
     void keeps_the_old_addon_when_an_import_cannot_replace_it();
     void exports_a_style_data();
     void exports_a_style();
+    void exports_over_a_link_not_through_it();
     void finds_the_path_of_an_addon();
 
 private:
@@ -208,6 +209,22 @@ void test_import_export::exports_a_style() {
     up.cdUp();
     QVERIFY(!QFileInfo(up.filePath("up[Test].style")).exists());
     QCOMPARE(fixture::files_in(fixture::addons_directory()), QStringList{"a[Test].style"});
+}
+
+void test_import_export::exports_over_a_link_not_through_it() {
+    QByteArray const addon = fixture::addon("a", "Test");
+    fixture::install_addon("a[Test].style", addon);
+    QTemporaryDir const elsewhere(QDir::currentPath() + "/elsewhere-XXXXXX");
+    QString const target = elsewhere.path() + "/kept";
+    fixture::write_file(target, "the user's own file");
+    QString const link = outside_path("a[Test].style");
+    QVERIFY(QFile::link(target, link));
+
+    QVERIFY(kernel().export_style("a", "Test", link.toStdString()));
+    QVERIFY(!QFileInfo(link).isSymLink());
+    QCOMPARE(fixture::contents_of(link), addon);
+    QCOMPARE(fixture::contents_of(target), QByteArray("the user's own file"));
+    QCOMPARE(fixture::files_in(elsewhere.path()), QStringList{"kept"});
 }
 
 void test_import_export::finds_the_path_of_an_addon() {
