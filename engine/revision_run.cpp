@@ -83,7 +83,8 @@ bool revision_run::prepare(std::string const& plugin_file, std::string const& ad
         write.about_invalid_format_of_addon(bad_structure, addon_file);
         return false;
     }
-    style_description const description = obtain_style_description().from_text(addon_text);
+    // From the addon as the catalogue reads it, so that an addon saved in UTF-16 names its style.
+    style_description const description = obtain_style_description().from_raw(addon_path);
     language = QString::fromStdString(description.language);
     style = QString::fromStdString(description.style);
     collected = obtain_full_file_paths_from(paths).with(QString::fromStdString(extensions));
@@ -110,14 +111,17 @@ bool revision_run::revise(QString const& path) {
         return false;
 
     std::string result;
-    if (ask(plugin, text, addon_text, result) == plugin_answer::refused)
-        write.about_syntax_error_in(path);
-    else if (result != text && changed_since(before, path)) {
-        // Saved, edited or removed by someone else while the plugin worked on it: writing the
-        // result would undo that, and a record would hide the new content from the next run.
+    plugin_answer const answer = ask(plugin, text, addon_text, result);
+    if (changed_since(before, path)) {
+        // Saved, edited or removed by someone else while the plugin worked on it: the answer is
+        // about text that is gone, writing it would undo the edit, and a record would hide the
+        // new content from the next run.
         write.about_invalid_file(path);
         return true;
-    } else if (result != text) {
+    }
+    if (answer == plugin_answer::refused)
+        write.about_syntax_error_in(path);
+    else if (result != text) {
         if (write_to(path).from(result))
             ++changed_count;
         else

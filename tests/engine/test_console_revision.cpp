@@ -9,6 +9,9 @@
 #include <QDir>
 #include <QTemporaryDir>
 
+#include <chrono>
+#include <thread>
+
 using namespace engine_test;
 
 namespace {
@@ -31,6 +34,11 @@ private slots:
     void an_empty_file_gets_no_record();
     void hands_the_plugin_the_line_ending();
     void does_not_follow_symbolic_links();
+    void records_the_style_of_an_addon_in_UTF_16();
+    void of_two_plugins_of_a_language_uses_the_first_listed_data();
+    void of_two_plugins_of_a_language_uses_the_first_listed();
+    void a_file_edited_while_the_plugin_has_it_is_offered_again_data();
+    void a_file_edited_while_the_plugin_has_it_is_offered_again();
 
 private:
     QString source(QString const& name) const { return QDir(sources->path()).filePath(name); }
@@ -217,6 +225,76 @@ void test_console_revision::does_not_follow_symbolic_links() {
              done + "1 file was found, 1 file was revised, 1 file was changed.\n");
     QCOMPARE(contents_of(target), QByteArray("x  y"));
     QCOMPARE(contents_of(source("tree/real.tst")), QByteArray("x y"));
+}
+
+void test_console_revision::records_the_style_of_an_addon_in_UTF_16() {
+    // Two styles saved in UTF-16: a file revised in one is revised again in the other.
+    auto in_UTF_16 = [](QByteArray const& text) {
+        QByteArray wide;
+        for (char c : text)
+            wide.append(c).append('\0');
+        return wide;
+    };
+    qint64 const past = now() - 100;
+    for (auto const& style : {"Narrow", "Wide"})
+        set_modification_time(install_addon(QString(style) + "[Test].style", in_UTF_16(addon_text(style))),
+                              past);
+    write_file(source("a.tst"), "x y");
+
+    QCOMPARE(revise_on_command_line(task_for({sources->path()}, "tst", "Narrow")).out,
+             done + "1 file was found, 1 file was revised, no files was changed.\n");
+    QCOMPARE(revise_on_command_line(task_for({sources->path()}, "tst", "Wide")).out,
+             done + "1 file was found, 1 file was revised, no files was changed.\n");
+    QCOMPARE(revise_on_command_line(task_for({sources->path()}, "tst", "Wide")).out,
+             done + "1 file was found, no files was revised.\n");
+}
+
+void test_console_revision::of_two_plugins_of_a_language_uses_the_first_listed_data() {
+    QTest::addColumn<QString>("twin_as");
+    QTest::addColumn<QByteArray>("used");  // the tag the used plugin writes in its log
+    QTest::newRow("the twin listed first") << "liba-language-plugin.so" << QByteArray("twin-language-plugin");
+    QTest::newRow("the twin listed last") << "libz-language-plugin.so" << QByteArray("test-language-plugin");
+}
+
+void test_console_revision::of_two_plugins_of_a_language_uses_the_first_listed() {
+    QFETCH(QString, twin_as);
+    QFETCH(QByteArray, used);
+    install_plugin(QString(STYLE_TARNEL_TEST_PLUGINS_DIR "/libtwin-language-plugin.so"), twin_as);
+    write_file(source("a.tst"), "x  y");
+    revise_on_command_line(task_for({sources->path()}));
+    QCOMPARE(contents_of(QDir(qEnvironmentVariable("XDG_CACHE_HOME")).filePath("test-plugin.log")),
+             used + " revise - - 4\n" + used + " end_of_revision\n");
+}
+
+void test_console_revision::a_file_edited_while_the_plugin_has_it_is_offered_again_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::addColumn<QByteArray>("edited");
+    QTest::newRow("the plugin had nothing to change") << QByteArray("x y") << QByteArray("x  y z");
+    QTest::newRow("the plugin refused it") << QByteArray("SYNTAX_ERROR") << QByteArray("x  y");
+    QTest::newRow("the plugin changed it") << QByteArray("x  y") << QByteArray("x  y  z");
+}
+
+void test_console_revision::a_file_edited_while_the_plugin_has_it_is_offered_again() {
+    QFETCH(QByteArray, content);
+    QFETCH(QByteArray, edited);
+    QString const file = write_file(source("a.tst"), content);
+    qputenv("TEST_PLUGIN_DELAY_MS", "1500");
+    std::thread editor([&] {
+        for (int i = 0; i < 1000 && plugin_log().filter("revise").isEmpty(); ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        write_file(file, edited);
+    });
+    console_output const first = revise_on_command_line(task_for({file}));
+    editor.join();
+    qunsetenv("TEST_PLUGIN_DELAY_MS");
+
+    QCOMPARE(first.out, done + "Sorry, I can't revise file '" + file.toStdString() +
+                            "'. If this file exists - please check read/write permissions.\n\n"
+                            "1 file was found, 1 file was revised, no files was changed.\n");
+    QCOMPARE(contents_of(file), edited);
+    // No record hides the edit from the next run.
+    QCOMPARE(revise_on_command_line(task_for({file})).out,
+             done + "1 file was found, 1 file was revised, 1 file was changed.\n");
 }
 
 STYLE_TARNEL_TEST_MAIN_IN_BUNDLE(test_console_revision)
