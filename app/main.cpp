@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 
 #include <csignal>
+#include <vector>
 
 namespace {
 
@@ -21,7 +22,11 @@ int run_window(int argc, char** argv) {
 }
 
 int run_command_line(int argc, char** argv) {
-    QCoreApplication application(argc, argv);
+    // Qt takes the words it knows (-qmljsdebugger=...) out of the list it is given; the runner
+    // must see and check every word, so Qt gets a copy.
+    int qt_argc = argc;
+    std::vector<char*> qt_argv(argv, argv + argc + 1);
+    QCoreApplication application(qt_argc, qt_argv.data());
     kernel().remove_old_executable_if_required();
     return console::runner()(argc, argv);
 }

@@ -94,6 +94,7 @@ void test_fixed_outputs_and_refusals::refuses_words_data() {
     QTest::newRow("unknown bare name") << QStringList{"--bogus"} << unknown;
     QTest::newRow("unknown name with value") << QStringList{"--bogus=1", "-l=C"} << unknown;
     QTest::newRow("names are not prefixes") << QStringList{"--lan=C", "-s=Plain", "-p=."} << unknown;
+    QTest::newRow("words of Qt's own") << QStringList{"-qmljsdebugger=port:1", "-v"} << unknown;
     QTest::newRow("help and version") << QStringList{"-h", "-v"} << not_understood;
     QTest::newRow("help with a value") << QStringList{"--help=1"} << not_understood;
     QTest::newRow("listing with a value") << QStringList{"--ls=all"} << not_understood;
