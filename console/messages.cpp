@@ -43,6 +43,10 @@ std::string cannot_export_style_to(std::string const& directory) {
 std::string invalid_style_name(std::string const& name) {
     return "Invalid name of style '" + name + "', " + "it must be in English.";
 }
+std::string empty_style_name() { return "Invalid name of style '', name cannot be empty."; }
+std::string taken_style_name(std::string const& name) {
+    return "Invalid name of style '" + name + "', such style already exists.";
+}
 std::string cannot_rename_style(std::string const& style) { return "I cannot rename style '" + style + "'."; }
 
 std::string no_such_file(std::string const& path) { return "No such file '" + path + "'."; }

@@ -31,6 +31,8 @@ std::string cannot_export_to(std::string const& directory);
 std::string cannot_export_style_to(std::string const& directory);
 
 std::string invalid_style_name(std::string const& name);
+std::string empty_style_name();
+std::string taken_style_name(std::string const& name);
 std::string cannot_rename_style(std::string const& style);
 
 std::string no_such_file(std::string const& path);

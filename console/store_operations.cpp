@@ -108,6 +108,16 @@ int result_of_run::rename_style_based_on(argument_list const& arguments) const {
         say(message::invalid_style_name(new_name));
         return 1;
     }
+    // An addon without a name would hide every style of the store, and two addons of one name
+    // would hide each other.
+    if (new_name.empty()) {
+        say(message::empty_style_name());
+        return 1;
+    }
+    if (new_name != style && !there_is_no_such().style(new_name, language)) {
+        say(message::taken_style_name(new_name));
+        return 1;
+    }
     if (!kernel().rename_style(style, language, new_name)) {
         say(message::cannot_rename_style(style));
         return 1;

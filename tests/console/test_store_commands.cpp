@@ -199,9 +199,17 @@ void test_store_commands::refuses_invalid_names_and_taken_file_names() {
         COMPARE_RUN(bundle.run({"-l=Test", "-s=Wide", QString("--rename=") + QString::fromUtf8(name)}),
                     QByteArray("Invalid name of style '") + name + "', it must be in English.\n", "", 1);
     QCOMPARE(bundle.installed_addons().size(), 3);
-    // A file of the new name already stands there: the name inside changes, the file name stays.
-    COMPARE_RUN(bundle.run({"-l=Test", "-s=Wide", "--rename=Plain"}), "I cannot rename style 'Wide'.\n", "", 1);
-    QVERIFY(temporary_bundle::contents_of(bundle.addons_directory() + "/Wide[Test].style").startsWith("NAME=Plain\n"));
+    // No name, or the name of another style of the language: refused before anything changes.
+    QStringList const before = bundle.installed_addons();
+    COMPARE_RUN(bundle.run({"-l=Test", "-s=Wide", "--rename"}), "Invalid name of style '', name cannot be empty.\n", "", 1);
+    COMPARE_RUN(bundle.run({"-l=Test", "-s=Wide", "--rename=Plain"}),
+                "Invalid name of style 'Plain', such style already exists.\n", "", 1);
+    QCOMPARE(bundle.installed_addons(), before);
+    QVERIFY(temporary_bundle::contents_of(bundle.addons_directory() + "/Wide[Test].style").startsWith("NAME=Wide\n"));
+    // A file of the new name holds another style: the name inside changes, the file name stays.
+    QVERIFY(bundle.add_addon("Tidy[Test].style", addon_text("Neat", "Test")));
+    COMPARE_RUN(bundle.run({"-l=Test", "-s=Wide", "--rename=Tidy"}), "I cannot rename style 'Wide'.\n", "", 1);
+    QVERIFY(temporary_bundle::contents_of(bundle.addons_directory() + "/Wide[Test].style").startsWith("NAME=Tidy\n"));
 }
 
 void test_store_commands::updates_the_executable_and_cleans_up_at_the_next_start() {
