@@ -12,8 +12,14 @@ bool first_plugin_where(
     QPluginLoader loader;
     for (auto const& file_name : list_of_names_of_plugins()) {
         interface_to_language_plugin* plugin = plugin_obtainer(loader)(file_name);
-        if (plugin != nullptr && is_wanted(file_name, *plugin))
-            return true;
+        if (plugin == nullptr)
+            continue;
+        // A plugin is code from outside: one that throws when asked counts as no plugin.
+        try {
+            if (is_wanted(file_name, *plugin))
+                return true;
+        } catch (...) {
+        }
     }
     return false;
 }

@@ -34,8 +34,12 @@ std::string kernel::import_language_from(std::string const& path) const {
     bool const stored = store::in<plugins_directory>(from_utf8(path), [&](QString const& copy) {
         QPluginLoader loader;
         interface_to_language_plugin* plugin = plugin_obtainer(loader)(copy);
-        if (plugin != nullptr)
-            language = plugin->language_name();
+        try {
+            if (plugin != nullptr)
+                language = plugin->language_name();
+        } catch (...) {
+            language.clear();
+        }
         return !language.empty();
     });
     return stored ? language : std::string();

@@ -8,6 +8,7 @@ class test_faulty_plugins : public QObject {
     Q_OBJECT
 private slots:
     void a_throwing_or_emptying_plugin_leaves_the_file_and_the_run_goes_on();
+    void a_plugin_that_throws_when_asked_counts_as_no_plugin();
 };
 
 void test_faulty_plugins::a_throwing_or_emptying_plugin_leaves_the_file_and_the_run_goes_on() {
@@ -25,6 +26,34 @@ void test_faulty_plugins::a_throwing_or_emptying_plugin_leaves_the_file_and_the_
     QCOMPARE(temporary_bundle::contents_of(throwing), QByteArray("THROW  here\n"));
     QCOMPARE(temporary_bundle::contents_of(emptied), QByteArray("EMPTY  here\n"));
     QCOMPARE(temporary_bundle::contents_of(fine), QByteArray("fine here\n"));
+}
+
+// Every question but revise(): its language, keywords, extensions and forms.
+void test_faulty_plugins::a_plugin_that_throws_when_asked_counts_as_no_plugin() {
+    installed_bundle bundle;
+    run_options throwing;
+    throwing.extra_environment.insert("TEST_PLUGIN_THROWING", "other-language-plugin");
+    run_result const listing = bundle.run({"--ls"}, throwing);
+    QCOMPARE(listing.crashed, false);
+    QCOMPARE(listing.status, 0);
+    QVERIFY(listing.err.contains(" Test .. Plain\n"));
+    QVERIFY(!listing.err.contains("Other"));
+
+    QString const file = bundle.write_file("src/a.tst", "a  b\n");
+    run_result const revision = bundle.run({"-l=Test", "-s=Plain", "-p=src"}, throwing);
+    QCOMPARE(revision.status, 0);
+    QCOMPARE(temporary_bundle::contents_of(file), QByteArray("a b\n"));
+    run_result const refused = bundle.run({"-l=Other", "-s=Plain", "-p=src"}, throwing);
+    QCOMPARE(refused.crashed, false);
+    QCOMPARE(refused.status, 1);
+
+    // Importing it fails and installs nothing.
+    QString const copy = bundle.work_directory() + "/libother-language-plugin.so";
+    QVERIFY(QFile::copy(built::other_language_plugin(), copy));
+    QVERIFY(QFile::remove(bundle.plugins_directory() + "/libother-language-plugin.so"));
+    QStringList const before = bundle.installed_plugins();
+    COMPARE_RUN(bundle.run({"--import=" + copy}, throwing), "I cannot import language '" + copy.toUtf8() + "'.\n", "", 1);
+    QCOMPARE(bundle.installed_plugins(), before);
 }
 
 QTEST_GUILESS_MAIN(test_faulty_plugins)

@@ -28,15 +28,31 @@ void log(std::string const& line) {
     }
 }
 
+void throw_if_asked() {
+    char const* tag = std::getenv("TEST_PLUGIN_THROWING");
+    if (tag != nullptr && std::string(tag) == TEST_PLUGIN_TAG)
+        throw std::runtime_error("the test plugin was asked to throw");
+}
+
 }  // namespace
 
-std::string test_language_plugin::language_name() { return TEST_LANGUAGE_NAME; }
+std::string test_language_plugin::language_name() {
+    throw_if_asked();
+    return TEST_LANGUAGE_NAME;
+}
 
-std::vector<std::string> test_language_plugin::list_of_keywords() { return {"begin", "end", "if"}; }
+std::vector<std::string> test_language_plugin::list_of_keywords() {
+    throw_if_asked();
+    return {"begin", "end", "if"};
+}
 
-std::vector<std::string> test_language_plugin::filename_extensions() { return {"tst", "test"}; }
+std::vector<std::string> test_language_plugin::filename_extensions() {
+    throw_if_asked();
+    return {"tst", "test"};
+}
 
 std::map<std::string, std::string> test_language_plugin::forms_of_structures() {
+    throw_if_asked();
     // "function" is a prefix of "function call": forms are found by a substring search.
     return {
         {"block", R"(begin\s+SOME\s+end)"},

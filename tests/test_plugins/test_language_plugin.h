@@ -6,6 +6,8 @@
 // With TEST_PLUGIN_LOG set, each call appends a line to that file:
 //   "<tag> revise <EOL in hex> <space in hex> <source size>" and "<tag> end_of_revision".
 // With TEST_PLUGIN_DELAY_MS set, each revise() sleeps that long first.
+// With TEST_PLUGIN_THROWING set to its tag, the plugin throws from language_name(),
+// list_of_keywords(), filename_extensions() and forms_of_structures().
 #ifndef TEST_LANGUAGE_PLUGIN_H
 #define TEST_LANGUAGE_PLUGIN_H
 
