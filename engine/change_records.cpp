@@ -1,14 +1,12 @@
 #include "engine/change_records.h"
 
 #include "engine/change_record_store.h"
+#include "engine/file_status.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 #include <QVariantList>
-
-#include <sys/stat.h>
 
 namespace {
 
@@ -16,12 +14,7 @@ QString key_of(QString const& path) { return path.mid(1); }
 
 // Last modification in seconds since the epoch (UTC), straight from the file system: converting
 // through a local date and time would cost more than the rest of the test.
-quint32 modification_time_of(QString const& path) {
-    struct stat status {};
-    if (::stat(QFile::encodeName(path).constData(), &status) != 0)
-        return 0;
-    return static_cast<quint32>(status.st_mtime);
-}
+quint32 modification_time_of(QString const& path) { return file_status(path).modification_time(); }
 
 quint32 now() { return static_cast<quint32>(QDateTime::currentSecsSinceEpoch()); }
 
@@ -39,12 +32,25 @@ auto with_store(QSettings* store, Use use) {
 void save_info_about_changes_of::this_source_file(QString const& path, QString const& language,
                                                   QString const& style,
                                                   QString const& addon_path) const {
-    QVariantList const value{now(), language, style, modification_time_of(addon_path)};
+    this_source_file(path, language, style, modification_time_of(addon_path));
+}
+
+void save_info_about_changes_of::this_source_file(QString const& path, QString const& language,
+                                                  QString const& style,
+                                                  quint32 addon_modified) const {
+    QVariantList const value{now(), language, style, addon_modified};
     with_store(store, [&](QSettings& settings) { settings.setValue(key_of(path), value); });
 }
 
 bool this_source_file::was_not_changed(QString const& path, QString const& language,
                                        QString const& style, QString const& addon_path) const {
+    quint32 const file_modified = modification_time_of(path);
+    return was_not_changed(path, file_modified, language, style, modification_time_of(addon_path));
+}
+
+bool this_source_file::was_not_changed(QString const& path, quint32 file_modified,
+                                       QString const& language, QString const& style,
+                                       quint32 addon_modified) const {
     return with_store(store, [&](QSettings& settings) {
         QVariant const stored = settings.value(key_of(path));
         if (!stored.isValid())
@@ -62,8 +68,7 @@ bool this_source_file::was_not_changed(QString const& path, QString const& langu
         quint32 const addon_time = record[3].toUInt(&addon_ok);
         if (!revision_ok || !addon_ok)
             return false;
-        return modification_time_of(path) <= revision_time &&
-               modification_time_of(addon_path) <= addon_time;
+        return file_modified <= revision_time && addon_modified <= addon_time;
     });
 }
 

@@ -15,6 +15,10 @@ public:
     explicit save_info_about_changes_of(QSettings* store = nullptr) : store(store) {}
     void this_source_file(QString const& path, QString const& language, QString const& style,
                           QString const& addon_path) const;
+    // The same with the addon's modification time (UTC seconds) read by the caller: a run reads
+    // it once, before it reads the addon's text.
+    void this_source_file(QString const& path, QString const& language, QString const& style,
+                          quint32 addon_modified) const;
 
 private:
     QSettings* store;
@@ -28,6 +32,10 @@ public:
     // in the second of its revision still counts as unchanged).
     bool was_not_changed(QString const& path, QString const& language, QString const& style,
                          QString const& addon_path) const;
+    // The same with the modification times (UTC seconds) read by the caller: a run takes the
+    // file's from the `stat` of its accessibility test and the addon's once.
+    bool was_not_changed(QString const& path, quint32 file_modified, QString const& language,
+                         QString const& style, quint32 addon_modified) const;
 
 private:
     QSettings* store;

@@ -5,15 +5,14 @@
 #include "core/style_addon.h"
 #include "engine/change_records.h"
 #include "engine/file_collection.h"
+#include "engine/file_status.h"
 #include "engine/plugin_obtainer.h"
 #include "engine/read_from.h"
 #include "engine/traits_of.h"
 #include "engine/write_in.h"
 #include "engine/write_to.h"
 
-#include <QDateTime>
 #include <QDir>
-#include <QFileInfo>
 
 #include <algorithm>
 
@@ -24,21 +23,6 @@ bool holds_only_white_space(std::string const& text) {
     return std::all_of(text.begin(), text.end(), [](char c) {
         return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f' || c == '\0';
     });
-}
-
-// A file's size and time of last change: what tells that someone else wrote it meanwhile.
-struct file_state {
-    qint64 size;
-    QDateTime modified;
-    bool operator!=(file_state const& other) const { return size != other.size || modified != other.modified; }
-};
-
-file_state state_of(QFileInfo const& info) { return {info.size(), info.lastModified()}; }
-
-// Whether the file at `path` is gone or no longer the one read in state `before`.
-bool changed_since(file_state const& before, QString const& path) {
-    QFileInfo const now(path);
-    return !now.exists() || state_of(now) != before;
 }
 
 enum class plugin_answer { revised, refused };
@@ -74,6 +58,9 @@ bool revision_run::prepare(std::string const& plugin_file, std::string const& ad
         return false;
     }
     addon_path = path_to().addons_directory() + QDir::separator() + QString::fromStdString(addon_file);
+    // Read before the text, so that the records never hold the time of a newer addon than the
+    // one the run uses: an addon saved in between only makes the next run revise again.
+    addon_modified = file_status(addon_path).modification_time();
     if (!read_from(addon_path).to(addon_text)) {
         write.about_problem_with_addon(addon_file);
         return false;
@@ -93,14 +80,15 @@ bool revision_run::prepare(std::string const& plugin_file, std::string const& ad
 
 bool revision_run::revise(QString const& path) {
     write_in const write(report);
-    QFileInfo const info(path);
-    if (!info.exists() || !info.isFile() || !info.isReadable() || !info.isWritable()) {
+    // One `stat` for the accessibility test, the records and the check for edits by others.
+    file_status const before(path);
+    if (!before.is_readable_and_writable_file()) {
         write.about_invalid_file(path);
         return false;
     }
-    if (this_source_file(records.settings()).was_not_changed(path, language, style, addon_path))
+    if (this_source_file(records.settings())
+            .was_not_changed(path, before.modification_time(), language, style, addon_modified))
         return false;
-    file_state const before = state_of(info);
     std::string text;
     if (!read_from(path).to(text)) {
         write.about_invalid_file(path);
@@ -112,7 +100,7 @@ bool revision_run::revise(QString const& path) {
 
     std::string result;
     plugin_answer const answer = ask(plugin, text, addon_text, result);
-    if (changed_since(before, path)) {
+    if (file_status(path) != before) {
         // Saved, edited or removed by someone else while the plugin worked on it: the answer is
         // about text that is gone, writing it would undo the edit, and a record would hide the
         // new content from the next run.
@@ -129,7 +117,8 @@ bool revision_run::revise(QString const& path) {
     }
     // Also after a refusal or a failed write: such a file waits until it, the style or the
     // addon changes.
-    save_info_about_changes_of(records.settings()).this_source_file(path, language, style, addon_path);
+    save_info_about_changes_of(records.settings())
+        .this_source_file(path, language, style, addon_modified);
     records.sync_if_due();
     return true;
 }

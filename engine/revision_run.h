@@ -42,6 +42,7 @@ private:
     interface_to_language_plugin* plugin = nullptr;
     std::string addon_text;
     QString addon_path;
+    quint32 addon_modified = 0;  // UTC seconds, read once before the addon's text
     QString language;
     QString style;
     QStringList collected;
