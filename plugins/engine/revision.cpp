@@ -63,13 +63,18 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
         bool stable = outcome.text == *decoded;
         for (int round = 0; round < rounds_to_stability && !stable; ++round) {
             engine_outcome again = format_with(style).the_code(outcome.text);
-            stable = again.text == outcome.text;
+            stable = again.complete && again.text == outcome.text;
             outcome = std::move(again);
         }
         // A text the engine keeps changing, or one where more than white space would change, is
         // left as it is: never a half-settled or token-changing result.
         if (!stable || !only_white_space_differs(*decoded, outcome.text))
             return source;
+        // The next revision checks the result as this one checked the source. An unclosed quote
+        // (a stray apostrophe) ends at the end of its line; joined with the next line, it takes
+        // in brackets that the source had outside it. Such code is no proper source anyway.
+        if (!brackets_are_balanced_in(outcome.text))
+            return syntax_error;
         // Joined into one line, such a text would be taken for 8-bit text next time, and revised
         // again differently.
         if (encoding.is_wide_by_line_breaks_alone(source) && outcome.text.find('\n') == std::string::npos)

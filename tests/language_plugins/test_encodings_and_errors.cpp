@@ -108,6 +108,19 @@ private slots:
         }
     }
 
+    // A stray apostrophe ends at the end of its line. The engine joins that line with the next,
+    // which puts the parenthesis inside it: the engine then calls its own result incomplete, and
+    // the next revision would find its brackets unbalanced. So the text stays as it is, and
+    // revising it again gives the same.
+    void leaves_a_text_alone_whose_result_would_hide_brackets() {
+        loaded_plugin plugin(cpp_plugin_file());
+        std::string const addon = shipped_addon("Mozilla[C++].style");
+        std::string const source = "('\n)";
+        std::string const result = plugin->revise(source, addon, traits_of(source));
+        QCOMPARE(QString::fromStdString(result), QString::fromStdString(source));
+        QCOMPARE(QString::fromStdString(plugin->revise(result, addon, traits_of(result))), QString::fromStdString(result));
+    }
+
     void leaves_binary_and_text_without_code_alone() {
         loaded_plugin plugin(c_plugin_file());
         std::string const addon = shipped_addon("Allman[C].style");
