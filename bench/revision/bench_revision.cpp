@@ -91,17 +91,25 @@ std::vector<std::string> walk(QString const& root) {
     return files;
 }
 
+// Reads the whole file into `text`; its mode goes to `mode`.
+void read_whole(std::string const& path, std::string& text, mode_t& mode) {
+    int const fd = ::open(path.c_str(), O_RDONLY);
+    struct stat status {};
+    ::fstat(fd, &status);
+    text.resize(static_cast<std::size_t>(status.st_size));
+    ssize_t const got = ::read(fd, &text[0], text.size());
+    text.resize(got > 0 ? static_cast<std::size_t>(got) : 0);
+    mode = status.st_mode;
+    ::close(fd);
+}
+
 void read_and_write(std::vector<std::string> const& files) {
     std::string text;
+    mode_t mode = 0;
     for (auto const& path : files) {
-        int fd = ::open(path.c_str(), O_RDONLY);
-        struct stat status {};
-        ::fstat(fd, &status);
-        text.resize(static_cast<std::size_t>(status.st_size));
-        ssize_t const got = ::read(fd, &text[0], text.size());
-        ::close(fd);
-        fd = ::open(path.c_str(), O_WRONLY | O_TRUNC);
-        if (got > 0 && ::write(fd, text.data(), static_cast<std::size_t>(got)) < 0)
+        read_whole(path, text, mode);
+        int const fd = ::open(path.c_str(), O_WRONLY | O_TRUNC);
+        if (::write(fd, text.data(), text.size()) < 0)
             std::perror("write");
         ::close(fd);
     }
@@ -111,18 +119,14 @@ void read_and_write(std::vector<std::string> const& files) {
 // half-written: a temporary file beside it, renamed over it.
 void read_and_replace(std::vector<std::string> const& files) {
     std::string text;
+    mode_t mode = 0;
     for (auto const& path : files) {
-        int fd = ::open(path.c_str(), O_RDONLY);
-        struct stat status {};
-        ::fstat(fd, &status);
-        text.resize(static_cast<std::size_t>(status.st_size));
-        ssize_t const got = ::read(fd, &text[0], text.size());
-        ::close(fd);
+        read_whole(path, text, mode);
         std::string temporary = path + ".XXXXXX";
-        fd = ::mkostemp(&temporary[0], O_CLOEXEC);
-        if (got > 0 && ::write(fd, text.data(), static_cast<std::size_t>(got)) < 0)
+        int const fd = ::mkostemp(&temporary[0], O_CLOEXEC);
+        if (::write(fd, text.data(), text.size()) < 0)
             std::perror("write");
-        ::fchmod(fd, status.st_mode & 07777);
+        ::fchmod(fd, mode & 07777);
         ::close(fd);
         if (::rename(temporary.c_str(), path.c_str()) != 0)
             std::perror("rename");
