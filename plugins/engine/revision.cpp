@@ -75,12 +75,11 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
         // in brackets that the source had outside it. Such code is no proper source anyway.
         if (!brackets_are_balanced_in(outcome.text))
             return syntax_error;
-        // Joined into one line, such a text would be taken for 8-bit text next time, and revised
-        // again differently.
-        if (encoding.is_wide_by_line_breaks_alone(source) && outcome.text.find('\n') == std::string::npos)
-            return source;
         std::optional<std::string> encoded = encoding.encoded(outcome.text);
         if (!encoded || *encoded == source)
+            return source;
+        // Taken for text of another encoding, the result would be revised again differently.
+        if (!encoding.result_is_told_alike(source, *encoded))
             return source;
         return std::move(*encoded);
     } catch (...) {

@@ -30,9 +30,11 @@ public:
     // may see no line break and go by the mark, read them in the other encoding.
     bool contradicts_byte_order_mark_of(std::string const& source) const;
 
-    // Whether only its line breaks tell that the source is UTF-16 or UTF-32: it has no byte-order
-    // mark. A result without line break would be read as 8-bit text by the next revision.
-    bool is_wide_by_line_breaks_alone(std::string const& source) const;
+    // Whether the host will take `result` for text of the same encoding as `source`. A UTF-16 or
+    // UTF-32 text without byte-order mark is known by the bytes around its first LF byte (or, in a
+    // text without any, its first CR byte), which may belong to another character; so the result
+    // must hold that byte at the same place, with the same bytes before and around it.
+    bool result_is_told_alike(std::string const& source, std::string const& result) const;
 
     line_ending ending() const { return line_ending_kind; }
 

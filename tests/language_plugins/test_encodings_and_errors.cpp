@@ -142,6 +142,18 @@ private slots:
                  QByteArray::fromStdString(encoded("int x;", "UTF-16LE", true)).toHex(' '));
     }
 
+    // Bytes that the host takes for UTF-16 little-endian with CR line endings by the CR nearest
+    // their first CR byte; that CR would become a space, and the host would then take the result
+    // for UTF-16 big-endian by the first CR byte (of another character). Left as it is.
+    void keeps_the_line_break_that_tells_the_encoding() {
+        loaded_plugin plugin(c_plugin_file());
+        std::string const addon = shipped_addon("GNU[C].style");
+        std::string const source("\xef\xff\x24\x5c\x5c\x5c\x00\x0d\x5c\x5c\x0d\x00\x5c\x5c\x5c\x5c\x5c\x5c\x0d\x00\x5c\xff\xff\x7e\x60\xff\x2e\xef\xb5\x0c\xff\x2e\xef\x5c\x5c\x5c\x5c\x5c\x57\xa3\x5c\x5c\x5c\x5c\x5c\x5c\x5c\xff\x2e\xef\xb5\x0c\xff\x2e\xef\xb5\x0c\xff", 58);
+        QCOMPARE(QByteArray::fromStdString(traits_of(source).EOL).toHex(' '), QByteArray("0d 00"));
+        std::string const result = plugin->revise(source, addon, traits_of(source));
+        QCOMPARE(QByteArray::fromStdString(result).toHex(' '), QByteArray::fromStdString(source).toHex(' '));
+    }
+
     // The options inferred from an addon are written under $XDG_CACHE_HOME/style-tarnel, and
     // another process with a cold cache of its own (the developer tool) infers the same options.
     void inference_is_cached_on_disk_and_deterministic() {
