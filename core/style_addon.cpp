@@ -56,6 +56,10 @@ style_description obtain_style_description::from_raw(std::string const& path) co
     return from_raw(QString::fromStdString(path));
 }
 
+style_description obtain_style_description::from_bytes(std::string const& bytes) const {
+    return from_text(without_NUL_bytes(bytes));
+}
+
 style_description obtain_style_description::from_text(std::string const& text) const {
     auto const style = extract_value_of().from_ini_like("NAME", text, "=");
     auto const language = extract_value_of().from_ini_like("LANGUAGE", text, "=");

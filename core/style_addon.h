@@ -30,6 +30,8 @@ public:
     style_description from_raw(std::string const& path) const;
     // An addon text already in memory.
     style_description from_text(std::string const& text) const;
+    // An addon's bytes as read from its file, NUL bytes still in them.
+    style_description from_bytes(std::string const& bytes) const;
 };
 
 class extract_value_of {

@@ -70,8 +70,8 @@ bool revision_run::prepare(std::string const& plugin_file, std::string const& ad
         write.about_invalid_format_of_addon(bad_structure, addon_file);
         return false;
     }
-    // From the addon as the catalogue reads it, so that an addon saved in UTF-16 names its style.
-    style_description const description = obtain_style_description().from_raw(addon_path);
+    // As the catalogue reads an addon, so that one saved in UTF-16 names its style.
+    style_description const description = obtain_style_description().from_bytes(addon_text);
     language = QString::fromStdString(description.language);
     style = QString::fromStdString(description.style);
     collected = obtain_full_file_paths_from(paths).with(QString::fromStdString(extensions));
