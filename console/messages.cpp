@@ -53,6 +53,11 @@ std::string no_such_file(std::string const& path) { return "No such file '" + pa
 std::string cannot_import_language(std::string const& path) {
     return "I cannot import language '" + path + "'.";
 }
+std::string plugin_of_other_interface_version(std::string const& path, std::string const& version,
+                                              std::string const& needed) {
+    return "I cannot import language '" + path + "', it was built for version '" + version +
+           "' of the plugin interface, but this program needs version '" + needed + "'.";
+}
 std::string no_language_for_imported_style(std::string const& language) {
     return "There is no language '" + language +
            "', so I cannot import style for it. Please import this language first.";

@@ -37,6 +37,8 @@ std::string cannot_rename_style(std::string const& style);
 
 std::string no_such_file(std::string const& path);
 std::string cannot_import_language(std::string const& path);
+std::string plugin_of_other_interface_version(std::string const& path, std::string const& version,
+                                              std::string const& needed);
 std::string no_language_for_imported_style(std::string const& language);
 std::string cannot_import_style(std::string const& path);
 std::string invalid_extension_of_file(std::string const& path);

@@ -5,8 +5,6 @@
 #include "console/show_what_supported.h"
 #include "console/true_if_user.h"
 
-#include <boost/xpressive/xpressive.hpp>
-
 #include <set>
 
 namespace console {
@@ -57,11 +55,6 @@ std::string value_of(argument_list const& arguments, std::string const& long_nam
         if (argument.first == long_name || (!short_name.empty() && argument.first == short_name))
             value = argument.second;
     return value;
-}
-
-bool matches_in_full(std::string const& text, std::string const& expression) {
-    namespace xp = boost::xpressive;
-    return xp::regex_match(text, xp::sregex::compile(expression));
 }
 
 }  // namespace console

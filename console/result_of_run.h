@@ -25,9 +25,6 @@ public:
 std::string value_of(argument_list const& arguments, std::string const& long_name,
                      std::string const& short_name = std::string());
 
-// Whether `text` matches `expression` (ECMAScript syntax) as a whole.
-bool matches_in_full(std::string const& text, std::string const& expression);
-
 }  // namespace console
 
 #endif

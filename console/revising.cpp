@@ -4,9 +4,9 @@
 
 #include "console/messages.h"
 #include "core/kernel.h"
+#include "core/style_addon.h"
 #include "core/there_is_no_such.h"
-#include "engine/change_records.h"
-#include "engine/transform.h"
+#include "core/transform.h"
 
 #include <QFileInfo>
 #include <boost/algorithm/string/replace.hpp>
@@ -49,8 +49,7 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
     // Forgotten before anything else is checked: a forced run that then fails on a bad style
     // name has still forgotten the records.
     if (force)
-        for (auto const& path : task.paths)
-            remove_info_about_changes_of().this_path(path);
+        kernel().forget_change_records_of(task.paths);
 
     if (there_is_no_such().language(task.language)) {
         say(message::no_such_language(task.language) + message::listing_hint());
@@ -64,7 +63,7 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
         task.extensions = default_extensions_of(task.language);
     } else {
         boost::algorithm::replace_all(task.extensions, ",", " ");
-        if (!matches_in_full(task.extensions, "[a-zA-Z\\d\\s]{1,}")) {
+        if (!these_are_filename_extensions(task.extensions)) {
             say(message::invalid_extensions());
             return 1;
         }

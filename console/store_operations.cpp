@@ -2,11 +2,11 @@
 #include "console/result_of_run.h"
 
 #include "console/messages.h"
+#include "core/installed_files.h"
 #include "core/kernel.h"
 #include "core/style_addon.h"
 #include "core/there_is_no_such.h"
-#include "engine/plugin_obtainer.h"
-#include "engine/transform.h"
+#include "core/transform.h"
 
 #include <QFileInfo>
 
@@ -104,7 +104,7 @@ int result_of_run::rename_style_based_on(argument_list const& arguments) const {
     std::string const new_name = value_of(arguments, "--rename");
     if (!language_and_style_are_installed(language, style))
         return 1;
-    if (!matches_in_full(new_name, style_name_validator())) {
+    if (!this_is_a_style_name(new_name)) {
         say(message::invalid_style_name(new_name));
         return 1;
     }
@@ -134,7 +134,12 @@ int result_of_run::import_something_based_on(argument_list const& arguments) con
     }
     if (language_plugin()(path)) {
         if (kernel().import_language_from(path).empty()) {
-            say(message::cannot_import_language(path));
+            std::string const version = kernel().plugin_interface_version_of(path);
+            if (!version.empty() && version != kernel().plugin_interface_version())
+                say(message::plugin_of_other_interface_version(path, version,
+                                                               kernel().plugin_interface_version()));
+            else
+                say(message::cannot_import_language(path));
             return 1;
         }
         done();

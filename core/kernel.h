@@ -6,7 +6,7 @@
 #define STYLE_TARNEL_CORE_KERNEL_H
 
 #include "core/style_description.h"
-#include "engine/revision_task.h"
+#include "core/revision_task.h"
 
 #include <boost/optional.hpp>
 
@@ -28,6 +28,11 @@ public:
     std::vector<std::string> filename_extensions_for(std::string const& language) const;
     std::vector<std::string> list_of_placeholders() const;
     bool this_is_a_plugin(std::string const& path) const;
+    // The version of the plugin interface that the plugin file at `path` was built for ("none"
+    // for one older than versioned interfaces; empty for no plugin of ours), and the version this
+    // program loads.
+    std::string plugin_interface_version_of(std::string const& path) const;
+    std::string plugin_interface_version() const;
 
     // Import and export.
     std::string import_language_from(std::string const& path) const;
@@ -52,9 +57,14 @@ public:
                                         std::string const& structure,
                                         std::string const& form) const;
 
-    // Revision: on the calling thread, printing progress and report, returning 0 or, when SIGINT
-    // or SIGTERM interrupted it, 128 + the signal's number; or on a detached worker thread that
-    // reports through the four callbacks and reads `stop` between files.
+    // Change records: forgets those of the files at and below the paths, so that the next run
+    // revises them whatever they hold.
+    void forget_change_records_of(QStringList const& paths) const;
+
+    // Revision: on the calling thread, printing progress and report, returning 0, 1 when the run
+    // cannot start, or 128 + the number of the SIGINT or SIGTERM that interrupted it; or on a
+    // detached worker thread that reports through the four callbacks and reads `stop` before
+    // every file.
     int start_revise(revision_task const& task) const;
     int start_revise(revision_task const& task, std::function<void(int)> maximum,
                      std::function<void(int)> value, std::function<void(std::string)> status,

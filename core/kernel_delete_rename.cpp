@@ -42,26 +42,8 @@ bool kernel::delete_language_by(std::string const& language) const {
 }
 
 bool kernel::delete_style_by(std::string const& style, std::string const& language) const {
-    // Reads the header values itself, so that a file that is no addon is passed over here.
-    for (auto const& file_name : list_of_names_of_addons()) {
-        auto const text = addon_text_of(file_name);
-        if (!text)
-            return false;
-        auto const name = extract_value_of().from_ini_like("NAME", *text, "=");
-        auto const language_name = extract_value_of().from_ini_like("LANGUAGE", *text, "=");
-        if (name && language_name && *name == style && *language_name == language)
-            return detail::remove::from<addons_directory>(file_name);
-    }
-    return true;
-}
-
-bool kernel::rename_style(std::string const& style, std::string const& language,
-                          std::string const& new_name) const {
-    // A new file name that would leave the addons directory changes nothing at all.
-    if (!is_plain_file_name(addon_file_name_for(new_name, language)))
-        return false;
     std::string file_name;
-    switch (addon_of(style, language, file_name)) {
+    switch (addon_of(style, language, file_name, stray_files::are_passed_over_if_readable)) {
     case addons_pass::broken:
         return false;
     case addons_pass::exhausted:
@@ -69,7 +51,17 @@ bool kernel::rename_style(std::string const& style, std::string const& language,
     case addons_pass::found:
         break;
     }
-    bool const renamed_inside = rename_this_style(file_name, style).to(new_name);
-    bool const file_renamed = rename_this_addon_file(file_name).based_on(new_name, language);
-    return renamed_inside && file_renamed;
+    return detail::remove::from<addons_directory>(file_name);
+}
+
+bool kernel::rename_style(std::string const& style, std::string const& language,
+                          std::string const& new_name) const {
+    // A new file name that would leave the addons directory changes nothing at all.
+    if (!is_plain_file_name(addon_file_name_for(new_name, language)))
+        return false;
+    return with_addon_of(style, language, [&](std::string const& file_name) {
+        bool const renamed_inside = rename_this_style(file_name, style).to(new_name);
+        bool const file_renamed = rename_this_addon_file(file_name).based_on(new_name, language);
+        return renamed_inside && file_renamed;
+    });
 }

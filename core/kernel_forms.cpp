@@ -17,15 +17,7 @@ std::string kernel::language_structure_form_based_on(std::string const& language
 bool kernel::update_language_structure_form(std::string const& language, std::string const& style,
                                             std::string const& structure,
                                             std::string const& form) const {
-    std::string file_name;
-    switch (addon_of(style, language, file_name)) {
-    case addons_pass::found:
+    return with_addon_of(style, language, [&](std::string const& file_name) {
         return update_this(structure, file_name).by(form);
-    case addons_pass::broken:
-        return false;
-    case addons_pass::exhausted:
-        break;
-    }
-    // A style that is not installed: nothing to write.
-    return true;
+    });
 }

@@ -33,7 +33,7 @@ std::string kernel::import_language_from(std::string const& path) const {
     // of the same file name.
     bool const stored = store::in<plugins_directory>(from_utf8(path), [&](QString const& copy) {
         QPluginLoader loader;
-        interface_to_language_plugin* plugin = plugin_obtainer(loader)(copy);
+        interface_to_language_plugin* plugin = plugin_obtainer(loader)(path_of_plugin(copy.toStdString()));
         try {
             if (plugin != nullptr)
                 language = plugin->language_name();
@@ -73,33 +73,25 @@ bool kernel::export_style(std::string const& style, std::string const& language,
         return false;
     if (!is_plain_file_name(QFileInfo(from_utf8(destination)).fileName().toStdString()))
         return false;
-    std::string file_name;
-    switch (addon_of(style, language, file_name)) {
-    case addons_pass::broken:
-        return false;
-    case addons_pass::exhausted:
-        return true;  // Only installed styles are offered for export.
-    case addons_pass::found:
-        break;
-    }
-    std::string bytes;
-    if (!read_from(path_of_addon(file_name)).to(bytes))
-        return false;
-    // A link standing at the destination is replaced by the copy, not written through: its target
-    // may lie outside the directory chosen.
-    QString const target = from_utf8(destination);
-    if (QFileInfo(target).isSymLink() && !QFile::remove(target))
-        return false;
-    return write_to(target).from(bytes);
+    // Only installed styles are offered for export: one that is not needs nothing done.
+    return with_addon_of(style, language, [&](std::string const& file_name) {
+        std::string bytes;
+        if (!read_from(path_of_addon(file_name)).to(bytes))
+            return false;
+        // A link standing at the destination is replaced by the copy, not written through: its
+        // target may lie outside the directory chosen.
+        QString const target = from_utf8(destination);
+        if (QFileInfo(target).isSymLink() && !QFile::remove(target))
+            return false;
+        return write_to(target).from(bytes);
+    });
 }
 
 std::string kernel::full_path_to_style_addon_by(std::string const& style,
                                                 std::string const& language) const {
     // Unlike the lists, a stray file does not hide the addon wanted here.
-    for (auto const& file_name : list_of_names_of_addons()) {
-        style_description const d = obtain_style_description().from(file_name);
-        if (!d.is_empty() && d.style == style && d.language == language)
-            return path_of_addon(file_name).toStdString();
-    }
-    return std::string();
+    std::string file_name;
+    if (addon_of(style, language, file_name, stray_files::are_passed_over) != addons_pass::found)
+        return std::string();
+    return path_of_addon(file_name).toStdString();
 }

@@ -1,16 +1,25 @@
-// kernel: starting a revision run, once the task's language and style are found in the bundle.
+// kernel: starting a revision run, once the task's language and style are found in the bundle,
+// and forgetting change records.
 #include "core/kernel.h"
 
-#include "core/directory_listing.h"
 #include "core/installed_files.h"
+#include "core/path_to.h"
+#include "core/product.h"
+#include "core/settings_keys.h"
 #include "core/style_addon.h"
+#include "engine/change_record_store.h"
+#include "engine/change_records.h"
 #include "engine/tarnel.h"
 
 namespace {
 
+records_location where_change_records_live() {
+    return {product::organisation_name, settings_key::change_records_store};
+}
+
 // The first plugin file in the listing whose plugin names the task's language. None found: the
 // language's own name, which no plugin file has, so the run says which plugin it missed.
-QString plugin_file_for(std::string const& language) {
+std::string plugin_file_for(std::string const& language) {
     std::string found = language;
     first_plugin_where([&](std::string const& file_name, interface_to_language_plugin& plugin) {
         if (plugin.language_name() != language)
@@ -18,30 +27,47 @@ QString plugin_file_for(std::string const& language) {
         found = file_name;
         return true;
     });
-    return QString::fromStdString(found);
+    return found;
 }
 
 // The addon file whose inside names the task's style and language. None found: the name such an
 // addon would have, so the run says which addon it missed.
-QString addon_file_for(std::string const& style, std::string const& language) {
-    style_description const wanted{style, language};
-    for (auto const& file_name : list_of_names_of_addons())
-        if (obtain_style_description().from(file_name) == wanted)
-            return QString::fromStdString(file_name);
-    return QString::fromStdString(addon_file_name_for(style, language));
+std::string addon_file_for(std::string const& style, std::string const& language) {
+    std::string file_name;
+    if (addon_of(style, language, file_name, stray_files::are_passed_over) == addons_pass::found)
+        return file_name;
+    return addon_file_name_for(style, language);
+}
+
+revision_request request_for(revision_task const& task) {
+    revision_request request;
+    request.language = QString::fromStdString(task.language);
+    request.style = QString::fromStdString(task.style);
+    request.plugins_directory = path_to().plugins_directory();
+    request.plugin_file = plugin_file_for(task.language);
+    request.addons_directory = path_to().addons_directory();
+    request.addon_file = addon_file_for(task.style, task.language);
+    request.extensions = task.extensions;
+    request.paths = task.paths;
+    request.records = where_change_records_live();
+    request.addon_manual = std::string(product::web_site) + "/user-guide/style-addon-by-hand";
+    return request;
 }
 
 }  // namespace
 
-int kernel::start_revise(revision_task const& task) const {
-    return tarnel()(plugin_file_for(task.language), addon_file_for(task.style, task.language), task);
+void kernel::forget_change_records_of(QStringList const& paths) const {
+    change_record_store const records(where_change_records_live());
+    for (auto const& path : paths)
+        remove_info_about_changes_of(records.settings()).this_path(path);
 }
+
+int kernel::start_revise(revision_task const& task) const { return tarnel()(request_for(task)); }
 
 int kernel::start_revise(revision_task const& task, std::function<void(int)> maximum,
                          std::function<void(int)> value, std::function<void(std::string)> status,
                          std::function<void(std::string)> finished,
                          std::atomic<bool> const& stop) const {
-    return tarnel()(plugin_file_for(task.language), addon_file_for(task.style, task.language), task,
-                    std::move(maximum), std::move(value), std::move(status), std::move(finished),
-                    stop);
+    return tarnel()(request_for(task), std::move(maximum), std::move(value), std::move(status),
+                    std::move(finished), stop);
 }

@@ -3,7 +3,6 @@
 #include "core/kernel.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -25,8 +24,9 @@ bool kernel::apply(std::string const& path_to_new_executable) const {
 }
 
 void kernel::remove_old_executable_if_required() const {
-    QDir const directory = QFileInfo(QCoreApplication::applicationFilePath()).absoluteDir();
-    for (auto const& name : directory.entryList(QDir::Files | QDir::Hidden))
-        if (name.endsWith('~'))
-            QFile::remove(directory.absoluteFilePath(name));
+    // Only the backup that `apply` made: other files ending in "~" beside the executable are
+    // somebody else's.
+    QString const backup = QCoreApplication::applicationFilePath() + "~";
+    if (QFileInfo(backup).isFile())
+        QFile::remove(backup);
 }

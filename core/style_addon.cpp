@@ -2,19 +2,17 @@
 
 #include "core/path_to.h"
 #include "engine/read_from.h"
-#include "engine/traits_of.h"
+#include "match_in_full.h"
+#include "style_addon_forms.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <boost/algorithm/string/erase.hpp>
+
+#include <algorithm>
+
+using style_tarnel::without_NUL_bytes;
 
 namespace {
-
-// Addons saved in a 16-bit encoding whose characters are all ASCII read as their ASCII text.
-std::string without_NUL_bytes(std::string text) {
-    boost::algorithm::erase_all(text, std::string(1, '\0'));
-    return text;
-}
 
 std::string addon_text_at(QString const& path) {
     std::string text;
@@ -84,18 +82,19 @@ std::string obtain_structure_form::from(std::string const& file_name) const {
 }
 
 std::string obtain_structure_form::from_already_reading(std::string const& raw_text) const {
-    std::string const text = without_NUL_bytes(raw_text);
-    std::string const EOL = detail::traits_of()(text).EOL;
-    std::size_t const name = text.find("S_NAME=" + structure);
-    if (name == std::string::npos)
-        return std::string();
-    std::string const begin_marker = "S_BEG" + EOL;
-    std::size_t const begin = text.find(begin_marker, name + 7 + structure.size());
-    if (begin == std::string::npos)
-        return std::string();
-    std::size_t const form = begin + begin_marker.size();
-    std::size_t const end = text.find(EOL + "S_END", form);
-    return text.substr(form, end == std::string::npos ? std::string::npos : end - form);
+    return style_tarnel::form_of_structure(structure, raw_text);
 }
 
 std::string style_name_validator() { return "[a-zA-Z\\d\\s-_\\&]{0,}"; }
+
+bool this_is_a_style_name(std::string const& name) {
+    // The expression's white space admits line breaks and tabs, which would end the name's line
+    // in the addon and split its settings key: only the blank is a name's white space.
+    bool const control = std::any_of(name.begin(), name.end(),
+                                     [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7f; });
+    return !control && style_tarnel::match_in_full(style_name_validator()).of(name);
+}
+
+bool these_are_filename_extensions(std::string const& extensions) {
+    return style_tarnel::match_in_full("[a-zA-Z\\d\\s]{1,}").of(extensions);
+}

@@ -64,5 +64,11 @@ QString path_of_addon(std::string const& file_name);
 
 // The pattern that style names (and task tab names) must match in full.
 std::string style_name_validator();
+// Whether a name a user gives a style matches that pattern in full and holds no control
+// character (line feed, tab, ...).
+bool this_is_a_style_name(std::string const& name);
+// Whether a list of filename extensions, commas already replaced by blanks, holds only English
+// letters, digits and white space, and at least one character.
+bool these_are_filename_extensions(std::string const& extensions);
 
 #endif

@@ -2,8 +2,8 @@
 
 #include "core/store_files.h"
 #include "core/style_addon.h"
-#include "engine/traits_of.h"
 #include "engine/write_to.h"
+#include "style_addon_forms.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -12,7 +12,7 @@ bool update_this::by(std::string const& form) const {
     auto text = addon_text_of(file_name);
     if (!text)
         return false;
-    std::string const EOL = detail::traits_of()(*text).EOL;
+    std::string const EOL = style_tarnel::line_ending_of(*text);
     // Stricter than reading a form: the name must be followed by the line ending at once.
     std::string const section = "S_NAME=" + structure + EOL + "S_BEG" + EOL;
     std::size_t const at = text->find(section);

@@ -1,33 +1,25 @@
 #include "engine/GUI_formatter.h"
 
 #include "engine/revision_run.h"
-#include "engine/write_in.h"
 
-void GUI_formatter::operator()(std::string plugin_file, std::string addon_file,
-                               std::string extensions, QStringList paths,
-                               std::function<void(int)> maximum, std::function<void(int)> value,
+void GUI_formatter::operator()(revision_request const& request, std::function<void(int)> maximum,
+                               std::function<void(int)> value,
                                std::function<void(std::string)> status,
                                std::function<void(std::string)> finished,
                                std::atomic<bool> const& stop) {
     status("Preparing, please wait...");
     std::string report;
     {
-        revision_run run(report);
-        if (!run.prepare(plugin_file, addon_file, extensions, paths)) {
+        revision_run run(report, request);
+        if (!run.prepare()) {
             finished(report);
             return;
         }
-        int const found = run.found();
-        maximum(found);
-        for (auto const& path : run.files()) {
-            if (!run.revise(path))
-                continue;
-            show_this_file_was_revised(run.revised(), found, value, status);
-            if (stop.load()) {
-                write_in(report).about_interruption();
-                break;
-            }
-        }
+        maximum(run.found());
+        run.revise_all([&] { return stop.load(); },
+                       [&](unsigned long revised, int found) {
+                           show_this_file_was_revised(revised, found, value, status);
+                       });
         run.finish();
     }
     // The run, its plugin and its records are gone before the interface hears of the end.

@@ -1,10 +1,10 @@
 // The windowed revision run, on a worker thread of its own: it reports through four callbacks
 // (maximum, value, status text, finished with the report), which it calls from that thread, and
-// reads `stop` after every file that reached the progress step.
+// reads `stop` before every file.
 #ifndef STYLE_TARNEL_ENGINE_GUI_FORMATTER_H
 #define STYLE_TARNEL_ENGINE_GUI_FORMATTER_H
 
-#include <QStringList>
+#include "engine/revision_request.h"
 
 #include <atomic>
 #include <functional>
@@ -13,8 +13,7 @@
 class GUI_formatter {
 public:
     // `stop` must stay alive until `finished` has been called.
-    void operator()(std::string plugin_file, std::string addon_file, std::string extensions,
-                    QStringList paths, std::function<void(int)> maximum,
+    void operator()(revision_request const& request, std::function<void(int)> maximum,
                     std::function<void(int)> value, std::function<void(std::string)> status,
                     std::function<void(std::string)> finished, std::atomic<bool> const& stop);
     void show_this_file_was_revised(unsigned long revised, int found,

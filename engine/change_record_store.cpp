@@ -1,8 +1,5 @@
 #include "engine/change_record_store.h"
 
-#include "core/product.h"
-#include "core/settings_keys.h"
-
 #include <QSettings>
 
 namespace {
@@ -11,9 +8,8 @@ constexpr qint64 sync_interval_ms = 3000;
 
 }  // namespace
 
-change_record_store::change_record_store()
-    : store(std::make_unique<QSettings>(product::organisation_name,
-                                        settings_key::change_records_store)) {
+change_record_store::change_record_store(records_location const& location)
+    : store(std::make_unique<QSettings>(location.organisation, location.name)) {
     since_sync.start();
 }
 

@@ -1,31 +1,26 @@
 #include "engine/change_records.h"
 
-#include "engine/change_record_store.h"
 #include "engine/file_status.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFileInfo>
 #include <QSettings>
 #include <QVariantList>
 
 namespace {
 
-QString key_of(QString const& path) { return path.mid(1); }
+// Settings keys hold no leading "/"; "a/../b", "./b" and "b" seen from another directory are one
+// file and must be one key.
+QString key_of(QString const& path) {
+    return QDir::cleanPath(QFileInfo(path).absoluteFilePath()).mid(1);
+}
 
 // Last modification in seconds since the epoch (UTC), straight from the file system: converting
 // through a local date and time would cost more than the rest of the test.
 quint32 modification_time_of(QString const& path) { return file_status(path).modification_time(); }
 
 quint32 now() { return static_cast<quint32>(QDateTime::currentSecsSinceEpoch()); }
-
-// Runs `use` with the given store, or with the records' own store opened (and synced) for it.
-template <typename Use>
-auto with_store(QSettings* store, Use use) {
-    if (store != nullptr)
-        return use(*store);
-    change_record_store own;
-    return use(*own.settings());
-}
 
 }  // namespace
 
@@ -39,7 +34,7 @@ void save_info_about_changes_of::this_source_file(QString const& path, QString c
                                                   QString const& style,
                                                   quint32 addon_modified) const {
     QVariantList const value{now(), language, style, addon_modified};
-    with_store(store, [&](QSettings& settings) { settings.setValue(key_of(path), value); });
+    store.setValue(key_of(path), value);
 }
 
 bool this_source_file::was_not_changed(QString const& path, QString const& language,
@@ -51,25 +46,23 @@ bool this_source_file::was_not_changed(QString const& path, QString const& langu
 bool this_source_file::was_not_changed(QString const& path, quint32 file_modified,
                                        QString const& language, QString const& style,
                                        quint32 addon_modified) const {
-    return with_store(store, [&](QSettings& settings) {
-        QVariant const stored = settings.value(key_of(path));
-        if (!stored.isValid())
+    QVariant const stored = store.value(key_of(path));
+    if (!stored.isValid())
+        return false;
+    QVariantList const record = stored.toList();
+    if (record.size() < 4)
+        return false;
+    for (int i = 0; i < 4; ++i)
+        if (!record[i].isValid())
             return false;
-        QVariantList const record = stored.toList();
-        if (record.size() < 4)
-            return false;
-        for (int i = 0; i < 4; ++i)
-            if (!record[i].isValid())
-                return false;
-        if (record[1].toString() != language || record[2].toString() != style)
-            return false;
-        bool revision_ok = false, addon_ok = false;
-        quint32 const revision_time = record[0].toUInt(&revision_ok);
-        quint32 const addon_time = record[3].toUInt(&addon_ok);
-        if (!revision_ok || !addon_ok)
-            return false;
-        return file_modified <= revision_time && addon_modified <= addon_time;
-    });
+    if (record[1].toString() != language || record[2].toString() != style)
+        return false;
+    bool revision_ok = false, addon_ok = false;
+    quint32 const revision_time = record[0].toUInt(&revision_ok);
+    quint32 const addon_time = record[3].toUInt(&addon_ok);
+    if (!revision_ok || !addon_ok)
+        return false;
+    return file_modified <= revision_time && addon_modified <= addon_time;
 }
 
 void remove_info_about_changes_of::this_path(QString const& path) const {
@@ -77,25 +70,23 @@ void remove_info_about_changes_of::this_path(QString const& path) const {
     if (!info.exists())
         return;
     QString const key = key_of(path);
-    with_store(store, [&](QSettings& settings) {
-        if (info.isFile()) {
-            settings.remove(key);
-            return;
+    if (info.isFile()) {
+        store.remove(key);
+        return;
+    }
+    if (!info.isDir())
+        return;
+    // Removing a key removes the keys below it too, so one removal per name that continues the
+    // prefix (the directory itself, or a sibling such as "lib2") clears them all; one removal per
+    // record would cost the square of their number.
+    QStringList removed;
+    for (auto const& stored : store.allKeys()) {
+        if (!stored.startsWith(key))
+            continue;
+        QString const group = key + stored.mid(key.size()).section('/', 0, 0);
+        if (removed.isEmpty() || removed.last() != group) {
+            store.remove(group);
+            removed << group;
         }
-        if (!info.isDir())
-            return;
-        // Removing a key removes the keys below it too, so one removal per name that continues
-        // the prefix (the directory itself, or a sibling such as "lib2") clears them all; one
-        // removal per record would cost the square of their number.
-        QStringList removed;
-        for (auto const& stored : settings.allKeys()) {
-            if (!stored.startsWith(key))
-                continue;
-            QString const group = key + stored.mid(key.size()).section('/', 0, 0);
-            if (removed.isEmpty() || removed.last() != group) {
-                settings.remove(group);
-                removed << group;
-            }
-        }
-    });
+    }
 }

@@ -1,8 +1,9 @@
 // Change records: one per revised source file, so that a run skips every file that has not
 // changed since it was last revised with the same language, style and unchanged addon.
-// Key: the file's absolute path without its leading "/"; value: [revision time (UTC seconds),
-// language, style, addon modification time (UTC seconds)]. Each operation uses the store it is
-// given (a run keeps one for all its files) or else opens the records' store for itself.
+// Key: the file's absolute, clean path without its leading "/" (a relative path is taken against
+// the current directory first); value: [revision time (UTC seconds), language, style, addon
+// modification time (UTC seconds)]. Each operation works in the store it is given: a run keeps one
+// open for all its files.
 #ifndef STYLE_TARNEL_ENGINE_CHANGE_RECORDS_H
 #define STYLE_TARNEL_ENGINE_CHANGE_RECORDS_H
 
@@ -12,7 +13,7 @@ class QSettings;
 
 class save_info_about_changes_of {
 public:
-    explicit save_info_about_changes_of(QSettings* store = nullptr) : store(store) {}
+    explicit save_info_about_changes_of(QSettings& store) : store(store) {}
     void this_source_file(QString const& path, QString const& language, QString const& style,
                           QString const& addon_path) const;
     // The same with the addon's modification time (UTC seconds) read by the caller: a run reads
@@ -21,12 +22,12 @@ public:
                           quint32 addon_modified) const;
 
 private:
-    QSettings* store;
+    QSettings& store;
 };
 
 class this_source_file {
 public:
-    explicit this_source_file(QSettings* store = nullptr) : store(store) {}
+    explicit this_source_file(QSettings& store) : store(store) {}
     // True only when the record exists, holds four valid values, names this language and style,
     // and neither the file nor the addon was modified after the times it holds (a file touched
     // in the second of its revision still counts as unchanged).
@@ -38,18 +39,18 @@ public:
                          QString const& style, quint32 addon_modified) const;
 
 private:
-    QSettings* store;
+    QSettings& store;
 };
 
 class remove_info_about_changes_of {
 public:
-    explicit remove_info_about_changes_of(QSettings* store = nullptr) : store(store) {}
+    explicit remove_info_about_changes_of(QSettings& store) : store(store) {}
     // A file: its record. A directory: every record whose key begins with the directory's key
     // (so /a/lib also clears /a/lib2/x). A missing path: nothing.
     void this_path(QString const& path) const;
 
 private:
-    QSettings* store;
+    QSettings& store;
 };
 
 #endif

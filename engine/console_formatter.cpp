@@ -2,36 +2,25 @@
 
 #include "engine/interruption_by_signal.h"
 #include "engine/revision_run.h"
-#include "engine/write_in.h"
 
 #include <iostream>
 
 console_formatter::console_formatter() : console_formatter(std::cout, std::cerr) {}
 
-int console_formatter::operator()(std::string plugin_file, std::string addon_file,
-                                  std::string extensions, QStringList paths) {
+int console_formatter::operator()(revision_request const& request) {
     interruption_by_signal const interruption;
     err << "Preparing, please wait..." << std::flush;
     std::string report;
-    revision_run run(report);
-    if (!run.prepare(plugin_file, addon_file, extensions, paths)) {
+    revision_run run(report, request);
+    if (!run.prepare()) {
         err << '\r' << std::flush;
         out << report << '\n' << std::flush;
-        return 0;
+        return interruption.was_requested() ? interruption.exit_status() : 1;
     }
-    int const found = run.found();
-    bool interrupted = false;
-    for (auto const& path : run.files()) {
-        // Read before every file, so that a signal during the collection of a large tree or
-        // among skipped files stops the run as soon as one during a revision.
-        if (interruption.was_requested()) {
-            write_in(report).about_interruption();
-            interrupted = true;
-            break;
-        }
-        if (run.revise(path))
-            show_this_file_was_revised(run.revised(), found);
-    }
+    bool const interrupted = run.revise_all([&] { return interruption.was_requested(); },
+                                            [&](unsigned long revised, int found) {
+                                                show_this_file_was_revised(revised, found);
+                                            });
     run.finish();
     err << '\r' << std::flush;
     out << "It's done." << std::string(25, ' ') << '\n' << report << '\n' << std::flush;

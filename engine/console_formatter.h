@@ -1,13 +1,12 @@
 // The command-line revision run: on the calling thread, "Preparing, please wait..." and a
 // self-overwriting progress line on standard error, "It's done." and the report on standard
-// output. SIGINT or SIGTERM stops it after the current file, as the window's Stop does.
+// output. SIGINT or SIGTERM stops it before the next file, as the window's Stop does.
 #ifndef STYLE_TARNEL_ENGINE_CONSOLE_FORMATTER_H
 #define STYLE_TARNEL_ENGINE_CONSOLE_FORMATTER_H
 
-#include <QStringList>
+#include "engine/revision_request.h"
 
 #include <iosfwd>
-#include <string>
 
 class console_formatter {
 public:
@@ -15,9 +14,9 @@ public:
     // The streams that stand for standard output and standard error.
     console_formatter(std::ostream& out, std::ostream& err) : out(out), err(err) {}
 
-    // 0, or 128 + the number of the signal that interrupted the run before its last file.
-    int operator()(std::string plugin_file, std::string addon_file, std::string extensions,
-                   QStringList paths);
+    // 0 when the run went through; 1 when it could not start; 128 + the number of the signal
+    // that came before the run's last file (also during its preparation).
+    int operator()(revision_request const& request);
     void show_this_file_was_revised(unsigned long revised, int found);
 
 private:

@@ -1,25 +1,22 @@
 #include "engine/plugin_obtainer.h"
 
-#include "core/path_to.h"
-
-#include <QDir>
 #include <QFileInfo>
+#include <QJsonObject>
 #include <QLibrary>
 #include <QPluginLoader>
 
-interface_to_language_plugin* plugin_obtainer::operator()(QString const& file_name) const {
-    // Checking the name first keeps stray files (notes, backups) from ever being opened.
-    if (!QLibrary::isLibrary(file_name))
+interface_to_language_plugin* plugin_obtainer::operator()(QString const& path) const {
+    // Checking the name first keeps stray files (notes, backups) from ever being opened; checking
+    // the version before loading keeps code built for another layout from ever running.
+    if (!QLibrary::isLibrary(QFileInfo(path).fileName()))
         return nullptr;
-    loader.setFileName(QDir(path_to().plugins_directory()).absoluteFilePath(file_name));
+    if (plugin_interface_version_of(path) != STYLE_TARNEL_INTERFACE_VERSION)
+        return nullptr;
+    loader.setFileName(path);
     QObject* root = loader.instance();
     if (root == nullptr)
         return nullptr;
     return qobject_cast<interface_to_language_plugin*>(root);
-}
-
-interface_to_language_plugin* plugin_obtainer::operator()(std::string const& file_name) const {
-    return (*this)(QString::fromStdString(file_name));
 }
 
 bool plugin_obtainer::this_is_a_plugin(std::string const& path) const {
@@ -27,6 +24,12 @@ bool plugin_obtainer::this_is_a_plugin(std::string const& path) const {
     return loader.instance() != nullptr;
 }
 
-bool language_plugin::operator()(std::string const& path) const {
-    return QLibrary::isLibrary(QFileInfo(QString::fromStdString(path)).fileName());
+std::string plugin_interface_version_of(QString const& path) {
+    QString const identifier = QPluginLoader(path).metaData().value("IID").toString();
+    QString const name = STYLE_TARNEL_INTERFACE_NAME;
+    if (identifier == name)
+        return "none";
+    if (!identifier.startsWith(name + "/"))
+        return std::string();
+    return identifier.mid(name.size() + 1).toStdString();
 }

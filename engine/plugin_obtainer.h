@@ -1,5 +1,5 @@
-// Loads a language plugin from the plugins directory through a loader that the caller owns: the
-// plugin pointer is valid only while that loader lives.
+// Loads a language plugin through a loader that the caller owns: the plugin pointer is valid only
+// while that loader lives.
 #ifndef STYLE_TARNEL_ENGINE_PLUGIN_OBTAINER_H
 #define STYLE_TARNEL_ENGINE_PLUGIN_OBTAINER_H
 
@@ -14,22 +14,21 @@ class plugin_obtainer {
 public:
     explicit plugin_obtainer(QPluginLoader& loader) : loader(loader) {}
 
-    // `file_name` is a bare file name in the plugins directory. Null when the name is no library
-    // name, the file does not load as a Qt plugin, or its root object is no language plugin.
-    interface_to_language_plugin* operator()(QString const& file_name) const;
-    interface_to_language_plugin* operator()(std::string const& file_name) const;
+    // Null when the file name is no library name, the file is no Qt plugin built for this
+    // version of the plugin interface, or its root object is no language plugin.
+    interface_to_language_plugin* operator()(QString const& path) const;
 
-    // Whether the file at `path` (as given) loads as any Qt plugin; the interface is not checked.
+    // Whether the file at `path` loads as any Qt plugin; the interface is not checked.
     bool this_is_a_plugin(std::string const& path) const;
 
 private:
     QPluginLoader& loader;
 };
 
-// Whether the file name part of `path` has the form of a dynamic library.
-class language_plugin {
-public:
-    bool operator()(std::string const& path) const;
-};
+// The version of the plugin interface named in the metadata of the Qt plugin at `path`, read
+// without loading it: "none" for our interface's identifier without a version (plugins older
+// than the versioned interface), empty for a file that is no Qt plugin or names another
+// interface.
+std::string plugin_interface_version_of(QString const& path);
 
 #endif

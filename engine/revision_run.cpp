@@ -1,11 +1,9 @@
 #include "engine/revision_run.h"
 
-#include "core/format_of_this.h"
-#include "core/path_to.h"
-#include "core/style_addon.h"
 #include "engine/change_records.h"
 #include "engine/file_collection.h"
 #include "engine/file_status.h"
+#include "engine/format_of_this.h"
 #include "engine/plugin_obtainer.h"
 #include "engine/read_from.h"
 #include "engine/traits_of.h"
@@ -45,37 +43,64 @@ plugin_answer ask(interface_to_language_plugin* plugin, std::string const& text,
 
 }  // namespace
 
-bool revision_run::prepare(std::string const& plugin_file, std::string const& addon_file,
-                           std::string const& extensions, QStringList const& paths) {
+revision_run::revision_run(std::string& report, revision_request request)
+    : report(report), request(std::move(request)), records(this->request.records) {}
+
+bool revision_run::prepare() {
     write_in const write(report);
-    if (there_are_some(paths).with_extensions_that_not_corresponds_to(extensions)) {
-        write.about_paths_with_unallowed(extensions);
+    if (there_are_some(request.paths).with_extensions_that_not_corresponds_to(request.extensions)) {
+        write.about_paths_with_unallowed(request.extensions);
         return false;
     }
-    plugin = plugin_obtainer(loader)(plugin_file);
+    QString const plugin_path =
+        request.plugins_directory + QDir::separator() + QString::fromStdString(request.plugin_file);
+    plugin = plugin_obtainer(loader)(plugin_path);
     if (plugin == nullptr) {
-        write.about_problem_with_plugin(plugin_file);
+        std::string const version = plugin_interface_version_of(plugin_path);
+        if (!version.empty() && version != STYLE_TARNEL_INTERFACE_VERSION)
+            write.about_plugin_interface_version(request.plugin_file, version);
+        else
+            write.about_problem_with_plugin(request.plugin_file);
         return false;
     }
-    addon_path = path_to().addons_directory() + QDir::separator() + QString::fromStdString(addon_file);
+    QString const addon_path =
+        request.addons_directory + QDir::separator() + QString::fromStdString(request.addon_file);
     // Read before the text, so that the records never hold the time of a newer addon than the
     // one the run uses: an addon saved in between only makes the next run revise again.
     addon_modified = file_status(addon_path).modification_time();
     if (!read_from(addon_path).to(addon_text)) {
-        write.about_problem_with_addon(addon_file);
+        write.about_problem_with_addon(request.addon_file);
         return false;
     }
     std::string bad_structure;
-    if (format_of_this(addon_text).is_invalid_based_on(plugin, bad_structure)) {
-        write.about_invalid_format_of_addon(bad_structure, addon_file);
+    switch (format_of_this(addon_text).based_on(plugin, bad_structure)) {
+    case format_check::plugin_failed:
+        write.about_plugin_without_forms(request.plugin_file);
         return false;
+    case format_check::invalid_form:
+        write.about_invalid_format_of_addon(bad_structure, request.addon_file, request.addon_manual);
+        return false;
+    case format_check::valid:
+        break;
     }
-    // As the catalogue reads an addon, so that one saved in UTF-16 names its style.
-    style_description const description = obtain_style_description().from_bytes(addon_text);
-    language = QString::fromStdString(description.language);
-    style = QString::fromStdString(description.style);
-    collected = obtain_full_file_paths_from(paths).with(QString::fromStdString(extensions));
+    collected = obtain_full_file_paths_from(request.paths).with(QString::fromStdString(request.extensions));
     return true;
+}
+
+bool revision_run::revise_all(std::function<bool()> const& stop_requested,
+                              std::function<void(unsigned long, int)> const& reached) {
+    // Read before every file, so that a stop during the collection of a large tree or among
+    // skipped files ends the run as soon as one during a revision.
+    bool stopped = collected.isEmpty() && stop_requested();
+    for (auto const& path : collected) {
+        if ((stopped = stop_requested()))
+            break;
+        if (revise(path))
+            reached(revised_count, found());
+    }
+    if (stopped)
+        write_in(report).about_interruption();
+    return stopped;
 }
 
 bool revision_run::revise(QString const& path) {
@@ -87,7 +112,8 @@ bool revision_run::revise(QString const& path) {
         return false;
     }
     if (this_source_file(records.settings())
-            .was_not_changed(path, before.modification_time(), language, style, addon_modified))
+            .was_not_changed(path, before.modification_time(), request.language, request.style,
+                             addon_modified))
         return false;
     std::string text;
     if (!read_from(path).to(text)) {
@@ -118,7 +144,7 @@ bool revision_run::revise(QString const& path) {
     // Also after a refusal or a failed write: such a file waits until it, the style or the
     // addon changes.
     save_info_about_changes_of(records.settings())
-        .this_source_file(path, language, style, addon_modified);
+        .this_source_file(path, request.language, request.style, addon_modified);
     records.sync_if_due();
     return true;
 }

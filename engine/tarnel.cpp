@@ -5,19 +5,13 @@
 
 #include <thread>
 
-int tarnel::operator()(QString const& plugin_file, QString const& addon_file,
-                       revision_task const& task) const {
-    return console_formatter()(plugin_file.toStdString(), addon_file.toStdString(),
-                               task.extensions, task.paths);
-}
+int tarnel::operator()(revision_request const& request) const { return console_formatter()(request); }
 
-int tarnel::operator()(QString const& plugin_file, QString const& addon_file,
-                       revision_task const& task, std::function<void(int)> maximum,
+int tarnel::operator()(revision_request const& request, std::function<void(int)> maximum,
                        std::function<void(int)> value, std::function<void(std::string)> status,
                        std::function<void(std::string)> finished,
                        std::atomic<bool> const& stop) const {
-    std::thread worker(GUI_formatter(), plugin_file.toStdString(), addon_file.toStdString(),
-                       task.extensions, task.paths, std::move(maximum), std::move(value),
+    std::thread worker(GUI_formatter(), request, std::move(maximum), std::move(value),
                        std::move(status), std::move(finished), std::cref(stop));
     worker.detach();
     return 0;

@@ -1,6 +1,6 @@
 #include "engine/write_in.h"
 
-#include "core/product.h"
+#include "interface_to_language_plugin.h"
 
 #include <algorithm>
 
@@ -8,15 +8,28 @@ void write_in::about_problem_with_plugin(std::string const& plugin_file) const {
     report += "Sorry, I can't revise, something wrong with plugin '" + plugin_file + "'.\n\n";
 }
 
+void write_in::about_plugin_interface_version(std::string const& plugin_file,
+                                              std::string const& version) const {
+    report += "Sorry, I can't revise, plugin '" + plugin_file + "' was built for version '" + version +
+              "' of the plugin interface, but this program needs version '" +
+              STYLE_TARNEL_INTERFACE_VERSION + "'.\n\n";
+}
+
+void write_in::about_plugin_without_forms(std::string const& plugin_file) const {
+    report += "Sorry, I can't revise, plugin '" + plugin_file +
+              "' failed to give the forms of its structures.\n\n";
+}
+
 void write_in::about_problem_with_addon(std::string const& addon_file) const {
     report += "Sorry, I can't revise, something wrong with addon '" + addon_file + "'.\n\n";
 }
 
 void write_in::about_invalid_format_of_addon(std::string const& structure,
-                                             std::string const& addon_file) const {
+                                             std::string const& addon_file,
+                                             std::string const& manual) const {
     report += "Sorry, format of structure '" + structure + "' in the style addon '" + addon_file +
               "' is invalid. Please make sure this addon corresponds to requirements specified at " +
-              product::web_site + "/user-guide/style-addon-by-hand.\n\n";
+              manual + ".\n\n";
 }
 
 void write_in::about_invalid_file(QString const& path) const {

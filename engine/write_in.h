@@ -12,8 +12,13 @@ public:
     explicit write_in(std::string& report) : report(report) {}
 
     void about_problem_with_plugin(std::string const& plugin_file) const;
+    // A plugin built for another version of the plugin interface ("none": without a version).
+    void about_plugin_interface_version(std::string const& plugin_file, std::string const& version) const;
+    // A plugin that failed when asked for the expressions of its structures.
+    void about_plugin_without_forms(std::string const& plugin_file) const;
     void about_problem_with_addon(std::string const& addon_file) const;
-    void about_invalid_format_of_addon(std::string const& structure, std::string const& addon_file) const;
+    void about_invalid_format_of_addon(std::string const& structure, std::string const& addon_file,
+                                       std::string const& manual) const;
     void about_invalid_file(QString const& path) const;
     void about_syntax_error_in(QString const& path) const;
     // `extensions` joined by single spaces; the message lists them joined by commas.

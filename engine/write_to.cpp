@@ -44,6 +44,16 @@ bool write_all(int fd, std::string const& text) {
     return true;
 }
 
+// Makes the rename itself durable. A directory that cannot be opened or synced (some file systems
+// refuse) changes nothing for the file, which is complete either way.
+void synced_directory_of(std::string const& path) {
+    int const directory = ::open(directory_of(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (directory < 0)
+        return;
+    ::fsync(directory);
+    ::close(directory);
+}
+
 // Holds back the signals that end a process by default while it lives, so that no signal can
 // leave the temporary file behind between its creation and its rename; a pending one is
 // delivered as soon as the file is gone. SIGKILL cannot be held back.
@@ -91,10 +101,16 @@ bool write_to::from(std::string const& text) const {
         ::umask(mask);
         ok = ::fchmod(fd, 0666 & ~mask) == 0;
     }
+    // The bytes reach the disk before the name does: a rename that a power loss lets through
+    // ahead of the data would leave an empty file where the old one was.
+    ok = ok && ::fsync(fd) == 0;
     ok = (::close(fd) == 0) && ok;
     if (ok)
         ok = ::rename(temporary.c_str(), target.c_str()) == 0;
-    if (!ok)
+    if (!ok) {
         ::unlink(temporary.c_str());
-    return ok;
+        return false;
+    }
+    synced_directory_of(target);
+    return true;
 }

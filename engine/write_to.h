@@ -1,5 +1,6 @@
 // Replaces a file's content with new bytes, never leaving it half-written: the bytes go to a
-// temporary file beside it, which then takes its place in one rename.
+// temporary file beside it, flushed to the disk, which then takes its place in one rename; the
+// directory is flushed after the rename.
 #ifndef STYLE_TARNEL_ENGINE_WRITE_TO_H
 #define STYLE_TARNEL_ENGINE_WRITE_TO_H
 

@@ -3,7 +3,7 @@
 //
 // A plugin's root object derives from QObject and from interface_to_language_plugin, names the
 // interface with Q_INTERFACES(interface_to_language_plugin) and declares
-//     Q_PLUGIN_METADATA(IID "org.style-tarnel.interface_to_language_plugin")
+//     Q_PLUGIN_METADATA(IID STYLE_TARNEL_INTERFACE_ID)
 // The order of the virtual members below is the binary interface: never reorder them.
 #ifndef STYLE_TARNEL_INTERFACE_TO_LANGUAGE_PLUGIN_H
 #define STYLE_TARNEL_INTERFACE_TO_LANGUAGE_PLUGIN_H
@@ -53,7 +53,15 @@ public:
     virtual void end_of_revision() = 0;
 };
 
-#define STYLE_TARNEL_INTERFACE_ID "org.style-tarnel.interface_to_language_plugin"
-Q_DECLARE_INTERFACE(interface_to_language_plugin, "org.style-tarnel.interface_to_language_plugin")
+// The interface's identifier: its name, "/", and the version of its binary layout, which every
+// plugin carries in its metadata. The version goes up whenever this header changes in a way that
+// breaks plugins built against the one before (a member added, removed, reordered, or given
+// another signature; a type above changed): the host then refuses plugins of any other version,
+// naming the file and both versions, instead of loading code that would call the wrong member.
+// History: 1.0, the first versioned layout (plugins whose identifier has no version are older).
+#define STYLE_TARNEL_INTERFACE_NAME "org.style-tarnel.interface_to_language_plugin"
+#define STYLE_TARNEL_INTERFACE_VERSION "1.0"
+#define STYLE_TARNEL_INTERFACE_ID STYLE_TARNEL_INTERFACE_NAME "/" STYLE_TARNEL_INTERFACE_VERSION
+Q_DECLARE_INTERFACE(interface_to_language_plugin, STYLE_TARNEL_INTERFACE_ID)
 
 #endif

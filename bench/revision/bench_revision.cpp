@@ -9,7 +9,6 @@
 #include "core/kernel.h"
 #include "core/product.h"
 #include "core/settings_keys.h"
-#include "engine/change_records.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -166,7 +165,7 @@ int benchmark(QStringList const& sizes) {
             double const first = run(language, root);
             double const unchanged = run(language, root);
             double const forced = seconds_of([&] {
-                remove_info_about_changes_of().this_path(root);
+                kernel().forget_change_records_of({root});
             }) + run(language, root);
             std::printf("| %d | %.3f s | %.3f s | %.3f s | %s | %.3f s | %.3f s | %.3f s |\n", files, walk_time,
                         read_write_time, read_replace_time, language == "Same" ? "changes nothing" : "changes every file",

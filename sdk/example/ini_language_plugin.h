@@ -9,7 +9,7 @@
 
 class ini_language_plugin : public QObject, public interface_to_language_plugin {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.style-tarnel.interface_to_language_plugin")
+    Q_PLUGIN_METADATA(IID STYLE_TARNEL_INTERFACE_ID)
     Q_INTERFACES(interface_to_language_plugin)
 public:
     std::string language_name() override { return "INI"; }

@@ -112,7 +112,7 @@ void test_revising::refuses_a_named_file_of_another_extension() {
     tree_bundle bundle;
     COMPARE_RUN(bundle.run({"-l=Test", "-s=Plain", "-p=src/c.txt", "-p=src/a.tst"}),
                 "Preparing, please wait...\r",
-                "Sorry, but you can specify only paths to files with extensions 'tst,test,', please correct it.\n", 0);
+                "Sorry, but you can specify only paths to files with extensions 'tst,test,', please correct it.\n", 1);
     QCOMPARE(bundle.untidy_now(), QByteArray("a  b\n"));
     QCOMPARE(temporary_bundle::contents_of(bundle.foreign), QByteArray("c  c\n"));
 }

@@ -54,7 +54,7 @@ void test_change_records::tells_unchanged_files() {
     set_modification_time(source, past);
     set_modification_time(addon, past);
 
-    save_info_about_changes_of().this_source_file(source, "Test", "Compact", addon);
+    save_info_about_changes_of(*engine_test::records_store()).this_source_file(source, "Test", "Compact", addon);
     QString const key = source.mid(1);
     QVariantList const saved = records().value(key).toList();
     QCOMPARE(saved.size(), 4);
@@ -80,14 +80,14 @@ void test_change_records::tells_unchanged_files() {
         records().setValue(key, QVariantList{now(), "Test", "Compact"});
     else if (after_saving == "store an invalid value")
         records().setValue(key, QVariantList{now(), "Test", QVariant(), now()});
-    QCOMPARE(this_source_file().was_not_changed(source, language, style, addon), unchanged);
+    QCOMPARE(this_source_file(*engine_test::records_store()).was_not_changed(source, language, style, addon), unchanged);
 }
 
 void test_change_records::keeps_records_apart_from_the_window_settings() {
     QTemporaryDir sources;
     QString const source = write_file(sources.filePath("a.tst"), "text");
     QString const addon = install_addon("Compact[Test].style", addon_text());
-    save_info_about_changes_of().this_source_file(source, "Test", "Compact", addon);
+    save_info_about_changes_of(*engine_test::records_store()).this_source_file(source, "Test", "Compact", addon);
 
     QVERIFY(!QSettings().contains(source.mid(1)));
     QVERIFY(QFile::exists(records_file()));
@@ -113,9 +113,9 @@ void test_change_records::removing_a_path_forgets_its_records() {
     QString const addon = install_addon("Compact[Test].style", addon_text());
     for (auto const& name : {"a/lib/x.tst", "a/lib/sub/w.tst", "a/lib2/y.tst", "a/other/z.tst"}) {
         write_file(root.filePath(name), "text");
-        save_info_about_changes_of().this_source_file(root.filePath(name), "Test", "Compact", addon);
+        save_info_about_changes_of(*engine_test::records_store()).this_source_file(root.filePath(name), "Test", "Compact", addon);
     }
-    remove_info_about_changes_of().this_path(root.filePath(removed));
+    remove_info_about_changes_of(*engine_test::records_store()).this_path(root.filePath(removed));
 
     QStringList left;
     for (auto const& name : {"a/lib/x.tst", "a/lib/sub/w.tst", "a/lib2/y.tst", "a/other/z.tst"})

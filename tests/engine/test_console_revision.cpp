@@ -179,7 +179,7 @@ void test_console_revision::forgetting_the_records_forces_a_run() {
     write_file(source("b/y.tst"), "x y");
     revision_task const task = task_for({source("a"), source("b")});
     revise_on_command_line(task);
-    remove_info_about_changes_of().this_path(source("a"));
+    remove_info_about_changes_of(*engine_test::records_store()).this_path(source("a"));
     QCOMPARE(revise_on_command_line(task).out,
              done + "2 files was found, 1 file was revised, no files was changed.\n");
 }

@@ -1,7 +1,7 @@
 // Which files a task's paths stand for, which directly named files a task refuses, and how a
 // path a user typed becomes absolute.
 #include "engine/file_collection.h"
-#include "engine/transform.h"
+#include "core/transform.h"
 #include "tests/engine/helpers/engine_fixture.h"
 #include "tests/harness/test_main.h"
 

@@ -1,6 +1,7 @@
 // Finding and loading language plugins in the bundle's plugins directory, as every kernel
 // operation does: with a loader the caller owns.
 #include "core/kernel.h"
+#include "core/installed_files.h"
 #include "core/path_to.h"
 #include "engine/plugin_obtainer.h"
 #include "tests/harness/built_files.h"
@@ -54,7 +55,7 @@ void test_plugin_loading::directories_lie_two_levels_above_the_executable() {
 void test_plugin_loading::loads_a_language_plugin_by_its_file_name() {
     install(built::test_language_plugin());
     QPluginLoader loader;
-    interface_to_language_plugin* plugin = plugin_obtainer(loader)(std::string("libtest-language-plugin.so"));
+    interface_to_language_plugin* plugin = plugin_obtainer(loader)(path_of_plugin("libtest-language-plugin.so"));
     QVERIFY(plugin != nullptr);
     QCOMPARE(plugin->language_name(), std::string("Test"));
     QCOMPARE(plugin->filename_extensions(), (std::vector<std::string>{"tst", "test"}));
@@ -114,7 +115,7 @@ void test_plugin_loading::tells_library_names_from_other_names() {
 void test_plugin_loading::loads_the_SDK_example_built_out_of_tree() {
     install(built::example_plugin());
     QPluginLoader loader;
-    interface_to_language_plugin* plugin = plugin_obtainer(loader)(QString("libini-language-plugin.so"));
+    interface_to_language_plugin* plugin = plugin_obtainer(loader)(path_of_plugin("libini-language-plugin.so"));
     QVERIFY(plugin != nullptr);
     QCOMPARE(plugin->language_name(), std::string("INI"));
     QFile addon(built::source_dir() + "/sdk/example/Spaced[INI].style");

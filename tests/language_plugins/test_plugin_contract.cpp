@@ -3,7 +3,7 @@
 // own check, and a plugin that survives unloading and calls from another thread.
 #include "helpers/our_plugins.h"
 
-#include "core/format_of_this.h"
+#include "engine/format_of_this.h"
 #include "core/style_addon.h"
 
 #include <QtTest>

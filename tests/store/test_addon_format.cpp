@@ -1,7 +1,7 @@
 // The style addon format: which files are addons, their header values and descriptions, reading
 // and replacing one structure's form, renaming inside an addon and its file, checking forms
 // against a plugin's expressions, and the style-name expression.
-#include "core/format_of_this.h"
+#include "engine/format_of_this.h"
 #include "core/style_addon.h"
 #include "core/style_addon_editing.h"
 #include "tests/harness/built_files.h"

@@ -15,9 +15,14 @@
 
 #include <QObject>
 
+// A build may claim another interface version, as a plugin built against another SDK would.
+#ifndef TEST_PLUGIN_IID
+#define TEST_PLUGIN_IID STYLE_TARNEL_INTERFACE_ID
+#endif
+
 class test_language_plugin : public QObject, public interface_to_language_plugin {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.style-tarnel.interface_to_language_plugin")
+    Q_PLUGIN_METADATA(IID TEST_PLUGIN_IID)
     Q_INTERFACES(interface_to_language_plugin)
 public:
     std::string language_name() override;

@@ -100,6 +100,10 @@ QString records_file() {
     return QSettings(product::organisation_name, settings_key::change_records_store).fileName();
 }
 
+std::unique_ptr<QSettings> records_store() {
+    return std::make_unique<QSettings>(product::organisation_name, settings_key::change_records_store);
+}
+
 revision_task task_for(QStringList const& paths, std::string const& extensions,
                        std::string const& style, std::string const& language) {
     return revision_task{language, style, extensions, paths};

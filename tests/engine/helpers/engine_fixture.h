@@ -4,14 +4,16 @@
 #ifndef STYLE_TARNEL_TESTS_ENGINE_FIXTURE_H
 #define STYLE_TARNEL_TESTS_ENGINE_FIXTURE_H
 
-#include "engine/revision_task.h"
+#include "core/revision_task.h"
 
 #include <QByteArray>
+#include <QSettings>
 #include <QString>
 #include <QStringList>
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -36,6 +38,8 @@ qint64 now();
 // "end_of_revision"), without the plugin's tag.
 QStringList plugin_log();
 QString records_file();
+// The change records' store, opened for one statement.
+std::unique_ptr<QSettings> records_store();
 
 revision_task task_for(QStringList const& paths, std::string const& extensions = "tst",
                        std::string const& style = "Compact", std::string const& language = "Test");

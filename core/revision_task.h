@@ -1,6 +1,6 @@
 // One revision request: which language and style, which extensions, which paths.
-#ifndef STYLE_TARNEL_ENGINE_REVISION_TASK_H
-#define STYLE_TARNEL_ENGINE_REVISION_TASK_H
+#ifndef STYLE_TARNEL_CORE_REVISION_TASK_H
+#define STYLE_TARNEL_CORE_REVISION_TASK_H
 
 #include <QStringList>
 #include <string>

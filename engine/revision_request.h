@@ -1,0 +1,34 @@
+// What a revision run is given by the kernel: where its plugin and addon are, the files to
+// revise, where the change records live, and the manual that an invalid addon points to.
+#ifndef STYLE_TARNEL_ENGINE_REVISION_REQUEST_H
+#define STYLE_TARNEL_ENGINE_REVISION_REQUEST_H
+
+#include "engine/change_record_store.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <string>
+
+struct revision_request {
+    // The names inside the addon, which the change records keep.
+    QString language;
+    QString style;
+    QString plugins_directory;
+    // A bare file name in the plugins directory; the language's own name when no plugin was
+    // found, so that the report says which plugin the run missed.
+    std::string plugin_file;
+    QString addons_directory;
+    // A bare file name in the addons directory; when no addon was found, the name such an addon
+    // would have.
+    std::string addon_file;
+    // Without dots, separated by single spaces (UTF-8).
+    std::string extensions;
+    // Absolute paths of files and directories.
+    QStringList paths;
+    records_location records;
+    // The web address of the manual on writing addons.
+    std::string addon_manual;
+};
+
+#endif
