@@ -8,7 +8,7 @@
 
 class cpp_language_plugin : public QObject, public tarnel_engine::language_plugin_base {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.style-tarnel.interface_to_language_plugin")
+    Q_PLUGIN_METADATA(IID STYLE_TARNEL_INTERFACE_ID)
     Q_INTERFACES(interface_to_language_plugin)
 public:
     cpp_language_plugin();
