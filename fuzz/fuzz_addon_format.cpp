@@ -3,7 +3,7 @@
 // called invalid is one the plugin names and the addon holds.
 #include "fuzz_support.h"
 
-#include "core/format_of_this.h"
+#include "engine/format_of_this.h"
 #include "core/style_addon.h"
 #include "cpp_language.h"
 #include "language_plugin_base.h"

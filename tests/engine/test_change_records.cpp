@@ -21,6 +21,7 @@ private slots:
     void keeps_records_apart_from_the_window_settings();
     void removing_a_path_forgets_its_records_data();
     void removing_a_path_forgets_its_records();
+    void keys_a_relative_path_as_the_file_it_names();
 
 private:
     QSettings records() const {
@@ -122,6 +123,20 @@ void test_change_records::removing_a_path_forgets_its_records() {
         if (records().contains(root.filePath(name).mid(1)))
             left << name;
     QCOMPARE(left, kept);
+}
+
+// The engine's own callers may name a file relatively: its record is the file's, whichever
+// directory it was named from.
+void test_change_records::keys_a_relative_path_as_the_file_it_names() {
+    QTemporaryDir sources;
+    QString const source = write_file(sources.filePath("a.tst"), "text");
+    QString const addon = install_addon("Compact[Test].style", addon_text());
+    set_modification_time(source, now() - 100);
+    QString const before = QDir::currentPath();
+    QDir::setCurrent(sources.path());
+    save_info_about_changes_of(*engine_test::records_store()).this_source_file("./x/../a.tst", "Test", "Compact", addon);
+    QDir::setCurrent(before);
+    QVERIFY(this_source_file(*engine_test::records_store()).was_not_changed(source, "Test", "Compact", addon));
 }
 
 STYLE_TARNEL_TEST_MAIN_IN_BUNDLE(test_change_records)

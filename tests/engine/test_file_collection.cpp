@@ -124,6 +124,8 @@ void test_file_collection::makes_typed_paths_absolute_data() {
     QTest::newRow("below home") << "~/src/main.c" << home + "/src/main.c";
     QTest::newRow("relative") << "src/../lib/x.c" << here + "/lib/x.c";
     QTest::newRow("absolute, normalised") << "/usr//lib/./x" << "/usr/lib/x";
+    QTest::newRow("below another user's home") << "~root/x" << "/root/x";
+    QTest::newRow("a tilde of no user") << "~no-such-user-here/x" << here + "/~no-such-user-here/x";
 }
 
 void test_file_collection::makes_typed_paths_absolute() {

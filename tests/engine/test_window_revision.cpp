@@ -15,6 +15,7 @@ private slots:
     void reports_through_the_callbacks_from_its_own_thread();
     void ends_a_failed_preparation_with_its_message_only();
     void stops_after_the_file_it_was_interrupted_at();
+    void reads_the_stop_request_before_unchanged_files_too();
 
 private:
     QString source(QString const& name) const { return QDir(sources->path()).filePath(name); }
@@ -68,6 +69,20 @@ void test_window_revision::stops_after_the_file_it_was_interrupted_at() {
     QCOMPARE(contents_of(source("b.tst")), QByteArray("x  y"));
     QCOMPARE(contents_of(source("c.tst")), QByteArray("x  y"));
     QCOMPARE(plugin_log(), (QStringList{"revise - - 4", "end_of_revision"}));
+}
+
+// Files skipped as unchanged reach no progress step; Stop must still end the run before them.
+void test_window_revision::reads_the_stop_request_before_unchanged_files_too() {
+    for (auto const& name : {"a.tst", "b.tst"})
+        write_file(source(name), "x y");
+    write_file(source("c.tst"), "x  y");
+    revise_on_command_line(task_for({source("a.tst"), source("b.tst")}));
+    window_run const run =
+        revise_in_window(task_for({source("a.tst"), source("b.tst"), source("c.tst")}), {}, true);
+    QVERIFY(run.finished);
+    QCOMPARE(run.report, std::string("\nRevision was interrupted by user!\n\n"
+                                     "3 files was found, no files was revised."));
+    QCOMPARE(contents_of(source("c.tst")), QByteArray("x  y"));
 }
 
 STYLE_TARNEL_TEST_MAIN_IN_BUNDLE(test_window_revision)

@@ -1,6 +1,7 @@
 #include "test_language_plugin.h"
 
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
@@ -28,9 +29,13 @@ void log(std::string const& line) {
     }
 }
 
-void throw_if_asked() {
-    char const* tag = std::getenv("TEST_PLUGIN_THROWING");
-    if (tag != nullptr && std::string(tag) == TEST_PLUGIN_TAG)
+bool asked(char const* variable) {
+    char const* tag = std::getenv(variable);
+    return tag != nullptr && std::string(tag) == TEST_PLUGIN_TAG;
+}
+
+void throw_if_asked(char const* variable = "TEST_PLUGIN_THROWING") {
+    if (asked(variable))
         throw std::runtime_error("the test plugin was asked to throw");
 }
 
@@ -53,6 +58,9 @@ std::vector<std::string> test_language_plugin::filename_extensions() {
 
 std::map<std::string, std::string> test_language_plugin::forms_of_structures() {
     throw_if_asked();
+    throw_if_asked("TEST_PLUGIN_FORMS_THROWING");
+    if (asked("TEST_PLUGIN_INTERRUPTING"))
+        std::raise(SIGINT);
     // "function" is a prefix of "function call": forms are found by a substring search.
     return {
         {"block", R"(begin\s+SOME\s+end)"},

@@ -7,7 +7,9 @@
 //   "<tag> revise <EOL in hex> <space in hex> <source size>" and "<tag> end_of_revision".
 // With TEST_PLUGIN_DELAY_MS set, each revise() sleeps that long first.
 // With TEST_PLUGIN_THROWING set to its tag, the plugin throws from language_name(),
-// list_of_keywords(), filename_extensions() and forms_of_structures().
+// list_of_keywords(), filename_extensions() and forms_of_structures(); with
+// TEST_PLUGIN_FORMS_THROWING, from forms_of_structures() alone; with TEST_PLUGIN_INTERRUPTING,
+// forms_of_structures() raises SIGINT in the host's process.
 #ifndef TEST_LANGUAGE_PLUGIN_H
 #define TEST_LANGUAGE_PLUGIN_H
 

@@ -120,7 +120,7 @@ console_output revise_on_command_line(revision_task const& task) {
 }
 
 window_run revise_in_window(revision_task const& task,
-                            std::function<void(int, std::atomic<bool>&)> on_value) {
+                            std::function<void(int, std::atomic<bool>&)> on_value, bool stopped) {
     struct shared {
         std::mutex mutex;
         std::condition_variable done;
@@ -129,6 +129,7 @@ window_run revise_in_window(revision_task const& task,
     };
     // Kept alive by the callbacks too, so that a run that outlives a failed wait stays sound.
     auto state = std::make_shared<shared>();
+    state->stop = stopped;
     auto const caller = std::this_thread::get_id();
     auto record = [state, caller](std::string event) {
         std::lock_guard<std::mutex> lock(state->mutex);

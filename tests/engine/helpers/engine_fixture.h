@@ -58,9 +58,10 @@ struct window_run {
     bool finished = false;
 };
 // Starts a windowed run and waits for `finished`. `on_value` is called on the worker thread at
-// every value callback, with the value and the stop flag.
+// every value callback, with the value and the stop flag; `stopped` is the flag's first value.
 window_run revise_in_window(revision_task const& task,
-                            std::function<void(int, std::atomic<bool>&)> on_value = {});
+                            std::function<void(int, std::atomic<bool>&)> on_value = {},
+                            bool stopped = false);
 
 }  // namespace engine_test
 
