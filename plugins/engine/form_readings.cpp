@@ -132,13 +132,37 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
                 : "{IndentWidth: " + width + ", UseTab: Never}";
 }
 
+// Specifiers one step in and members two steps in is the specifiers' own level; otherwise the
+// offset is how far the specifiers stand left of the members.
 std::string access_offset_read_from(forms_by_name const& forms) {
-    int const specifier = forms.line_starting("access specifiers", "public:");
-    int const member = forms.line_starting("access specifiers", "name(");
-    if (specifier < 0 || member < 0)
+    std::string const structure = "access specifiers";
+    int const head = forms.line_starting(structure, "class");
+    int const specifier = forms.line_starting(structure, "public:");
+    int const member = forms.line_starting(structure, "name(");
+    if (head < 0 || specifier < 0 || member < 0)
         return std::string();
-    int const offset = forms.indent_of_line("access specifiers", specifier) - forms.indent_of_line("access specifiers", member);
-    return "{AccessModifierOffset: " + std::to_string(offset) + ", IndentAccessModifiers: false}";
+    int const outer = forms.indent_of_line(structure, head);
+    int const step = forms.indent_of_line(structure, specifier) - outer;
+    int const member_step = forms.indent_of_line(structure, member) - outer;
+    if (step > 0 && member_step == 2 * step)
+        return "{IndentAccessModifiers: true}";
+    return "{AccessModifierOffset: " + std::to_string(step - member_step) + ", IndentAccessModifiers: false}";
+}
+
+// The return type on a line of its own in declarations, or in definitions only; the name indented
+// under it or not.
+std::string return_type_read_from(forms_by_name const& forms) {
+    std::string const* declaration = forms.find("function declaration");
+    std::string const* definition = forms.find("function definition");
+    if (!declaration || !definition)
+        return std::string();
+    bool const declarations_break = starts_with(*declaration, "type\n");
+    bool const definitions_break = starts_with(*definition, "type\n");
+    std::string reading = std::string("BreakAfterReturnType: ") +
+                          (declarations_break ? "All" : definitions_break ? "AllDefinitions" : "None");
+    if (definitions_break)
+        reading += ", IndentWrappedFunctionNames: " + flag(forms.indent_of_line("function definition", 1) > 0);
+    return "{" + reading + "}";
 }
 
 std::string case_labels_read_from(forms_by_name const& forms) {
@@ -158,6 +182,26 @@ std::string namespace_indentation_read_from(forms_by_name const& forms) {
     if (forms.indent_of_line("namespace", inner) > 0)
         return "{NamespaceIndentation: All}";
     return forms.indent_of_line("namespace", content) > 0 ? "{NamespaceIndentation: Inner}" : "{NamespaceIndentation: None}";
+}
+
+// Directives in a conditional block indented after the `#` or before it, and by how much.
+std::string directives_read_from(forms_by_name const& forms) {
+    std::string const* code = forms.find("preprocessor");
+    if (!code)
+        return std::string();
+    std::vector<std::string> const lines = lines_of(*code);
+    if (lines.size() < 2)
+        return std::string();
+    std::string const& inner = lines[1];
+    std::size_t const hash = inner.find('#');
+    if (hash == std::string::npos)
+        return std::string();
+    std::size_t const after = inner.find_first_not_of(" \t", hash + 1) - hash - 1;
+    if (hash > 0)
+        return "{IndentPPDirectives: BeforeHash, PPIndentWidth: " + std::to_string(width_of_indent(inner)) + "}";
+    if (after > 0)
+        return "{IndentPPDirectives: AfterHash, PPIndentWidth: " + std::to_string(after) + "}";
+    return "{IndentPPDirectives: None}";
 }
 
 std::string parentheses_read_from(forms_by_name const& forms) {
@@ -217,6 +261,8 @@ std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
     if (forms.find("if"))
         readings.push_back(std::string("{AllowShortBlocksOnASingleLine: ") +
                            (forms.has_one_line("if") ? "Always}" : "Never}"));
+    if (forms.find("empty function"))
+        readings.push_back("{SpaceInEmptyBlock: " + flag(forms.contains("empty function", "{ }")) + "}");
     if (forms.find("short function") && forms.find("empty function")) {
         bool const short_function = forms.has_one_line("short function");
         bool const empty_function = forms.has_one_line("empty function");
@@ -249,16 +295,28 @@ std::string column_limit_read_from(std::vector<form_case> const& forms) {
     return "{ColumnLimit: 0}";
 }
 
+// A short block may share the line of its `if`; the loops and the long condition still show where
+// the brace of a control statement goes (2: only after a condition over several lines).
+int control_brace_read_from(forms_by_name const& forms) {
+    int own_line = -1;
+    for (char const* structure : {"if", "for", "while"})
+        own_line = std::max(own_line, forms.brace_on_own_line(structure));
+    if (own_line == 0 && forms.brace_on_own_line("long condition") == 1)
+        return 2;
+    return own_line;
+}
+
 std::string braces_read_from(forms_by_name const& forms) {
     std::vector<std::pair<std::string, int>> const flags = {
         {"AfterFunction", forms.brace_on_own_line("function definition")},
-        {"AfterControlStatement", forms.brace_on_own_line("if")},
+        {"AfterControlStatement", control_brace_read_from(forms)},
         {"AfterClass", forms.brace_on_own_line("class")},
         {"AfterStruct", forms.brace_on_own_line("struct")},
         {"AfterUnion", forms.brace_on_own_line("union")},
+        {"AfterEnum", forms.brace_on_own_line("enum")},
         {"AfterNamespace", forms.brace_on_own_line("namespace")},
         {"AfterExternBlock", forms.brace_on_own_line("extern block")},
-        {"AfterCaseLabel", forms.brace_on_own_line("switch", "case SOME:")},
+        {"AfterCaseLabel", forms.brace_on_own_line("switch", "case SOME")},
         {"BeforeElse", forms.keyword_begins_line("if else", "else")},
         {"BeforeCatch", forms.keyword_begins_line("try catch", "catch")},
         {"BeforeWhile", forms.keyword_begins_line("do while", "while")},
@@ -269,7 +327,8 @@ std::string braces_read_from(forms_by_name const& forms) {
         if (value < 0)
             continue;
         wrapping += (wrapping.empty() ? "" : ", ") + name + ": " +
-                    (name == "AfterControlStatement" ? (value ? "Always" : "Never") : flag(value == 1));
+                    (name == "AfterControlStatement" ? (value == 2 ? "MultiLine" : value ? "Always" : "Never")
+                                                     : flag(value == 1));
     }
     int const statement = forms.line_starting("if", "if");
     int const brace = forms.line_starting("if", "{");
@@ -285,7 +344,8 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     forms_by_name const named(forms);
     form_readings readings;
     for (std::string const& reading :
-         {indentation_read_from(forms), access_offset_read_from(named), case_labels_read_from(named),
+         {indentation_read_from(forms), access_offset_read_from(named), return_type_read_from(named),
+          case_labels_read_from(named), directives_read_from(named),
           namespace_indentation_read_from(named), parentheses_read_from(named), pointers_read_from(named),
           column_limit_read_from(forms)})
         if (!reading.empty())

@@ -15,11 +15,11 @@ namespace tarnel_engine {
 // A predefined style that reproduces every form is taken as it is. Otherwise every predefined
 // style is a start, with what the forms show directly (form_readings.h) applied, with and without
 // the brace placement read from them; the best starts (a beam) each descend over the option table:
-// one option group at a time, judged first on the forms that name it, then two groups together
-// where one alone cannot improve (indent width with access-specifier offset, brace placement with
-// short functions, ...). The result has the smallest total white-space distance found between the
+// one option group at a time, judged first on the forms that name it or still differ, then two
+// groups that one structure names together where one alone cannot improve (brace placement with
+// short functions, operator breaks with alignment, ...). The result has the smallest total white-space distance found between the
 // forms and their formatted results. Deterministic: the same forms give the same options; the work
-// is bounded by a count of engine calls, never by time.
+// is bounded by a count of forms formatted, never by time.
 class infer_options {
 public:
     clang::format::FormatStyle from(std::vector<form_case> const& forms) const;

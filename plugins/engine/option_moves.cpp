@@ -2,6 +2,8 @@
 // engine's own documentation, and adding a value is one string.
 #include "option_moves.h"
 
+#include "engine_hazards.h"
+
 namespace tarnel_engine {
 
 namespace {
@@ -149,7 +151,7 @@ bool apply_candidate(clang::format::FormatStyle& style, std::string const& candi
                               candidate.find("SpacesInParensOptions") != std::string::npos;
     if (on_expansion && clang::format::parseConfiguration(clang::format::configurationAsText(style), &moved))
         return false;
-    if (clang::format::parseConfiguration(candidate, &moved))
+    if (clang::format::parseConfiguration(candidate, &moved) || !engine_survives(moved))
         return false;
     style = moved;
     return true;

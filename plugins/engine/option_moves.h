@@ -25,7 +25,8 @@ std::vector<option_group> const& option_groups();
 bool applies_to_every_structure(std::string const& group_name);
 
 // Applies a candidate to a style. Brace wrapping flags and custom space options are applied on
-// top of the expansion of the style's preset, so that one flag moves and the others stay.
+// top of the expansion of the style's preset, so that one flag moves and the others stay. False,
+// and the style unchanged, when the candidate cannot be read or would make the engine crash.
 bool apply_candidate(clang::format::FormatStyle& style, std::string const& candidate);
 
 }  // namespace tarnel_engine
