@@ -330,6 +330,14 @@ std::string braces_read_from(forms_by_name const& forms) {
                     (name == "AfterControlStatement" ? (value == 2 ? "MultiLine" : value ? "Always" : "Never")
                                                      : flag(value == 1));
     }
+    // An empty body under a brace of its own line: closed on the same line or on the next.
+    for (auto const& [name, structure] : {std::pair<char const*, char const*>{"SplitEmptyFunction", "empty function"},
+                                          std::pair<char const*, char const*>{"SplitEmptyRecord", "empty class"}}) {
+        std::string const* code = forms.find(structure);
+        if (code && forms.brace_on_own_line(structure) == 1)
+            wrapping += std::string(wrapping.empty() ? "" : ", ") + name + ": " +
+                        flag(code->find('}') > code->find('\n', code->find('{')));
+    }
     int const statement = forms.line_starting("if", "if");
     int const brace = forms.line_starting("if", "{");
     if (statement >= 0 && brace >= 0)

@@ -65,8 +65,10 @@ public:
     }
 
     // Single moves until none improves, then one coupled move, and again; until every form is a
-    // fixed point, nothing improves, or the budget is spent.
-    void descend(scored_style& current) {
+    // fixed point, nothing improves, or the budget is spent. A pinned candidate (a reading) holds
+    // in every style the descent moves to.
+    void descend(scored_style& current, std::string const& pinned = std::string()) {
+        kept = pinned;
         while (current.total > 0 && within_budget()) {
             if (single_moves(current))
                 continue;
@@ -80,6 +82,7 @@ public:
 private:
     std::vector<form_case> const& forms;
     long formatted = 0;
+    std::string kept;
 
     // The forms that name one of the groups, and those that still differ (a catalogue names the
     // groups a structure shows most, not every one that reaches it), with their current distance.
@@ -132,7 +135,10 @@ private:
         std::vector<clang::format::FormatStyle> moved;
         for (std::string const& candidate : option_groups()[group].candidates) {
             clang::format::FormatStyle trial = style;
-            if (apply_candidate(trial, candidate) && !(trial == style))
+            if (!apply_candidate(trial, candidate) || trial == style)
+                continue;
+            clang::format::FormatStyle held = trial;
+            if (kept.empty() || (apply_candidate(held, kept) && held == trial))
                 moved.push_back(std::move(trial));
         }
         return moved;
@@ -233,6 +239,22 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         search.descend(start);
         if (start.total < best.total)
             best = start;
+    }
+
+    // Out of a local optimum: each reading that the best style no longer follows is applied again
+    // and held while the style descends anew (an option that helped early may block the way later).
+    std::vector<std::string> kicks = readings.layout;
+    kicks.push_back(readings.braces);
+    for (std::string const& kick : kicks) {
+        if (best.total == 0 || !search.within_budget())
+            break;
+        clang::format::FormatStyle kicked = best.style;
+        if (kick.empty() || !apply_candidate(kicked, kick) || kicked == best.style)
+            continue;
+        scored_style restart = search.scored(kicked);
+        search.descend(restart, kick);
+        if (restart.total < best.total)
+            best = restart;
     }
     return best.style;
 }
