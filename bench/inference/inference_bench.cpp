@@ -106,7 +106,7 @@ int fixed_points_of(std::map<std::string, std::string> const& forms, std::map<st
 // The style with the group at the candidate's value, when that is a change.
 bool moved(FormatStyle const& style, std::string const& candidate, FormatStyle& result) {
     result = style;
-    return tarnel_engine::apply_candidate(result, candidate) && !(result == style);
+    return tarnel_engine::apply_candidate(result, candidate) && !tarnel_engine::same_options(result, style);
 }
 
 int round_trip(std::string const& language_name, int count, unsigned seed, std::string const& directory) {

@@ -26,7 +26,7 @@ need need_of(form_case const& failing, std::vector<form_case> const& forms, std:
     for (option_group const& group : option_groups())
         for (std::string const& candidate : group.candidates) {
             clang::format::FormatStyle trial = style;
-            if (!apply_candidate(trial, candidate) || trial == style || distances_of({failing}, trial).front() != 0)
+            if (!apply_candidate(trial, candidate) || same_options(trial, style) || distances_of({failing}, trial).front() != 0)
                 continue;
             std::vector<unsigned long> const after = distances_of(forms, trial);
             std::vector<std::string> conflicting;

@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <map>
 #include <set>
 
 namespace tarnel_engine {
@@ -69,10 +70,12 @@ public:
     // in every style the descent moves to.
     void descend(scored_style& current, std::string const& pinned = std::string()) {
         kept = pinned;
+        unhelpful.clear();
         while (current.total > 0 && within_budget()) {
             if (single_moves(current))
                 continue;
-            if (!coupled_move(current))
+            bool const coupled = coupled_move(current);
+            if (!coupled)
                 return;
         }
     }
@@ -83,13 +86,17 @@ private:
     std::vector<form_case> const& forms;
     long formatted = 0;
     std::string kept;
+    // The moves (one group, or two) that did not improve, with the distances of the forms that
+    // judged them then: tried again only once those distances have changed.
+    std::map<std::vector<std::size_t>, std::vector<unsigned long>> unhelpful;
 
     // The forms that name one of the groups, and those that still differ (a catalogue names the
     // groups a structure shows most, not every one that reaches it), with their current distance.
     std::vector<form_case> judged_by(std::vector<std::size_t> const& groups, scored_style const& current,
-                                     unsigned long& distance) const {
+                                     unsigned long& distance, std::vector<unsigned long>& signature) const {
         std::vector<form_case> judged;
         distance = 0;
+        signature.clear();
         for (std::size_t i = 0; i < forms.size(); ++i) {
             bool named = current.distances[i] > 0;
             for (std::size_t group : groups)
@@ -97,19 +104,36 @@ private:
             if (named) {
                 judged.push_back(forms[i]);
                 distance += current.distances[i];
+                signature.push_back(i);
+                signature.push_back(current.distances[i]);
             }
         }
         return judged;
     }
 
     // Tries the styles on the forms that judge them; the best one that improves there is taken if
-    // it also improves the total over all forms.
+    // it also improves the total over all forms. A move that did not help is not tried again while
+    // the forms that judge it stay as they were.
     bool take_best_of(std::vector<clang::format::FormatStyle> const& trials, std::vector<std::size_t> const& groups,
                       scored_style& current) {
         unsigned long judged_distance = 0;
-        std::vector<form_case> const judged = judged_by(groups, current, judged_distance);
+        std::vector<unsigned long> signature;
+        std::vector<form_case> const judged = judged_by(groups, current, judged_distance, signature);
         if (judged_distance == 0)
             return false;
+        auto const known = unhelpful.find(groups);
+        if (known != unhelpful.end() && known->second == signature)
+            return false;
+        bool const taken = take_best_of(trials, judged, judged_distance, current);
+        if (taken)
+            unhelpful.erase(groups);
+        else
+            unhelpful[groups] = signature;
+        return taken;
+    }
+
+    bool take_best_of(std::vector<clang::format::FormatStyle> const& trials, std::vector<form_case> const& judged,
+                      unsigned long judged_distance, scored_style& current) {
         clang::format::FormatStyle const* best = nullptr;
         unsigned long best_distance = judged_distance;
         for (clang::format::FormatStyle const& trial : trials) {
@@ -135,10 +159,10 @@ private:
         std::vector<clang::format::FormatStyle> moved;
         for (std::string const& candidate : option_groups()[group].candidates) {
             clang::format::FormatStyle trial = style;
-            if (!apply_candidate(trial, candidate) || trial == style)
+            if (!apply_candidate(trial, candidate) || same_options(trial, style))
                 continue;
             clang::format::FormatStyle held = trial;
-            if (kept.empty() || (apply_candidate(held, kept) && held == trial))
+            if (kept.empty() || (apply_candidate(held, kept) && same_options(held, trial)))
                 moved.push_back(std::move(trial));
         }
         return moved;
@@ -233,7 +257,8 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
     for (scored_style& start : starts) {
         if (best.total == 0 || descended.size() == beam_width || !search.within_budget())
             break;
-        if (std::find(descended.begin(), descended.end(), start.style) != descended.end())
+        if (std::any_of(descended.begin(), descended.end(),
+                        [&](auto const& style) { return same_options(style, start.style); }))
             continue;
         descended.push_back(start.style);
         search.descend(start);
@@ -242,17 +267,19 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
     }
 
     // Out of a local optimum: each reading that the best style no longer follows is applied again
-    // and held while the style descends anew (an option that helped early may block the way later).
+    // and held while the style descends anew (an option that helped early may block the way later),
+    // then let go for a last descent.
     std::vector<std::string> kicks = readings.layout;
     kicks.push_back(readings.braces);
     for (std::string const& kick : kicks) {
         if (best.total == 0 || !search.within_budget())
             break;
         clang::format::FormatStyle kicked = best.style;
-        if (kick.empty() || !apply_candidate(kicked, kick) || kicked == best.style)
+        if (kick.empty() || !apply_candidate(kicked, kick) || same_options(kicked, best.style))
             continue;
         scored_style restart = search.scored(kicked);
         search.descend(restart, kick);
+        search.descend(restart);
         if (restart.total < best.total)
             best = restart;
     }

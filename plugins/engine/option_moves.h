@@ -29,6 +29,11 @@ bool applies_to_every_structure(std::string const& group_name);
 // and the style unchanged, when the candidate cannot be read or would make the engine crash.
 bool apply_candidate(clang::format::FormatStyle& style, std::string const& candidate);
 
+// Whether two styles hold the same options. The engine's own == leaves some out (the brace wrapping
+// flags, the custom spaces inside parentheses, the tab width and the directive indent width among
+// them), so their configuration texts are compared too.
+bool same_options(clang::format::FormatStyle const& one, clang::format::FormatStyle const& other);
+
 }  // namespace tarnel_engine
 
 #endif
