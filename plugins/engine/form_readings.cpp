@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <sstream>
 
 namespace tarnel_engine {
@@ -19,17 +20,24 @@ std::vector<std::string> lines_of(std::string const& code) {
     return lines;
 }
 
-// Columns, with tabs every 8: what the reading of the indent step assumes.
-int width_of_indent(std::string const& line) {
+// Columns, with tabs every `tab_width` columns.
+int width_of_indent(std::string const& line, int tab_width = 8) {
     int width = 0;
     for (char c : line) {
         if (c == ' ')
             ++width;
         else if (c == '\t')
-            width += 8 - width % 8;
+            width += tab_width - width % tab_width;
         else
             break;
     }
+    return width;
+}
+
+int width_of_line(std::string const& line, int tab_width) {
+    int width = 0;
+    for (char c : line)
+        width += c == '\t' ? tab_width - width % tab_width : 1;
     return width;
 }
 
@@ -103,9 +111,29 @@ private:
     std::map<std::string, std::string> codes;
 };
 
+// The tab width under which the backslashes that end the lines of the macro stand in one column
+// (the engine lines them up); 8 when no tab precedes them, or no width lines them up.
+int tab_width_read_from(std::vector<form_case> const& forms) {
+    for (form_case const& form : forms) {
+        if (form.structure != "macro" || form.code.find('\t') == std::string::npos)
+            continue;
+        std::vector<std::string> const lines = lines_of(form.code);
+        for (int tab_width : {8, 4, 2, 3, 5, 6, 7, 1}) {
+            std::set<int> columns;
+            for (std::string const& line : lines)
+                if (!line.empty() && line.back() == '\\')
+                    columns.insert(width_of_line(line, tab_width));
+            if (columns.size() == 1)
+                return tab_width;
+        }
+    }
+    return 8;
+}
+
 // The most common step after a line that ends with an opening brace, and tabs if any line starts
 // with one. Read together, because those options only work together.
 std::string indentation_read_from(std::vector<form_case> const& forms) {
+    int const tab_width = tab_width_read_from(forms);
     std::map<int, int> steps;
     bool tabs = false;
     for (form_case const& form : forms) {
@@ -116,7 +144,7 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
             tabs = tabs || line[0] == '\t';
             std::string const last = trimmed(previous);
             if (!last.empty() && last.back() == '{' && last.find("\\") == std::string::npos) {
-                int const step = width_of_indent(line) - width_of_indent(previous);
+                int const step = width_of_indent(line, tab_width) - width_of_indent(previous, tab_width);
                 if (step > 0)
                     ++steps[step];
             }
@@ -128,7 +156,7 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
     auto const most_common =
         std::max_element(steps.begin(), steps.end(), [](auto const& a, auto const& b) { return a.second < b.second; });
     std::string const width = std::to_string(most_common->first);
-    return tabs ? "{IndentWidth: " + width + ", TabWidth: 8, UseTab: ForIndentation}"
+    return tabs ? "{IndentWidth: " + width + ", TabWidth: " + std::to_string(tab_width) + ", UseTab: ForIndentation}"
                 : "{IndentWidth: " + width + ", UseTab: Never}";
 }
 
@@ -278,17 +306,22 @@ std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
     return readings;
 }
 
-// The narrowest limit of the table that every line of every form fits in; none when the longest
-// line passes them all.
+// Backslashes lined up at the column limit show it exactly; otherwise, the narrowest limit of the
+// table that every line of every form fits in, or none when the longest line passes them all.
 std::string column_limit_read_from(std::vector<form_case> const& forms) {
+    int const tab_width = tab_width_read_from(forms);
     std::size_t longest = 0;
+    std::set<int> backslash_columns;
     for (form_case const& form : forms)
         for (std::string const& line : lines_of(form.code)) {
-            std::size_t width = 0;
-            for (char c : line)
-                width += c == '\t' ? 8 - width % 8 : 1;
-            longest = std::max(longest, width);
+            longest = std::max(longest, static_cast<std::size_t>(width_of_line(line, tab_width)));
+            if (form.structure == "macro" && !line.empty() && line.back() == '\\')
+                backslash_columns.insert(width_of_line(line, tab_width));
         }
+    if (backslash_columns.size() == 1)
+        for (int limit : {79, 80, 100, 120})
+            if (*backslash_columns.begin() == limit)
+                return "{ColumnLimit: " + std::to_string(limit) + ", AlignEscapedNewlines: Right}";
     for (int limit : {80, 100, 120})
         if (longest <= static_cast<std::size_t>(limit))
             return "{ColumnLimit: " + std::to_string(limit) + "}";
@@ -360,6 +393,9 @@ form_readings readings_of(std::vector<form_case> const& forms) {
             readings.layout.push_back(reading);
     for (std::string const& reading : short_lines_read_from(named))
         readings.layout.push_back(reading);
+    std::string const limit = column_limit_read_from(forms);
+    if (limit.find("AlignEscapedNewlines") != std::string::npos)
+        readings.certain.push_back(limit);
     readings.braces = braces_read_from(named);
     return readings;
 }

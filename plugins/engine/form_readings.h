@@ -19,6 +19,9 @@ struct form_readings {
     std::vector<std::string> layout;
     // Brace placement per construct, as one custom brace wrapping; empty when no form shows one.
     std::string braces;
+    // Readings no other value could explain (the column limit where a macro's backslashes line up
+    // at it), held by every style the search moves to; also applied with `layout`.
+    std::vector<std::string> certain;
 };
 
 form_readings readings_of(std::vector<form_case> const& forms);

@@ -66,9 +66,9 @@ public:
     }
 
     // Single moves until none improves, then one coupled move, and again; until every form is a
-    // fixed point, nothing improves, or the budget is spent. A pinned candidate (a reading) holds
-    // in every style the descent moves to.
-    void descend(scored_style& current, std::string const& pinned = std::string()) {
+    // fixed point, nothing improves, or the budget is spent. Pinned candidates (readings) hold in
+    // every style the descent moves to.
+    void descend(scored_style& current, std::vector<std::string> const& pinned) {
         kept = pinned;
         unhelpful.clear();
         while (current.total > 0 && within_budget()) {
@@ -85,7 +85,7 @@ public:
 private:
     std::vector<form_case> const& forms;
     long formatted = 0;
-    std::string kept;
+    std::vector<std::string> kept;
     // The moves (one group, or two) that did not improve, with the distances of the forms that
     // judged them then: tried again only once those distances have changed.
     std::map<std::vector<std::size_t>, std::vector<unsigned long>> unhelpful;
@@ -161,8 +161,12 @@ private:
             clang::format::FormatStyle trial = style;
             if (!apply_candidate(trial, candidate) || same_options(trial, style))
                 continue;
-            clang::format::FormatStyle held = trial;
-            if (kept.empty() || (apply_candidate(held, kept) && same_options(held, trial)))
+            bool holds = true;
+            for (std::string const& reading : kept) {
+                clang::format::FormatStyle held = trial;
+                holds = holds && apply_candidate(held, reading) && same_options(held, trial);
+            }
+            if (holds)
                 moved.push_back(std::move(trial));
         }
         return moved;
@@ -261,7 +265,7 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
                         [&](auto const& style) { return same_options(style, start.style); }))
             continue;
         descended.push_back(start.style);
-        search.descend(start);
+        search.descend(start, readings.certain);
         if (start.total < best.total)
             best = start;
     }
@@ -278,8 +282,10 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         if (kick.empty() || !apply_candidate(kicked, kick) || same_options(kicked, best.style))
             continue;
         scored_style restart = search.scored(kicked);
-        search.descend(restart, kick);
-        search.descend(restart);
+        std::vector<std::string> pinned = readings.certain;
+        pinned.push_back(kick);
+        search.descend(restart, pinned);
+        search.descend(restart, readings.certain);
         if (restart.total < best.total)
             best = restart;
     }
