@@ -74,7 +74,7 @@ tarnel_engine::structure_catalogue c_family_structures() {
          {"BreakBeforeTernaryOperators", "AlignOperands", "ContinuationIndentWidth", "ColumnLimit"}},
         {"macro", "#define name(argument) \\\n  do { \\\n    SOME(argument); \\\n  } while (0)",
          "A macro over several lines: where the backslashes that continue its lines stand.",
-         {"AlignEscapedNewlines", "BraceWrapping.AfterControlStatement"}},
+         {"AlignEscapedNewlines", "BraceWrapping.AfterControlStatement", "ColumnLimit"}},
         {"pointer", "type *name = &SOME;", "Where the `*` of a pointer declaration leans: on the type, on the name, or neither.",
          {"PointerAlignment", "DerivePointerAlignment"}},
         {"preprocessor", "#ifdef name\n#define name_part SOME\n#endif",

@@ -21,7 +21,7 @@ namespace tarnel_engine {
 namespace {
 
 // Raise when the search itself changes, so that entries written by an older search are not used.
-char const* const search_revision = "2";
+char const* const search_revision = "3";
 
 std::string key_of(std::string const& addon, language_description const& language) {
     QCryptographicHash hash(QCryptographicHash::Sha256);
@@ -98,7 +98,7 @@ std::vector<form_case> form_cases_in(std::string const& addon, language_descript
         std::string const form = form_of_structure(each.name).in(addon);
         if (form.empty() || !matches_in_full(form, expressions.at(each.name)))
             continue;
-        cases.push_back({with_instances(form_as_code(form)), each.decides});
+        cases.push_back({each.name, with_instances(form_as_code(form)), each.decides});
     }
     return cases;
 }

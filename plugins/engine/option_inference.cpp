@@ -1,16 +1,17 @@
-// The search: predefined base, direct reading of the indentation, then coordinate descent over
-// the option table. A few hundred engine calls on small texts settle an addon.
+// The search: exact predefined styles first, then a beam of starts (predefined base plus direct
+// readings) that each descend by single and coupled moves over the option table.
 #include "option_inference.h"
 
 #include "engine_call.h"
+#include "form_readings.h"
 #include "option_moves.h"
 #include "token_safe_settings.h"
 #include "white_space.h"
 
 #include <algorithm>
-#include <map>
 #include <numeric>
-#include <sstream>
+#include <map>
+#include <set>
 
 namespace tarnel_engine {
 
@@ -19,6 +20,12 @@ namespace {
 // Forms are formatted together, between comment lines that the engine leaves alone; blank lines
 // around them keep alignment and comment rules from reaching from one form into the next.
 std::string const boundary = "/* style tarnel: form boundary */";
+
+// How many starts descend, and how many forms the whole search may have the engine format (a
+// call on a few forms costs little more than those forms): enough for the addons of the
+// benchmark, small enough for its time goals.
+std::size_t const beam_width = 3;
+long const formatting_budget = 30000;
 
 unsigned long total_of(std::vector<unsigned long> const& distances) {
     return std::accumulate(distances.begin(), distances.end(), 0UL);
@@ -36,56 +43,170 @@ std::vector<std::string> pieces_of(std::string const& text) {
     }
 }
 
-int width_of_indent(std::string const& line) {
-    int width = 0;
-    for (char c : line) {
-        if (c == ' ')
-            ++width;
-        else if (c == '\t')
-            width += 8 - width % 8;
-        else
-            break;
-    }
-    return width;
+struct scored_style {
+    clang::format::FormatStyle style;
+    std::vector<unsigned long> distances;
+    unsigned long total = 0;
+};
+
+bool names(form_case const& form, std::string const& group) {
+    return applies_to_every_structure(group) ||
+           std::find(form.decides.begin(), form.decides.end(), group) != form.decides.end();
 }
 
-// What the forms show directly: the most common step of indentation after an opening brace, and
-// whether lines are indented with tabs. Read together, because the options only work together.
-std::string indentation_read_from(std::vector<form_case> const& forms) {
-    std::map<int, int> steps;
-    bool tabs = false;
-    for (form_case const& form : forms) {
-        std::istringstream lines(form.code);
-        std::string line;
-        std::string previous;
-        while (std::getline(lines, line)) {
-            if (line.find_first_not_of(" \t") == std::string::npos)
+class option_search {
+public:
+    explicit option_search(std::vector<form_case> const& forms) : forms(forms) {}
+
+    scored_style scored(clang::format::FormatStyle const& style) {
+        formatted += static_cast<long>(forms.size());
+        std::vector<unsigned long> distances = distances_of(forms, style);
+        unsigned long const total = total_of(distances);
+        return {style, std::move(distances), total};
+    }
+
+    // Single moves until none improves, then one coupled move, and again; until every form is a
+    // fixed point, nothing improves, or the budget is spent. Pinned candidates (readings) hold in
+    // every style the descent moves to.
+    void descend(scored_style& current, std::vector<std::string> const& pinned) {
+        kept = pinned;
+        unhelpful.clear();
+        while (current.total > 0 && within_budget()) {
+            if (single_moves(current))
                 continue;
-            tabs = tabs || (!line.empty() && line[0] == '\t');
-            std::size_t const end = previous.find_last_not_of(" \t");
-            if (end != std::string::npos && previous[end] == '{') {
-                int const step = width_of_indent(line) - width_of_indent(previous);
-                if (step > 0)
-                    ++steps[step];
-            }
-            previous = line;
+            bool const coupled = coupled_move(current);
+            if (!coupled)
+                return;
         }
     }
-    if (steps.empty())
-        return std::string();
-    auto const most_common = std::max_element(steps.begin(), steps.end(),
-                                              [](auto const& a, auto const& b) { return a.second < b.second; });
-    std::string const width = std::to_string(most_common->first);
-    return tabs ? "{IndentWidth: " + width + ", TabWidth: 8, UseTab: ForIndentation}"
-                : "{IndentWidth: " + width + ", UseTab: Never}";
-}
 
-std::vector<form_case> subset(std::vector<form_case> const& forms, std::vector<std::size_t> const& indices) {
-    std::vector<form_case> chosen;
-    for (std::size_t index : indices)
-        chosen.push_back(forms[index]);
-    return chosen;
-}
+    bool within_budget() const { return formatted < formatting_budget; }
+
+private:
+    std::vector<form_case> const& forms;
+    long formatted = 0;
+    std::vector<std::string> kept;
+    // The moves (one group, or two) that did not improve, with the distances of the forms that
+    // judged them then: tried again only once those distances have changed.
+    std::map<std::vector<std::size_t>, std::vector<unsigned long>> unhelpful;
+
+    // The forms that name one of the groups, and those that still differ (a catalogue names the
+    // groups a structure shows most, not every one that reaches it), with their current distance.
+    std::vector<form_case> judged_by(std::vector<std::size_t> const& groups, scored_style const& current,
+                                     unsigned long& distance, std::vector<unsigned long>& signature) const {
+        std::vector<form_case> judged;
+        distance = 0;
+        signature.clear();
+        for (std::size_t i = 0; i < forms.size(); ++i) {
+            bool named = current.distances[i] > 0;
+            for (std::size_t group : groups)
+                named = named || names(forms[i], option_groups()[group].name);
+            if (named) {
+                judged.push_back(forms[i]);
+                distance += current.distances[i];
+                signature.push_back(i);
+                signature.push_back(current.distances[i]);
+            }
+        }
+        return judged;
+    }
+
+    // Tries the styles on the forms that judge them; the best one that improves there is taken if
+    // it also improves the total over all forms. A move that did not help is not tried again while
+    // the forms that judge it stay as they were.
+    bool take_best_of(std::vector<clang::format::FormatStyle> const& trials, std::vector<std::size_t> const& groups,
+                      scored_style& current) {
+        unsigned long judged_distance = 0;
+        std::vector<unsigned long> signature;
+        std::vector<form_case> const judged = judged_by(groups, current, judged_distance, signature);
+        if (judged_distance == 0)
+            return false;
+        auto const known = unhelpful.find(groups);
+        if (known != unhelpful.end() && known->second == signature)
+            return false;
+        bool const taken = take_best_of(trials, judged, judged_distance, current);
+        if (taken)
+            unhelpful.erase(groups);
+        else
+            unhelpful[groups] = signature;
+        return taken;
+    }
+
+    bool take_best_of(std::vector<clang::format::FormatStyle> const& trials, std::vector<form_case> const& judged,
+                      unsigned long judged_distance, scored_style& current) {
+        clang::format::FormatStyle const* best = nullptr;
+        unsigned long best_distance = judged_distance;
+        for (clang::format::FormatStyle const& trial : trials) {
+            if (!within_budget())
+                break;
+            formatted += static_cast<long>(judged.size());
+            unsigned long const distance = total_of(distances_of(judged, trial));
+            if (distance < best_distance) {
+                best = &trial;
+                best_distance = distance;
+            }
+        }
+        if (!best)
+            return false;
+        scored_style moved = scored(*best);
+        if (moved.total >= current.total)
+            return false;
+        current = std::move(moved);
+        return true;
+    }
+
+    std::vector<clang::format::FormatStyle> moves_of(std::size_t group, clang::format::FormatStyle const& style) const {
+        std::vector<clang::format::FormatStyle> moved;
+        for (std::string const& candidate : option_groups()[group].candidates) {
+            clang::format::FormatStyle trial = style;
+            if (!apply_candidate(trial, candidate) || same_options(trial, style))
+                continue;
+            bool holds = true;
+            for (std::string const& reading : kept) {
+                clang::format::FormatStyle held = trial;
+                holds = holds && apply_candidate(held, reading) && same_options(held, trial);
+            }
+            if (holds)
+                moved.push_back(std::move(trial));
+        }
+        return moved;
+    }
+
+    bool single_moves(scored_style& current) {
+        bool improved = false;
+        for (std::size_t group = 0; group < option_groups().size() && current.total > 0 && within_budget(); ++group)
+            improved = take_best_of(moves_of(group, current.style), {group}, current) || improved;
+        return improved;
+    }
+
+    // The groups that the structure of a form still differing names; for each pair of them, every
+    // combination of their values. The first pair (in table order, form by form) that improves is
+    // taken.
+    bool coupled_move(scored_style& current) {
+        std::set<std::pair<std::size_t, std::size_t>> tried;
+        for (std::size_t i = 0; i < forms.size() && within_budget(); ++i) {
+            if (current.distances[i] == 0)
+                continue;
+            std::vector<std::size_t> named;
+            for (std::size_t group = 0; group < option_groups().size(); ++group)
+                if (std::find(forms[i].decides.begin(), forms[i].decides.end(), option_groups()[group].name) !=
+                    forms[i].decides.end())
+                    named.push_back(group);
+            for (std::size_t a = 0; a < named.size(); ++a)
+                for (std::size_t b = a + 1; b < named.size(); ++b) {
+                    if (!tried.insert({named[a], named[b]}).second || !within_budget())
+                        continue;
+                    std::vector<clang::format::FormatStyle> trials;
+                    for (clang::format::FormatStyle const& first : moves_of(named[a], current.style))
+                        for (clang::format::FormatStyle const& both : moves_of(named[b], first))
+                            trials.push_back(both);
+                    if (take_best_of(trials, {named[a], named[b]}, current))
+                        return true;
+                }
+        }
+        return false;
+    }
+};
 
 }  // namespace
 
@@ -104,82 +225,71 @@ std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, cla
 }
 
 clang::format::FormatStyle infer_options::from(std::vector<form_case> const& forms) const {
-    clang::format::FormatStyle style = token_safe_predefined_style(names_of_predefined_styles().front());
+    option_search search(forms);
     if (forms.empty())
-        return style;
-    std::vector<unsigned long> distances = distances_of(forms, style);
-    for (std::string const& name : names_of_predefined_styles()) {
-        clang::format::FormatStyle const base = token_safe_predefined_style(name);
-        std::vector<unsigned long> const base_distances = distances_of(forms, base);
-        if (total_of(base_distances) < total_of(distances)) {
-            style = base;
-            distances = base_distances;
-        }
-    }
+        return token_safe_predefined_style(names_of_predefined_styles().front());
 
     // A style that is a predefined one keeps all its rules, Google's "the file's majority decides
-    // where * leans" included; any other style shows where * and & lean in its forms, and those
+    // where * leans" included.
+    std::vector<clang::format::FormatStyle> bases;
+    for (std::string const& name : names_of_predefined_styles()) {
+        bases.push_back(token_safe_predefined_style(name));
+        scored_style const base = search.scored(bases.back());
+        if (base.total == 0)
+            return base.style;
+    }
+
+    // Any other style shows where * and & lean in its forms (the readings say so), and those
     // forms, not the file being revised, decide.
-    if (total_of(distances) > 0)
-        style.DerivePointerAlignment = false;
-
-    clang::format::FormatStyle read = style;
-    std::string const indentation = indentation_read_from(forms);
-    if (total_of(distances) > 0 && !indentation.empty() && apply_candidate(read, indentation)) {
-        for (std::string const& offset :
-             std::vector<std::string>{"", "{AccessModifierOffset: -" + std::to_string(read.IndentWidth) + "}"}) {
-            clang::format::FormatStyle trial = read;
-            if (!offset.empty() && !apply_candidate(trial, offset))
+    form_readings const readings = readings_of(forms);
+    std::vector<scored_style> starts;
+    for (clang::format::FormatStyle const& base : bases)
+        for (bool const with_braces : {true, false}) {
+            if (with_braces && readings.braces.empty())
                 continue;
-            std::vector<unsigned long> const trial_distances = distances_of(forms, trial);
-            if (total_of(trial_distances) < total_of(distances)) {
-                style = trial;
-                distances = trial_distances;
-            }
+            clang::format::FormatStyle start = base;
+            for (std::string const& reading : readings.layout)
+                apply_candidate(start, reading);
+            if (with_braces)
+                apply_candidate(start, readings.braces);
+            starts.push_back(search.scored(start));
         }
-    }
+    std::stable_sort(starts.begin(), starts.end(), [](auto const& a, auto const& b) { return a.total < b.total; });
 
-    for (int pass = 0; pass < 4 && total_of(distances) > 0; ++pass) {
-        bool improved = false;
-        for (option_group const& group : option_groups()) {
-            std::vector<std::size_t> relevant;
-            for (std::size_t i = 0; i < forms.size(); ++i) {
-                std::vector<std::string> const& decides = forms[i].decides;
-                if (applies_to_every_structure(group.name) ||
-                    std::find(decides.begin(), decides.end(), group.name) != decides.end())
-                    relevant.push_back(i);
-            }
-            unsigned long current = 0;
-            for (std::size_t index : relevant)
-                current += distances[index];
-            if (current == 0)
-                continue;
-            std::vector<form_case> const judged = subset(forms, relevant);
-            clang::format::FormatStyle best = style;
-            unsigned long best_distance = current;
-            for (std::string const& candidate : group.candidates) {
-                clang::format::FormatStyle trial = style;
-                if (!apply_candidate(trial, candidate) || trial == style)
-                    continue;
-                unsigned long const distance = total_of(distances_of(judged, trial));
-                if (distance < best_distance) {
-                    best = trial;
-                    best_distance = distance;
-                }
-            }
-            if (best_distance == current)
-                continue;
-            std::vector<unsigned long> const best_distances = distances_of(forms, best);
-            if (total_of(best_distances) < total_of(distances)) {
-                style = best;
-                distances = best_distances;
-                improved = true;
-            }
-        }
-        if (!improved)
+    scored_style best = starts.front();
+    std::vector<clang::format::FormatStyle> descended;
+    for (scored_style& start : starts) {
+        if (best.total == 0 || descended.size() == beam_width || !search.within_budget())
             break;
+        if (std::any_of(descended.begin(), descended.end(),
+                        [&](auto const& style) { return same_options(style, start.style); }))
+            continue;
+        descended.push_back(start.style);
+        search.descend(start, readings.certain);
+        if (start.total < best.total)
+            best = start;
     }
-    return style;
+
+    // Out of a local optimum: each reading that the best style no longer follows is applied again
+    // and held while the style descends anew (an option that helped early may block the way later),
+    // then let go for a last descent.
+    std::vector<std::string> kicks = readings.layout;
+    kicks.push_back(readings.braces);
+    for (std::string const& kick : kicks) {
+        if (best.total == 0 || !search.within_budget())
+            break;
+        clang::format::FormatStyle kicked = best.style;
+        if (kick.empty() || !apply_candidate(kicked, kick) || same_options(kicked, best.style))
+            continue;
+        scored_style restart = search.scored(kicked);
+        std::vector<std::string> pinned = readings.certain;
+        pinned.push_back(kick);
+        search.descend(restart, pinned);
+        search.descend(restart, readings.certain);
+        if (restart.total < best.total)
+            best = restart;
+    }
+    return best.style;
 }
 
 }  // namespace tarnel_engine

@@ -1,7 +1,9 @@
-// Finds the engine's options under which every form of an addon is a fixed point (internal to
-// the engine library).
+// Finds the engine's options under which every form of an addon is a fixed point, or, when the
+// forms contradict each other, the options closest to them (internal to the engine library).
 #ifndef TARNEL_ENGINE_OPTION_INFERENCE_H
 #define TARNEL_ENGINE_OPTION_INFERENCE_H
+
+#include "form_case.h"
 
 #include <clang/Format/Format.h>
 
@@ -10,18 +12,14 @@
 
 namespace tarnel_engine {
 
-struct form_case {
-    // The form as code, placeholders replaced by their instances.
-    std::string code;
-    // The option groups its structure decides.
-    std::vector<std::string> decides;
-};
-
-// Starts from the predefined style closest to the forms, sets what the forms show directly
-// (indent unit and tabs), then moves one option group at a time over the candidate table while
-// the total white-space distance between the forms and their formatted results shrinks. A group
-// is only tried for structures whose forms still differ, and judged first on the forms that name
-// it. Deterministic: the same forms give the same options.
+// A predefined style that reproduces every form is taken as it is. Otherwise every predefined
+// style is a start, with what the forms show directly (form_readings.h) applied, with and without
+// the brace placement read from them; the best starts (a beam) each descend over the option table:
+// one option group at a time, judged first on the forms that name it or still differ, then two
+// groups that one structure names together where one alone cannot improve (brace placement with
+// short functions, operator breaks with alignment, ...). The result has the smallest total white-space distance found between the
+// forms and their formatted results. Deterministic: the same forms give the same options; the work
+// is bounded by a count of forms formatted, never by time.
 class infer_options {
 public:
     clang::format::FormatStyle from(std::vector<form_case> const& forms) const;

@@ -2,6 +2,8 @@
 // engine's own documentation, and adding a value is one string.
 #include "option_moves.h"
 
+#include "engine_hazards.h"
+
 namespace tarnel_engine {
 
 namespace {
@@ -143,13 +145,22 @@ bool applies_to_every_structure(std::string const& group_name) {
     return group_name == "Indentation" || group_name == "UseTab" || group_name == "BreakBeforeBraces";
 }
 
+bool same_options(clang::format::FormatStyle const& one, clang::format::FormatStyle const& other) {
+    return one == other && clang::format::configurationAsText(one) == clang::format::configurationAsText(other);
+}
+
 bool apply_candidate(clang::format::FormatStyle& style, std::string const& candidate) {
     clang::format::FormatStyle moved = style;
-    bool const on_expansion = candidate.find("BraceWrapping") != std::string::npos ||
-                              candidate.find("SpacesInParensOptions") != std::string::npos;
+    // A preset is expanded by writing the style out and reading it back; a custom style already
+    // holds its flags.
+    bool const on_expansion =
+        (candidate.find("BraceWrapping") != std::string::npos &&
+         style.BreakBeforeBraces != clang::format::FormatStyle::BS_Custom) ||
+        (candidate.find("SpacesInParensOptions") != std::string::npos &&
+         style.SpacesInParens != clang::format::FormatStyle::SIPO_Custom);
     if (on_expansion && clang::format::parseConfiguration(clang::format::configurationAsText(style), &moved))
         return false;
-    if (clang::format::parseConfiguration(candidate, &moved))
+    if (clang::format::parseConfiguration(candidate, &moved) || !engine_survives(moved))
         return false;
     style = moved;
     return true;

@@ -25,8 +25,14 @@ std::vector<option_group> const& option_groups();
 bool applies_to_every_structure(std::string const& group_name);
 
 // Applies a candidate to a style. Brace wrapping flags and custom space options are applied on
-// top of the expansion of the style's preset, so that one flag moves and the others stay.
+// top of the expansion of the style's preset, so that one flag moves and the others stay. False,
+// and the style unchanged, when the candidate cannot be read or would make the engine crash.
 bool apply_candidate(clang::format::FormatStyle& style, std::string const& candidate);
+
+// Whether two styles hold the same options. The engine's own == leaves some out (the brace wrapping
+// flags, the custom spaces inside parentheses, the tab width and the directive indent width among
+// them), so their configuration texts are compared too.
+bool same_options(clang::format::FormatStyle const& one, clang::format::FormatStyle const& other);
 
 }  // namespace tarnel_engine
 

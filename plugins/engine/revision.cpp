@@ -5,6 +5,7 @@
 #include "addon_forms.h"
 #include "bracket_balance.h"
 #include "engine_call.h"
+#include "engine_hazards.h"
 #include "inference_cache.h"
 #include "placeholder_instances.h"
 #include "text_encoding.h"
@@ -112,6 +113,8 @@ std::string addon_written_in(std::string const& options, std::string const& styl
     if (!predefined && clang::format::parseConfiguration(options, &style))
         return std::string();
     make_token_safe(style);
+    if (!engine_survives(style))
+        return std::string();
     std::map<std::string, std::string> forms;
     for (structure const& each : language.structures) {
         std::string const code = with_instances(form_as_code(each.tokens));

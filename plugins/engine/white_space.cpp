@@ -71,6 +71,8 @@ unsigned long white_space_distance(std::string const& wanted, std::string const&
     unsigned long distance = 0;
     std::size_t left = 0;
     std::size_t right = 0;
+    // Byte by byte between the gaps, so that a gap on one side only (a blank that the other text
+    // lacks between the same two bytes) counts as a gap that differs, not as another text.
     while (true) {
         gap const wanted_gap = read_gap(wanted, left);
         gap const actual_gap = read_gap(actual, right);
@@ -79,11 +81,7 @@ unsigned long white_space_distance(std::string const& wanted, std::string const&
                         std::min(std::labs(wanted_gap.width - actual_gap.width), 16L);
         if (left == wanted.size() || right == actual.size())
             return left == wanted.size() && right == actual.size() ? distance : far;
-        while (left < wanted.size() && right < actual.size() && !is_white(wanted, left) && !is_white(actual, right)) {
-            if (wanted[left++] != actual[right++])
-                return far;
-        }
-        if ((left < wanted.size() && !is_white(wanted, left)) != (right < actual.size() && !is_white(actual, right)))
+        if (wanted[left++] != actual[right++])
             return far;
     }
 }

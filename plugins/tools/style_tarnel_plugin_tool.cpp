@@ -2,13 +2,15 @@
 //   style-tarnel-plugin-tool options <addon>          the options inferred from the addon, as clang-format
 //                                                     configuration
 //   style-tarnel-plugin-tool check <addon>            each form that is not a fixed point, with what the
-//                                                     engine makes of it; status 1 if any
+//                                                     engine makes of it, the option value it would need
+//                                                     and the forms that value would lose; status 1 if any
 //   style-tarnel-plugin-tool write-addon <language> <style name> <predefined style or configuration>
 //                                                     an addon whose forms the engine writes
 //   style-tarnel-plugin-tool manual <directory> <addon>...   the structure manual pages
 #include "addon_forms.h"
 #include "c_language.h"
 #include "cpp_language.h"
+#include "form_conflicts.h"
 #include "manual_pages.h"
 #include "revision.h"
 
@@ -63,11 +65,17 @@ int check_forms(std::string const& addon) {
     if (!language)
         return 2;
     int status = 0;
-    for (auto const& [name, formatted] : tarnel_engine::forms_formatted_by_inferred_options(addon, *language)) {
-        std::string const form = tarnel_engine::form_of_structure(name).in(addon);
-        if (formatted == form)
-            continue;
-        std::cout << "== " << name << ": the form\n" << form << "\n== comes back as\n" << formatted << "\n";
+    for (tarnel_engine::form_not_coming_back const& each : tarnel_engine::forms_not_coming_back(addon, *language)) {
+        std::cout << "== " << each.structure << ": the form\n" << each.form << "\n== comes back as\n" << each.comes_back << "\n";
+        if (each.needs.empty()) {
+            std::cout << "== no single option value brings it back\n";
+        } else if (each.conflicting.empty()) {
+            std::cout << "== it needs " << each.needs << ", which no other form contradicts\n";
+        } else {
+            std::cout << "== it needs " << each.needs << ", which these forms contradict (they share the rule):";
+            for (std::string const& other : each.conflicting)
+                std::cout << " " << other << (&other == &each.conflicting.back() ? "\n" : ",");
+        }
         status = 1;
     }
     return status;

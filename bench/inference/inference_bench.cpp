@@ -1,0 +1,218 @@
+// The measuring half of the inference benchmark (the script `run` drives it; one line of tab-
+// separated fields per addon on standard output):
+//   inference_bench round-trip <C|C++> <count> <seed> <directory>
+//       random option sets, each drawn group by group from the option table on a random predefined
+//       base; the addon written from each (kept in <directory>), its options inferred from the
+//       forms alone. Fields: set, reproducible (the generating set's own forms are fixed points),
+//       forms, fixed points, groups shown by the forms, of those recovered, seconds (cold), the
+//       generating options (one line of configuration; also kept in <directory>).
+//   inference_bench edits <addon>...
+//       for each addon and each value of each option group: the options inferred from the addon
+//       with that value, the forms that this changes rewritten as the engine lays them out; kept
+//       when the edited options reproduce their own forms and some form changed. Fields: addon,
+//       edit, forms, fixed points, seconds (cold).
+//   inference_bench warm <addon>...
+//       seconds to obtain the options of each addon in this process (from the disk cache when a
+//       previous run filled it).
+#include "addon_forms.h"
+#include "c_language.h"
+#include "cpp_language.h"
+#include "engine_call.h"
+#include "inference_cache.h"
+#include "option_inference.h"
+#include "option_moves.h"
+#include "placeholder_instances.h"
+#include "revision.h"
+#include "token_safe_settings.h"
+#include "white_space.h"
+
+#include <QFile>
+
+#include <chrono>
+#include <cstdint>
+#include <iostream>
+#include <map>
+#include <random>
+
+namespace {
+
+using clang::format::FormatStyle;
+
+std::string contents_of(std::string const& path) {
+    QFile file(QString::fromStdString(path));
+    return file.open(QIODevice::ReadOnly) ? file.readAll().toStdString() : std::string();
+}
+
+void write_to(std::string const& path, std::string const& text) {
+    QFile file(QString::fromStdString(path));
+    if (file.open(QIODevice::WriteOnly))
+        file.write(text.data(), static_cast<qint64>(text.size()));
+}
+
+tarnel_engine::language_description const& language_of(std::string const& addon) {
+    return addon.find("LANGUAGE=C++") != std::string::npos ? cpp_language() : c_language();
+}
+
+std::string one_line(std::string const& configuration) {
+    std::string line;
+    for (char c : configuration)
+        line += c == '\n' ? ' ' : c;
+    return line;
+}
+
+double seconds_since(std::chrono::steady_clock::time_point start) {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+// Each form formatted alone under the style, placeholders restored: what a user writing the forms
+// in that style would write.
+std::map<std::string, std::string> forms_under(FormatStyle const& style, std::map<std::string, std::string> const& forms) {
+    std::map<std::string, std::string> formatted;
+    for (auto const& [name, form] : forms) {
+        std::string const code = tarnel_engine::with_instances(tarnel_engine::form_as_code(form));
+        formatted[name] = tarnel_engine::form_as_code(
+            tarnel_engine::without_instances(tarnel_engine::format_with(style).the_code(code + "\n").text));
+    }
+    return formatted;
+}
+
+std::map<std::string, std::string> forms_of(std::string const& addon, tarnel_engine::language_description const& language) {
+    std::map<std::string, std::string> forms;
+    for (tarnel_engine::structure const& each : language.structures) {
+        std::string const form = tarnel_engine::form_of_structure(each.name).in(addon);
+        if (!form.empty())
+            forms[each.name] = form;
+    }
+    return forms;
+}
+
+std::string addon_of(std::string const& name, tarnel_engine::language_description const& language,
+                     std::map<std::string, std::string> const& forms) {
+    std::string addon = "NAME=" + name + "\nLANGUAGE=" + language.name + "\n";
+    for (auto const& [structure, form] : forms)
+        addon += "\nS_NAME=" + structure + "\nS_BEG\n" + form + "\nS_END\n";
+    return addon;
+}
+
+int fixed_points_of(std::map<std::string, std::string> const& forms, std::map<std::string, std::string> const& formatted) {
+    int fixed = 0;
+    for (auto const& [name, form] : forms) {
+        auto const found = formatted.find(name);
+        fixed += found != formatted.end() && found->second == form;
+    }
+    return fixed;
+}
+
+// The style with the group at the candidate's value, when that is a change.
+bool moved(FormatStyle const& style, std::string const& candidate, FormatStyle& result) {
+    result = style;
+    return tarnel_engine::apply_candidate(result, candidate) && !tarnel_engine::same_options(result, style);
+}
+
+int round_trip(std::string const& language_name, int count, unsigned seed, std::string const& directory) {
+    tarnel_engine::language_description const& language = language_name == "C" ? c_language() : cpp_language();
+    std::mt19937 random(seed);
+    auto const& groups = tarnel_engine::option_groups();
+    auto const& bases = tarnel_engine::names_of_predefined_styles();
+    for (int set = 0; set < count; ++set) {
+        FormatStyle style = tarnel_engine::token_safe_predefined_style(bases[random() % bases.size()]);
+        // Each group: the base's value or one of the table's, with equal chances.
+        std::vector<std::string> drawn(groups.size());
+        for (std::size_t group = 0; group < groups.size(); ++group) {
+            std::size_t const pick = random() % (groups[group].candidates.size() + 1);
+            if (pick < groups[group].candidates.size() && tarnel_engine::apply_candidate(style, groups[group].candidates[pick]))
+                drawn[group] = groups[group].candidates[pick];
+        }
+        tarnel_engine::make_token_safe(style);
+        std::string const configuration = clang::format::configurationAsText(style);
+        std::string const name = language_name + "-" + std::to_string(set);
+        std::string const addon = tarnel_engine::addon_written_in(configuration, name, language);
+        write_to(directory + "/" + name + ".style", addon);
+        write_to(directory + "/" + name + ".clang-format", configuration);
+        std::map<std::string, std::string> const forms = forms_of(addon, language);
+        bool const reproducible = fixed_points_of(forms, forms_under(style, forms)) == static_cast<int>(forms.size());
+
+        auto const start = std::chrono::steady_clock::now();
+        FormatStyle const inferred = tarnel_engine::inference_cache::shared().style_for(addon, language);
+        double const took = seconds_since(start);
+        int const fixed = fixed_points_of(forms, forms_under(inferred, forms));
+
+        // A group is shown when another of its values changes some form; recovered when the
+        // inferred options hold the drawn value (or the base's, when none was drawn).
+        int shown = 0, recovered = 0;
+        for (std::size_t group = 0; group < groups.size(); ++group) {
+            bool is_shown = false;
+            for (std::string const& candidate : groups[group].candidates) {
+                FormatStyle other;
+                if (moved(style, candidate, other) && forms_under(other, forms) != forms) {
+                    is_shown = true;
+                    break;
+                }
+            }
+            if (!is_shown)
+                continue;
+            ++shown;
+            bool same = true;
+            for (std::string const& candidate : groups[group].candidates) {
+                FormatStyle in_generating, in_inferred;
+                bool const changes_generating = moved(style, candidate, in_generating);
+                bool const changes_inferred = moved(inferred, candidate, in_inferred);
+                same = same && changes_generating == changes_inferred;
+            }
+            recovered += same;
+        }
+        std::cout << name << "\t" << reproducible << "\t" << forms.size() << "\t" << fixed << "\t" << shown << "\t"
+                  << recovered << "\t" << took << "\t" << one_line(configuration) << std::endl;
+    }
+    return 0;
+}
+
+int edits(std::vector<std::string> const& paths) {
+    for (std::string const& path : paths) {
+        std::string const addon = contents_of(path);
+        tarnel_engine::language_description const& language = language_of(addon);
+        std::map<std::string, std::string> const forms = forms_of(addon, language);
+        FormatStyle const inferred = tarnel_engine::inference_cache::shared().style_for(addon, language);
+        for (auto const& group : tarnel_engine::option_groups())
+            for (std::string const& candidate : group.candidates) {
+                FormatStyle edited;
+                if (!moved(inferred, candidate, edited))
+                    continue;
+                std::map<std::string, std::string> const rewritten = forms_under(edited, forms);
+                if (rewritten == forms || forms_under(edited, rewritten) != rewritten)
+                    continue;
+                std::string const edited_addon = addon_of("edited", language, rewritten);
+                auto const start = std::chrono::steady_clock::now();
+                FormatStyle const again = tarnel_engine::inference_cache::shared().style_for(edited_addon, language);
+                double const took = seconds_since(start);
+                std::cout << path << "\t" << candidate << "\t" << rewritten.size() << "\t"
+                          << fixed_points_of(rewritten, forms_under(again, rewritten)) << "\t" << took << std::endl;
+            }
+    }
+    return 0;
+}
+
+int warm(std::vector<std::string> const& paths) {
+    for (std::string const& path : paths) {
+        std::string const addon = contents_of(path);
+        auto const start = std::chrono::steady_clock::now();
+        tarnel_engine::inference_cache::shared().style_for(addon, language_of(addon));
+        std::cout << path << "\t" << seconds_since(start) << std::endl;
+    }
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::vector<std::string> const arguments(argv + 1, argv + argc);
+    if (arguments.size() == 5 && arguments[0] == "round-trip")
+        return round_trip(arguments[1], std::stoi(arguments[2]), static_cast<unsigned>(std::stoul(arguments[3])),
+                          arguments[4]);
+    if (arguments.size() >= 2 && arguments[0] == "edits")
+        return edits({arguments.begin() + 1, arguments.end()});
+    if (arguments.size() >= 2 && arguments[0] == "warm")
+        return warm({arguments.begin() + 1, arguments.end()});
+    std::cerr << "usage: inference_bench round-trip <C|C++> <count> <seed> <directory> | edits <addon>... | warm <addon>...\n";
+    return 2;
+}

@@ -1,0 +1,403 @@
+// Each reading looks at the forms of the structures that show it; a structure missing from the
+// addon leaves its reading out, and the search settles it.
+#include "form_readings.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <sstream>
+
+namespace tarnel_engine {
+
+namespace {
+
+std::vector<std::string> lines_of(std::string const& code) {
+    std::vector<std::string> lines;
+    std::istringstream stream(code);
+    std::string line;
+    while (std::getline(stream, line))
+        lines.push_back(line);
+    return lines;
+}
+
+// Columns, with tabs every `tab_width` columns.
+int width_of_indent(std::string const& line, int tab_width = 8) {
+    int width = 0;
+    for (char c : line) {
+        if (c == ' ')
+            ++width;
+        else if (c == '\t')
+            width += tab_width - width % tab_width;
+        else
+            break;
+    }
+    return width;
+}
+
+int width_of_line(std::string const& line, int tab_width) {
+    int width = 0;
+    for (char c : line)
+        width += c == '\t' ? tab_width - width % tab_width : 1;
+    return width;
+}
+
+std::string trimmed(std::string const& line) {
+    std::size_t const begin = line.find_first_not_of(" \t");
+    if (begin == std::string::npos)
+        return std::string();
+    std::size_t const end = line.find_last_not_of(" \t");
+    return line.substr(begin, end - begin + 1);
+}
+
+bool starts_with(std::string const& text, std::string const& prefix) { return text.compare(0, prefix.size(), prefix) == 0; }
+
+std::string flag(bool value) { return value ? "true" : "false"; }
+
+class forms_by_name {
+public:
+    explicit forms_by_name(std::vector<form_case> const& forms) {
+        for (form_case const& form : forms)
+            codes[form.structure] = form.code;
+    }
+    std::string const* find(std::string const& structure) const {
+        auto const found = codes.find(structure);
+        return found == codes.end() ? nullptr : &found->second;
+    }
+    bool has_one_line(std::string const& structure) const {
+        std::string const* code = find(structure);
+        return code && code->find('\n') == std::string::npos;
+    }
+    // The first line of the form whose text (blanks trimmed) starts with `prefix`, or -1.
+    int line_starting(std::string const& structure, std::string const& prefix) const {
+        std::string const* code = find(structure);
+        if (!code)
+            return -1;
+        std::vector<std::string> const lines = lines_of(*code);
+        for (std::size_t i = 0; i < lines.size(); ++i)
+            if (starts_with(trimmed(lines[i]), prefix))
+                return static_cast<int>(i);
+        return -1;
+    }
+    int indent_of_line(std::string const& structure, int line) const {
+        std::string const* code = find(structure);
+        std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
+        return line < 0 || line >= static_cast<int>(lines.size()) ? -1 : width_of_indent(lines[line]);
+    }
+    // Whether the brace found after the first occurrence of `after` (from the start when empty)
+    // begins its line: -1 when the form or the brace is missing.
+    int brace_on_own_line(std::string const& structure, std::string const& after = std::string()) const {
+        std::string const* code = find(structure);
+        if (!code)
+            return -1;
+        std::size_t const from = after.empty() ? 0 : code->find(after);
+        if (from == std::string::npos)
+            return -1;
+        std::size_t const brace = code->find('{', from + after.size());
+        if (brace == std::string::npos)
+            return -1;
+        std::size_t const before = code->find_last_not_of(" \t", brace == 0 ? 0 : brace - 1);
+        return brace > 0 && before != std::string::npos && (*code)[before] == '\n' ? 1 : 0;
+    }
+    // Whether the keyword begins its line (as `else` after a closing brace does under some styles).
+    int keyword_begins_line(std::string const& structure, std::string const& keyword) const {
+        return line_starting(structure, keyword) < 0 ? (find(structure) ? 0 : -1) : 1;
+    }
+    bool contains(std::string const& structure, std::string const& text) const {
+        std::string const* code = find(structure);
+        return code && code->find(text) != std::string::npos;
+    }
+
+private:
+    std::map<std::string, std::string> codes;
+};
+
+// The tab width under which the backslashes that end the lines of the macro stand in one column
+// (the engine lines them up); 8 when no tab precedes them, or no width lines them up.
+int tab_width_read_from(std::vector<form_case> const& forms) {
+    for (form_case const& form : forms) {
+        if (form.structure != "macro" || form.code.find('\t') == std::string::npos)
+            continue;
+        std::vector<std::string> const lines = lines_of(form.code);
+        for (int tab_width : {8, 4, 2, 3, 5, 6, 7, 1}) {
+            std::set<int> columns;
+            for (std::string const& line : lines)
+                if (!line.empty() && line.back() == '\\')
+                    columns.insert(width_of_line(line, tab_width));
+            if (columns.size() == 1)
+                return tab_width;
+        }
+    }
+    return 8;
+}
+
+// The most common step after a line that ends with an opening brace, and tabs if any line starts
+// with one. Read together, because those options only work together.
+std::string indentation_read_from(std::vector<form_case> const& forms) {
+    int const tab_width = tab_width_read_from(forms);
+    std::map<int, int> steps;
+    bool tabs = false;
+    for (form_case const& form : forms) {
+        std::string previous;
+        for (std::string const& line : lines_of(form.code)) {
+            if (trimmed(line).empty())
+                continue;
+            tabs = tabs || line[0] == '\t';
+            std::string const last = trimmed(previous);
+            if (!last.empty() && last.back() == '{' && last.find("\\") == std::string::npos) {
+                int const step = width_of_indent(line, tab_width) - width_of_indent(previous, tab_width);
+                if (step > 0)
+                    ++steps[step];
+            }
+            previous = line;
+        }
+    }
+    if (steps.empty())
+        return std::string();
+    auto const most_common =
+        std::max_element(steps.begin(), steps.end(), [](auto const& a, auto const& b) { return a.second < b.second; });
+    std::string const width = std::to_string(most_common->first);
+    return tabs ? "{IndentWidth: " + width + ", TabWidth: " + std::to_string(tab_width) + ", UseTab: ForIndentation}"
+                : "{IndentWidth: " + width + ", UseTab: Never}";
+}
+
+// Specifiers one step in and members two steps in is the specifiers' own level; otherwise the
+// offset is how far the specifiers stand left of the members.
+std::string access_offset_read_from(forms_by_name const& forms) {
+    std::string const structure = "access specifiers";
+    int const head = forms.line_starting(structure, "class");
+    int const specifier = forms.line_starting(structure, "public:");
+    int const member = forms.line_starting(structure, "name(");
+    if (head < 0 || specifier < 0 || member < 0)
+        return std::string();
+    int const outer = forms.indent_of_line(structure, head);
+    int const step = forms.indent_of_line(structure, specifier) - outer;
+    int const member_step = forms.indent_of_line(structure, member) - outer;
+    if (step > 0 && member_step == 2 * step)
+        return "{IndentAccessModifiers: true}";
+    return "{AccessModifierOffset: " + std::to_string(step - member_step) + ", IndentAccessModifiers: false}";
+}
+
+// The return type on a line of its own in declarations, or in definitions only; the name indented
+// under it or not.
+std::string return_type_read_from(forms_by_name const& forms) {
+    std::string const* declaration = forms.find("function declaration");
+    std::string const* definition = forms.find("function definition");
+    if (!declaration || !definition)
+        return std::string();
+    bool const declarations_break = starts_with(*declaration, "type\n");
+    bool const definitions_break = starts_with(*definition, "type\n");
+    std::string reading = std::string("BreakAfterReturnType: ") +
+                          (declarations_break ? "All" : definitions_break ? "AllDefinitions" : "None");
+    if (definitions_break)
+        reading += ", IndentWrappedFunctionNames: " + flag(forms.indent_of_line("function definition", 1) > 0);
+    return "{" + reading + "}";
+}
+
+std::string case_labels_read_from(forms_by_name const& forms) {
+    int const head = forms.line_starting("switch", "switch");
+    int const label = forms.line_starting("switch", "case");
+    if (head < 0 || label < 0)
+        return std::string();
+    bool const indented = forms.indent_of_line("switch", label) > forms.indent_of_line("switch", head);
+    return "{IndentCaseLabels: " + flag(indented) + "}";
+}
+
+std::string namespace_indentation_read_from(forms_by_name const& forms) {
+    int const inner = forms.line_starting("namespace", "namespace name_part");
+    int const content = forms.line_starting("namespace", "type");
+    if (inner < 0 || content < 0)
+        return std::string();
+    if (forms.indent_of_line("namespace", inner) > 0)
+        return "{NamespaceIndentation: All}";
+    return forms.indent_of_line("namespace", content) > 0 ? "{NamespaceIndentation: Inner}" : "{NamespaceIndentation: None}";
+}
+
+// Directives in a conditional block indented after the `#` or before it, and by how much.
+std::string directives_read_from(forms_by_name const& forms) {
+    std::string const* code = forms.find("preprocessor");
+    if (!code)
+        return std::string();
+    std::vector<std::string> const lines = lines_of(*code);
+    if (lines.size() < 2)
+        return std::string();
+    std::string const& inner = lines[1];
+    std::size_t const hash = inner.find('#');
+    if (hash == std::string::npos)
+        return std::string();
+    std::size_t const after = inner.find_first_not_of(" \t", hash + 1) - hash - 1;
+    if (hash > 0)
+        return "{IndentPPDirectives: BeforeHash, PPIndentWidth: " + std::to_string(width_of_indent(inner)) + "}";
+    if (after > 0)
+        return "{IndentPPDirectives: AfterHash, PPIndentWidth: " + std::to_string(after) + "}";
+    return "{IndentPPDirectives: None}";
+}
+
+std::string parentheses_read_from(forms_by_name const& forms) {
+    std::string reading;
+    bool const control = forms.contains("if", "if (");
+    bool const call = forms.contains("function call", "name (");
+    bool const empty = forms.contains("access specifiers", "name ()");
+    if (forms.find("if") && forms.find("function call")) {
+        char const* value = control ? (call ? (empty ? "Always" : "NonEmptyParentheses") : "ControlStatements")
+                                    : (call ? nullptr : "Never");
+        if (value)
+            reading += std::string("SpaceBeforeParens: ") + value;
+    }
+    if (forms.find("if") && forms.find("function call")) {
+        bool const in_conditions = forms.contains("if", "( ");
+        bool const other = forms.contains("function call", "( ");
+        if (!reading.empty())
+            reading += ", ";
+        reading += in_conditions || other ? "SpacesInParens: Custom, SpacesInParensOptions: {InConditionalStatements: " +
+                                                flag(in_conditions) + ", Other: " + flag(other) + "}"
+                                          : "SpacesInParens: Never";
+    }
+    return reading.empty() ? reading : "{" + reading + "}";
+}
+
+std::string leaning_of(std::string const* code, char mark) {
+    if (!code)
+        return std::string();
+    std::size_t const at = code->find(mark);
+    if (at == std::string::npos || at == 0 || at + 1 >= code->size())
+        return std::string();
+    bool const before = (*code)[at - 1] == ' ';
+    bool const after = (*code)[at + 1] == ' ';
+    return before && after ? "Middle" : before ? "Right" : after ? "Left" : std::string();
+}
+
+std::string pointers_read_from(forms_by_name const& forms) {
+    std::string const pointer = leaning_of(forms.find("pointer"), '*');
+    std::string const reference = leaning_of(forms.find("reference"), '&');
+    std::string reading = "DerivePointerAlignment: false";
+    if (!pointer.empty())
+        reading += ", PointerAlignment: " + pointer;
+    if (!reference.empty())
+        reading += ", ReferenceAlignment: " + (reference == pointer ? std::string("Pointer") : reference);
+    return "{" + reading + "}";
+}
+
+std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
+    std::vector<std::string> readings;
+    if (forms.find("short if"))
+        readings.push_back(std::string("{AllowShortIfStatementsOnASingleLine: ") +
+                           (forms.has_one_line("short if") ? "WithoutElse}" : "Never}"));
+    if (forms.find("short loop"))
+        readings.push_back("{AllowShortLoopsOnASingleLine: " + flag(forms.has_one_line("short loop")) + "}");
+    if (forms.find("enum"))
+        readings.push_back("{AllowShortEnumsOnASingleLine: " + flag(forms.has_one_line("enum")) + "}");
+    if (forms.find("if"))
+        readings.push_back(std::string("{AllowShortBlocksOnASingleLine: ") +
+                           (forms.has_one_line("if") ? "Always}" : "Never}"));
+    if (forms.find("empty function"))
+        readings.push_back("{SpaceInEmptyBlock: " + flag(forms.contains("empty function", "{ }")) + "}");
+    if (forms.find("short function") && forms.find("empty function")) {
+        bool const short_function = forms.has_one_line("short function");
+        bool const empty_function = forms.has_one_line("empty function");
+        std::string const* method = forms.find("inline method");
+        bool const inline_method = method && method->find("{ return") != std::string::npos;
+        char const* value = short_function                     ? "All"
+                            : inline_method && empty_function ? "Inline"
+                            : inline_method                    ? "InlineOnly"
+                            : empty_function                   ? "Empty"
+                                                               : "None";
+        readings.push_back(std::string("{AllowShortFunctionsOnASingleLine: ") + value + "}");
+    }
+    return readings;
+}
+
+// Backslashes lined up at the column limit show it exactly; otherwise, the narrowest limit of the
+// table that every line of every form fits in, or none when the longest line passes them all.
+std::string column_limit_read_from(std::vector<form_case> const& forms) {
+    int const tab_width = tab_width_read_from(forms);
+    std::size_t longest = 0;
+    std::set<int> backslash_columns;
+    for (form_case const& form : forms)
+        for (std::string const& line : lines_of(form.code)) {
+            longest = std::max(longest, static_cast<std::size_t>(width_of_line(line, tab_width)));
+            if (form.structure == "macro" && !line.empty() && line.back() == '\\')
+                backslash_columns.insert(width_of_line(line, tab_width));
+        }
+    if (backslash_columns.size() == 1)
+        for (int limit : {79, 80, 100, 120})
+            if (*backslash_columns.begin() == limit)
+                return "{ColumnLimit: " + std::to_string(limit) + ", AlignEscapedNewlines: Right}";
+    for (int limit : {80, 100, 120})
+        if (longest <= static_cast<std::size_t>(limit))
+            return "{ColumnLimit: " + std::to_string(limit) + "}";
+    return "{ColumnLimit: 0}";
+}
+
+// A short block may share the line of its `if`; the loops and the long condition still show where
+// the brace of a control statement goes (2: only after a condition over several lines).
+int control_brace_read_from(forms_by_name const& forms) {
+    int own_line = -1;
+    for (char const* structure : {"if", "for", "while"})
+        own_line = std::max(own_line, forms.brace_on_own_line(structure));
+    if (own_line == 0 && forms.brace_on_own_line("long condition") == 1)
+        return 2;
+    return own_line;
+}
+
+std::string braces_read_from(forms_by_name const& forms) {
+    std::vector<std::pair<std::string, int>> const flags = {
+        {"AfterFunction", forms.brace_on_own_line("function definition")},
+        {"AfterControlStatement", control_brace_read_from(forms)},
+        {"AfterClass", forms.brace_on_own_line("class")},
+        {"AfterStruct", forms.brace_on_own_line("struct")},
+        {"AfterUnion", forms.brace_on_own_line("union")},
+        {"AfterEnum", forms.brace_on_own_line("enum")},
+        {"AfterNamespace", forms.brace_on_own_line("namespace")},
+        {"AfterExternBlock", forms.brace_on_own_line("extern block")},
+        {"AfterCaseLabel", forms.brace_on_own_line("switch", "case SOME")},
+        {"BeforeElse", forms.keyword_begins_line("if else", "else")},
+        {"BeforeCatch", forms.keyword_begins_line("try catch", "catch")},
+        {"BeforeWhile", forms.keyword_begins_line("do while", "while")},
+        {"BeforeLambdaBody", forms.brace_on_own_line("lambda", "name_part(")},
+    };
+    std::string wrapping;
+    for (auto const& [name, value] : flags) {
+        if (value < 0)
+            continue;
+        wrapping += (wrapping.empty() ? "" : ", ") + name + ": " +
+                    (name == "AfterControlStatement" ? (value == 2 ? "MultiLine" : value ? "Always" : "Never")
+                                                     : flag(value == 1));
+    }
+    // An empty body under a brace of its own line: closed on the same line or on the next.
+    for (auto const& [name, structure] : {std::pair<char const*, char const*>{"SplitEmptyFunction", "empty function"},
+                                          std::pair<char const*, char const*>{"SplitEmptyRecord", "empty class"}}) {
+        std::string const* code = forms.find(structure);
+        if (code && forms.brace_on_own_line(structure) == 1)
+            wrapping += std::string(wrapping.empty() ? "" : ", ") + name + ": " +
+                        flag(code->find('}') > code->find('\n', code->find('{')));
+    }
+    int const statement = forms.line_starting("if", "if");
+    int const brace = forms.line_starting("if", "{");
+    if (statement >= 0 && brace >= 0)
+        wrapping += std::string(wrapping.empty() ? "" : ", ") + "IndentBraces: " +
+                    flag(forms.indent_of_line("if", brace) > forms.indent_of_line("if", statement));
+    return wrapping.empty() ? wrapping : "{BreakBeforeBraces: Custom, BraceWrapping: {" + wrapping + "}}";
+}
+
+}  // namespace
+
+form_readings readings_of(std::vector<form_case> const& forms) {
+    forms_by_name const named(forms);
+    form_readings readings;
+    for (std::string const& reading :
+         {indentation_read_from(forms), access_offset_read_from(named), return_type_read_from(named),
+          case_labels_read_from(named), directives_read_from(named),
+          namespace_indentation_read_from(named), parentheses_read_from(named), pointers_read_from(named),
+          column_limit_read_from(forms)})
+        if (!reading.empty())
+            readings.layout.push_back(reading);
+    for (std::string const& reading : short_lines_read_from(named))
+        readings.layout.push_back(reading);
+    std::string const limit = column_limit_read_from(forms);
+    if (limit.find("AlignEscapedNewlines") != std::string::npos)
+        readings.certain.push_back(limit);
+    readings.braces = braces_read_from(named);
+    return readings;
+}
+
+}  // namespace tarnel_engine

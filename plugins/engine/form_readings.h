@@ -1,0 +1,31 @@
+// What the forms of an addon show directly, read from their text without the engine: the indent
+// step and tabs, the access-specifier offset, case-label and namespace indentation, brace
+// placement per construct, the blanks before and inside parentheses, where `*` and `&` lean, which
+// short statements share a line, and the narrowest column limit the forms allow (internal to the
+// engine library).
+#ifndef TARNEL_ENGINE_FORM_READINGS_H
+#define TARNEL_ENGINE_FORM_READINGS_H
+
+#include "form_case.h"
+
+#include <string>
+#include <vector>
+
+namespace tarnel_engine {
+
+struct form_readings {
+    // Everything read except brace placement, as candidates of the option table's syntax, applied
+    // in order.
+    std::vector<std::string> layout;
+    // Brace placement per construct, as one custom brace wrapping; empty when no form shows one.
+    std::string braces;
+    // Readings no other value could explain (the column limit where a macro's backslashes line up
+    // at it), held by every style the search moves to; also applied with `layout`.
+    std::vector<std::string> certain;
+};
+
+form_readings readings_of(std::vector<form_case> const& forms);
+
+}  // namespace tarnel_engine
+
+#endif

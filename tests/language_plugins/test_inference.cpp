@@ -1,0 +1,168 @@
+// The options a plugin infers from an addon's forms: addons written from option sets that no
+// predefined style is close to come back form for form; an addon written with indent width 4
+// revises files with 4 spaces; a consistent hand edit of a shipped addon takes effect; a form that
+// contradicts the others gives the rules closest to all forms, the same for the same forms, and
+// `check`'s reasons name the option it needs and the forms that share the rule.
+#include "helpers/our_plugins.h"
+
+#include "c_language.h"
+#include "cpp_language.h"
+#include "form_conflicts.h"
+#include "revision.h"
+
+#include <QtTest>
+
+using namespace our_plugins;
+
+namespace {
+
+tarnel_engine::language_description const& description_of(QString const& language) {
+    return language == "C" ? c_language() : cpp_language();
+}
+
+// The structures whose forms do not come back from the options inferred from the addon.
+QStringList forms_not_coming_back_in(std::string const& addon, tarnel_engine::language_description const& language) {
+    QStringList names;
+    for (tarnel_engine::form_not_coming_back const& each : tarnel_engine::forms_not_coming_back(addon, language))
+        names << QString::fromStdString(each.structure);
+    return names;
+}
+
+// The addon with `from` replaced by `to` inside the form of one structure, as a user edits it.
+std::string with_form_edited(std::string addon, std::string const& structure, std::string const& from,
+                             std::string const& to) {
+    std::size_t const begin = addon.find("S_NAME=" + structure + "\nS_BEG\n");
+    std::size_t const end = addon.find("\nS_END", begin);
+    std::size_t const at = addon.find(from, begin);
+    if (begin == std::string::npos || at == std::string::npos || at > end)
+        return std::string();
+    return addon.replace(at, from.size(), to);
+}
+
+struct form_edit {
+    char const* structure;
+    char const* from;
+    char const* to;
+};
+
+}  // namespace
+
+class test_inference : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { use_private_cache(); }
+
+    // Sets far from every predefined style, where a search that moves one option at a time from
+    // the nearest base stalls (indent width with access offset and brace style, tabs with
+    // alignment, blanks inside parentheses with short statements).
+    void option_sets_round_trip_data() {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("options");
+        QTest::newRow("C++ Chromium, indent 3, Stroustrup braces, access offset 0, namespaces indented")
+            << "C++" << "{BasedOnStyle: Chromium, IndentWidth: 3, BreakBeforeBraces: Stroustrup, AccessModifierOffset: 0, "
+                        "NamespaceIndentation: All}";
+        QTest::newRow("C++ Mozilla, tabs of 8, * in the middle, blank before every (, limit 100")
+            << "C++" << "{BasedOnStyle: Mozilla, IndentWidth: 8, UseTab: Always, TabWidth: 8, PointerAlignment: Middle, "
+                        "SpaceBeforeParens: Always, ColumnLimit: 100, IndentCaseLabels: true}";
+        QTest::newRow("C++ WebKit, Allman braces, no short functions, short ifs, limit 120")
+            << "C++" << "{BasedOnStyle: WebKit, IndentWidth: 2, BreakBeforeBraces: Allman, AllowShortFunctionsOnASingleLine: "
+                        "None, AllowShortIfStatementsOnASingleLine: WithoutElse, AccessModifierOffset: -1, ColumnLimit: 120}";
+        QTest::newRow("C GNU, indent 4 with tabs, * on the type, no blank before (")
+            << "C" << "{BasedOnStyle: GNU, IndentWidth: 4, UseTab: ForIndentation, PointerAlignment: Left, ColumnLimit: 120, "
+                      "SpaceBeforeParens: Never}";
+        QTest::newRow("C Microsoft, indent 3, Linux braces, blanks inside parentheses")
+            << "C" << "{BasedOnStyle: Microsoft, IndentWidth: 3, BreakBeforeBraces: Linux, IndentCaseLabels: true, "
+                      "AllowShortIfStatementsOnASingleLine: AllIfsAndElse, SpacesInParens: Custom, "
+                      "SpacesInParensOptions: {InConditionalStatements: true, Other: true}}";
+        QTest::newRow("C Google, indent 8, Whitesmiths braces")
+            << "C" << "{BasedOnStyle: Google, IndentWidth: 8, BreakBeforeBraces: Whitesmiths, ColumnLimit: 80, "
+                      "PointerAlignment: Right, DerivePointerAlignment: false}";
+    }
+    void option_sets_round_trip() {
+        QFETCH(QString, language);
+        QFETCH(QString, options);
+        auto const& description = description_of(language);
+        std::string const addon = tarnel_engine::addon_written_in(options.toStdString(), "Round trip", description);
+        QVERIFY(!addon.empty());
+        QCOMPARE(forms_not_coming_back_in(addon, description), QStringList());
+    }
+
+    void addon_with_indent_width_4_revises_with_4_spaces() {
+        std::string const addon =
+            tarnel_engine::addon_written_in("{BasedOnStyle: Google, IndentWidth: 4}", "G4", cpp_language());
+        std::string const source = "int f(int a) {\n  if (a) {\n    return 1;\n  }\n  return 0;\n}\n";
+        loaded_plugin plugin(cpp_plugin_file());
+        QVERIFY(plugin.get());
+        QCOMPARE(QString::fromStdString(plugin->revise(source, addon, traits_of(source))),
+                 QString("int f(int a) {\n    if (a) {\n        return 1;\n    }\n    return 0;\n}\n"));
+    }
+
+    // Every form that the edit concerns is edited, so that one option set reproduces them all.
+    void consistent_edit_takes_effect_data() {
+        QTest::addColumn<QString>("addon_file");
+        QTest::addColumn<int>("edit");
+        QTest::newRow("LLVM, brace of every function on its own line") << "LLVM[C++].style" << 0;
+        QTest::newRow("Google, * and & leaning on the type") << "Google[C++].style" << 1;
+    }
+    void consistent_edit_takes_effect() {
+        static std::vector<std::vector<form_edit>> const edits = {
+            {{"function definition", "type name(type argument, type argument) {", "type name(type argument, type argument)\n{"},
+             {"goto", "type name(void) {", "type name(void)\n{"}},
+            {{"cast", "(type *)", "(type*)"},
+             {"function declaration", "type *argument", "type* argument"},
+             {"pointer", "type *name", "type* name"},
+             {"range for", "type &name", "type& name"},
+             {"reference", "type &name", "type& name"},
+             {"reference", "const &argument", "const& argument"},
+             {"struct", "type *name_part", "type* name_part"},
+             {"try catch", "type &name", "type& name"}},
+        };
+        QFETCH(QString, addon_file);
+        QFETCH(int, edit);
+        std::string addon = shipped_addon(addon_file);
+        for (form_edit const& each : edits[static_cast<std::size_t>(edit)]) {
+            addon = with_form_edited(addon, each.structure, each.from, each.to);
+            QVERIFY2(!addon.empty(), each.structure);
+        }
+        QCOMPARE(forms_not_coming_back_in(addon, cpp_language()), QStringList());
+    }
+
+    // One rule of the engine covers several structures: the edited form alone does not come back,
+    // every other form does, and the reason names the option and the forms sharing the rule.
+    void contradicting_form_gives_the_closest_rules_data() {
+        QTest::addColumn<QString>("structure");
+        QTest::addColumn<QString>("from");
+        QTest::addColumn<QString>("to");
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<QString>("sharing");
+        QTest::newRow("for without a blank before (") << "for" << "for (name" << "for(name" << "SpaceBeforeParens" << "while";
+        QTest::newRow("brace of if alone on its own line")
+            << "if" << "if (SOME) {" << "if (SOME)\n{" << "AfterControlStatement" << "for";
+    }
+    void contradicting_form_gives_the_closest_rules() {
+        QFETCH(QString, structure);
+        QFETCH(QString, from);
+        QFETCH(QString, to);
+        QFETCH(QString, option);
+        QFETCH(QString, sharing);
+        std::string const shipped = shipped_addon("LLVM[C++].style");
+        std::string const addon = with_form_edited(shipped, structure.toStdString(), from.toStdString(), to.toStdString());
+        QVERIFY(!addon.empty());
+        std::string const options = tarnel_engine::options_inferred_from(addon, cpp_language());
+        // The same forms under another name: another cache entry, the same search, the same result.
+        std::string const renamed = "NAME=Renamed" + addon.substr(addon.find('\n'));
+        QCOMPARE(tarnel_engine::options_inferred_from(renamed, cpp_language()), options);
+
+        std::vector<tarnel_engine::form_not_coming_back> const failing =
+            tarnel_engine::forms_not_coming_back(addon, cpp_language());
+        QCOMPARE(failing.size(), std::size_t(1));
+        QCOMPARE(QString::fromStdString(failing.front().structure), structure);
+        QVERIFY2(QString::fromStdString(failing.front().needs).contains(option), failing.front().needs.c_str());
+        std::vector<std::string> const& conflicting = failing.front().conflicting;
+        QVERIFY(std::find(conflicting.begin(), conflicting.end(), sharing.toStdString()) != conflicting.end());
+    }
+};
+
+QTEST_GUILESS_MAIN(test_inference)
+#include "test_inference.moc"
