@@ -3,6 +3,7 @@
 #include "inference_cache.h"
 
 #include "addon_forms.h"
+#include "match_in_full.h"
 #include "option_inference.h"
 #include "placeholder_instances.h"
 #include "token_safe_settings.h"
@@ -14,7 +15,6 @@
 #include <QFile>
 #include <QSaveFile>
 
-#include <boost/xpressive/xpressive.hpp>
 
 namespace tarnel_engine {
 
@@ -80,15 +80,6 @@ void write_to_disk(std::string const& key, clang::format::FormatStyle const& sty
     file.commit();
 }
 
-bool matches_in_full(std::string const& form, std::string const& expression) {
-    namespace xp = boost::xpressive;
-    try {
-        return xp::regex_match(form, xp::sregex::compile(expression));
-    } catch (...) {
-        return false;
-    }
-}
-
 }  // namespace
 
 std::vector<form_case> form_cases_in(std::string const& addon, language_description const& language) {
@@ -96,7 +87,7 @@ std::vector<form_case> form_cases_in(std::string const& addon, language_descript
     std::vector<form_case> cases;
     for (structure const& each : language.structures) {
         std::string const form = form_of_structure(each.name).in(addon);
-        if (form.empty() || !matches_in_full(form, expressions.at(each.name)))
+        if (form.empty() || !style_tarnel::match_in_full(expressions.at(each.name)).of(form))
             continue;
         cases.push_back({each.name, with_instances(form_as_code(form)), each.decides});
     }
