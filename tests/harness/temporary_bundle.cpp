@@ -1,3 +1,4 @@
+// The one fixture of the tests: temporary bundles, runs of the copied executable, test languages.
 #include "tests/harness/temporary_bundle.h"
 
 #include "tests/harness/built_files.h"
@@ -6,8 +7,11 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QElapsedTimer>
 #include <QProcess>
+#include <QThread>
 
+#include <csignal>
 #include <unistd.h>
 
 temporary_bundle::temporary_bundle(QString const& executable_to_copy)
@@ -55,6 +59,29 @@ QString temporary_bundle::write_file(QString const& relative_path, QByteArray co
 QByteArray temporary_bundle::contents_of(QString const& path) {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+QStringList temporary_bundle::installed_addons() const { return QDir(addons_directory()).entryList(QDir::Files); }
+QStringList temporary_bundle::installed_plugins() const { return QDir(plugins_directory()).entryList(QDir::Files); }
+
+run_options as_nobody() {
+    run_options options;
+    options.unprivileged = true;
+    return options;
+}
+
+QByteArray addon_text(QByteArray const& style, QByteArray const& language, QByteArray const& block_form) {
+    return "NAME=" + style + "\nLANGUAGE=" + language + "\n\nS_NAME=block\nS_BEG\n" + block_form + "\nS_END\n";
+}
+
+void install_test_languages(QString const& plugins_directory, QString const& addons_directory) {
+    QFile::copy(built::test_language_plugin(), plugins_directory + "/libtest-language-plugin.so");
+    QFile::copy(built::other_language_plugin(), plugins_directory + "/libother-language-plugin.so");
+    for (auto const& [style, language] : {std::pair{"Plain", "Test"}, {"Wide", "Test"}, {"Plain", "Other"}}) {
+        QFile file(addons_directory + "/" + addon_file(style, language));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(addon_text(style, language));
+    }
 }
 
 QProcessEnvironment temporary_bundle::environment() const {
@@ -134,4 +161,50 @@ run_result result_of_finished(QProcess& process, int timeout_ms) {
     result.crashed = process.exitStatus() != QProcess::NormalExit;
     result.status = result.crashed ? -1 : process.exitCode();
     return result;
+}
+
+running_program::running_program(temporary_bundle const& bundle, QStringList const& arguments, int delay_ms,
+                                 run_options options)
+    : log(bundle.home() + "/plugin.log") {
+    QFile::remove(log);
+    options.extra_environment.insert("TEST_PLUGIN_LOG", log);
+    options.extra_environment.insert("TEST_PLUGIN_DELAY_MS", QString::number(delay_ms));
+    bundle.start(process, arguments, options);
+    process.waitForStarted();
+    process.closeWriteChannel();
+}
+
+running_program::~running_program() {
+    if (process.state() != QProcess::NotRunning) {
+        process.kill();
+        process.waitForFinished();
+    }
+}
+
+int running_program::files_asked_about() const { return temporary_bundle::contents_of(log).count(" revise "); }
+
+bool running_program::wait_until_plugin_was_asked_about(int files, int timeout_ms) const {
+    QElapsedTimer timer;
+    timer.start();
+    while (files_asked_about() < files) {
+        if (timer.elapsed() > timeout_ms || process.state() == QProcess::NotRunning)
+            return false;
+        QThread::msleep(5);
+    }
+    return true;
+}
+
+void running_program::send(int signal_number) const { ::kill(static_cast<pid_t>(process.processId()), signal_number); }
+
+run_result running_program::finish(int timeout_ms) { return result_of_finished(process, timeout_ms); }
+
+QStringList temporary_files_below(QString const& directory) {
+    QStringList found;
+    QDirIterator it(directory, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        QString const path = it.next();
+        if (it.fileName().contains(".tarnel-"))
+            found << path;
+    }
+    return found;
 }

@@ -1,12 +1,9 @@
 // What a revision keeps and refuses: the file's encoding (UTF-16 and UTF-32 either byte order,
 // byte-order mark included) and line ending (LF, CR LF, CR), the syntax-error text for code whose
-// brackets do not pair up or that the engine cannot format, and the inference cache on disk.
+// brackets do not pair up or that the engine cannot format, and binary text left alone.
 #include "helpers/our_plugins.h"
 
-#include "tests/harness/built_files.h"
 
-#include <QDir>
-#include <QProcess>
 #include <QtTest>
 
 using namespace our_plugins;
@@ -154,33 +151,6 @@ private slots:
         QCOMPARE(QByteArray::fromStdString(result).toHex(' '), QByteArray::fromStdString(source).toHex(' '));
     }
 
-    // The options inferred from an addon are written under $XDG_CACHE_HOME/style-tarnel, and
-    // another process with a cold cache of its own (the developer tool) infers the same options.
-    void inference_is_cached_on_disk_and_deterministic() {
-        std::string const addon = shipped_addon("Stroustrup[C++].style");
-        loaded_plugin plugin(cpp_plugin_file());
-        std::string const source = "int x;\n";
-        plugin->revise(source, addon, traits_of(source));
-        QStringList const entries = QDir(cache_directory()).entryList({"*.clang-format"}, QDir::Files);
-        QVERIFY(!entries.isEmpty());
-
-        QTemporaryDir other_cache;
-        QProcess tool;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert("XDG_CACHE_HOME", other_cache.path());
-        tool.setProcessEnvironment(environment);
-        tool.start(built::build_dir() + "/bin/style-tarnel-plugin-tool",
-                   {"options", built::source_dir() + "/plugins/styles/Stroustrup[C++].style"});
-        QVERIFY(tool.waitForFinished(120000));
-        QByteArray const options = tool.readAllStandardOutput();
-        QVERIFY(options.contains("BreakBeforeBraces: Stroustrup") || options.contains("AfterFunction:   true"));
-        QVERIFY(options.contains("IndentWidth:     4"));
-        bool found = false;
-        for (QString const& entry : entries)
-            found = found || QByteArray::fromStdString(contents_of(cache_directory() + "/" + entry)) == options;
-        QVERIFY(found);
-        QVERIFY(!QDir(other_cache.path() + "/style-tarnel").entryList({"*.clang-format"}, QDir::Files).isEmpty());
-    }
 };
 
 QTEST_GUILESS_MAIN(test_encodings_and_errors)
