@@ -73,9 +73,7 @@ private:
     QTemporaryDir sources;
     QString source(QString const& name, QByteArray const& content) const {
         QFile file(sources.filePath(name));
-        if (file.open(QIODevice::WriteOnly))
-            file.write(content);
-        return sources.filePath(name);
+        return file.open(QIODevice::WriteOnly) && file.write(content) >= 0 ? sources.filePath(name) : QString();
     }
 };
 

@@ -94,24 +94,9 @@ QProcessEnvironment temporary_bundle::environment() const {
 }
 
 void temporary_bundle::share_with_unprivileged_user() const {
-    QFile::setPermissions(root(), QFile::permissions(root()) | QFile::ReadOther | QFile::ExeOther);
-    QDirIterator it(root(), QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        QString const path = it.next();
-        QFileInfo const info(path);
-        if (info.isSymLink())
-            continue;
-        auto permissions = info.permissions() | QFile::ReadOther;
-        if (info.isDir() || info.isExecutable())
-            permissions |= QFile::ExeOther;
-        // Settings and cache are the program's own: it must be able to write there.
-        if (path.startsWith(config_home()) || path.startsWith(cache_home()) || path.startsWith(home()))
-            permissions |= QFile::WriteOther;
-        QFile::setPermissions(path, permissions);
-    }
-    for (auto const& own : {config_home(), cache_home(), home()})
-        QFile::setPermissions(own, QFile::permissions(own) | QFile::WriteOther | QFile::ExeOther);
+    // Settings, cache and home are the program's own: it must be able to write there.
+    QProcess::execute("chmod", {"-R", "o+rX", root()});
+    QProcess::execute("chmod", {"-R", "o+w", config_home(), cache_home(), home()});
 }
 
 void temporary_bundle::start(QProcess& process, QStringList const& arguments,
@@ -148,6 +133,35 @@ run_result temporary_bundle::run(QStringList const& arguments, run_options const
         process.write(options.input);
     process.closeWriteChannel();
     return result_of_finished(process, options.timeout_ms);
+}
+
+QList<QMap<QString, QString>> cases_in(QString const& table_file) {
+    QList<QMap<QString, QString>> cases;
+    for (QString const& block : QString::fromUtf8(temporary_bundle::contents_of(table_file)).split("\n\n")) {
+        QMap<QString, QString> fields;
+        for (QString const& line : block.split('\n'))
+            if (!line.startsWith('#') && line.contains(": "))
+                fields[line.section(": ", 0, 0)] = line.section(": ", 1);
+        if (!fields.isEmpty())
+            cases << fields;
+    }
+    if (cases.isEmpty())
+        qFatal("no cases in the table file '%s'", qPrintable(table_file));
+    return cases;
+}
+
+QByteArray unescaped(QString const& value) {
+    QByteArray const escaped = value.toUtf8();
+    QByteArray bytes;
+    for (int i = 0; i < escaped.size(); ++i) {
+        if (escaped[i] != '\\' || i + 1 == escaped.size()) {
+            bytes += escaped[i];
+            continue;
+        }
+        char const next = escaped[++i];
+        bytes += next == 'n' ? '\n' : next == 'r' ? '\r' : next == '0' ? '\0' : next;
+    }
+    return bytes;
 }
 
 run_result result_of_finished(QProcess& process, int timeout_ms) {

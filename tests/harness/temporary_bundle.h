@@ -6,6 +6,8 @@
 #define STYLE_TARNEL_TESTS_TEMPORARY_BUNDLE_H
 
 #include <QByteArray>
+#include <QList>
+#include <QMap>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
@@ -20,15 +22,12 @@ struct run_result {
 };
 
 struct run_options {
-    // Run as an unprivileged user (nobody), so that permissions stop the program as they stop a
-    // user; tests run as root on CI.
-    bool unprivileged = false;
+    bool unprivileged = false;  // as nobody, so that permissions stop the program (CI runs as root)
     QByteArray input;
     QString working_directory;
     QProcessEnvironment extra_environment;
     int timeout_ms = 120000;
-    // Shell prefix such as "ulimit -f 1;", run through /bin/sh before the executable.
-    QString shell_prefix;
+    QString shell_prefix;  // such as "ulimit -f 1;", run by /bin/sh before the executable
 };
 
 run_options as_nobody();
@@ -46,8 +45,7 @@ public:
     QString config_home() const;
     QString cache_home() const;
     QString home() const;
-    // A directory for the sources a test revises, imports or exports.
-    QString work_directory() const;
+    QString work_directory() const;  // the sources a test revises, imports or exports
 
     // Copies a built plugin into the plugins directory, under its own name or `as`.
     bool add_plugin(QString const& built_plugin, QString const& as = QString()) const;
@@ -60,12 +58,10 @@ public:
 
     QProcessEnvironment environment() const;
     run_result run(QStringList const& arguments, run_options const& options = run_options()) const;
-    // Starts the executable as run() does (all options but input and timeout_ms) and returns at
-    // once; the process's pid is the program's own.
+    // Starts the executable as run() does (but for input and timeout_ms) and returns at once.
     void start(QProcess& process, QStringList const& arguments, run_options const& options) const;
 
-    // Opens everything below the bundle to the unprivileged user (directories and files keep
-    // whatever write bits a test then takes away).
+    // Opens everything below the bundle to the unprivileged user for reading.
     void share_with_unprivileged_user() const;
 
 private:
@@ -87,8 +83,12 @@ struct installed_bundle : temporary_bundle {
     installed_bundle() { install_test_languages(plugins_directory(), addons_directory()); }
 };
 
-// Waits for a started process (killing it after `timeout_ms`) and collects what it wrote and how
-// it ended.
+// The cases of a table file beside a test: blocks separated by a blank line, one "key: value" a
+// line, "#" lines for comments; and a value with its \n, \r, \0 and \\ turned into those bytes.
+QList<QMap<QString, QString>> cases_in(QString const& table_file);
+QByteArray unescaped(QString const& value);
+
+// Waits for a started process (killing it after `timeout_ms`) and collects its outcome.
 run_result result_of_finished(QProcess& process, int timeout_ms);
 
 // A run of the executable that a test acts on midway: the test plugin logs every file it is asked

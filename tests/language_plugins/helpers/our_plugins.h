@@ -1,5 +1,6 @@
 // What the tests of our language plugins share: the built plugins loaded as the host loads them,
-// the shipped addons and sample files, the host's own line-ending detection, and a private cache.
+// the shipped addons and golden files, verify_revise, the host's own line-ending detection, and a
+// private cache.
 #ifndef STYLE_TARNEL_TESTS_LANGUAGE_PLUGINS_OUR_PLUGINS_H
 #define STYLE_TARNEL_TESTS_LANGUAGE_PLUGINS_OUR_PLUGINS_H
 
@@ -36,7 +37,7 @@ private:
     interface_to_language_plugin* plugin = nullptr;
 };
 
-// The shipped addons (file names in plugins/styles), all or those of one language.
+// The shipped addons (file names in plugins/styles).
 QStringList shipped_addons();
 std::string shipped_addon(QString const& file_name);
 std::string language_of_addon(std::string const& addon);
