@@ -1,7 +1,7 @@
-// The one fixture of the tests: a bundle of our own with the executable copied into <tmp>/bin,
-// chosen plugins in <tmp>/PlugIns/languages and addons in <tmp>/PlugIns/styles, and its own
-// settings, cache and home directories, so that no test touches the user's settings or the real
-// bundle. installed_bundle adds the test languages; running_program acts on a run midway.
+// The one fixture of the tests: a bundle of our own (the executable copied into <tmp>/bin, chosen
+// plugins and addons in <tmp>/PlugIns, its own settings, cache and home), so that no test touches
+// the user's settings or the real bundle; installed_bundle adds the test languages, running_program
+// acts on a run midway, and cases_in reads the tables of cases beside the tests.
 #ifndef STYLE_TARNEL_TESTS_TEMPORARY_BUNDLE_H
 #define STYLE_TARNEL_TESTS_TEMPORARY_BUNDLE_H
 
