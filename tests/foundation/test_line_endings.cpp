@@ -1,97 +1,28 @@
-// Line-ending and space detection in every encoding the host hands to plugins.
+// Line-ending and space detection in every encoding the host hands to plugins; the cases are in
+// line_endings.txt.
 #include "engine/traits_of.h"
+#include "tests/harness/temporary_bundle.h"
 
 #include <QtTest>
-
-namespace {
-
-std::string bytes(std::initializer_list<int> list) {
-    std::string text;
-    for (int byte : list)
-        text += static_cast<char>(byte);
-    return text;
-}
-
-QByteArray shown(std::string const& text) { return QByteArray::fromStdString(text).toHex(' '); }
-
-}  // namespace
 
 class test_line_endings : public QObject {
     Q_OBJECT
 private slots:
-    void detects_the_first_line_break_data();
-    void detects_the_first_line_break();
-    void candidate_lists_are_tried_in_their_order();
+    void detects_the_first_line_break_data() {
+        QTest::addColumn<QByteArray>("text");
+        QTest::addColumn<QByteArray>("EOL");
+        QTest::addColumn<QByteArray>("space");
+        for (auto const& row : cases_in(QFINDTESTDATA("line_endings.txt")))
+            QTest::newRow(qPrintable(row["case"])) << QByteArray::fromHex(row["text"].toLatin1())
+                                                   << row["EOL"].toLatin1() << row["space"].toLatin1();
+    }
+    void detects_the_first_line_break() {
+        QFETCH(QByteArray, text);
+        line_ending_traits const traits = detail::traits_of()(text.toStdString());
+        QTEST(QByteArray::fromStdString(traits.EOL).toHex(' '), "EOL");
+        QTEST(QByteArray::fromStdString(traits.space).toHex(' '), "space");
+    }
 };
-
-void test_line_endings::detects_the_first_line_break_data() {
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QByteArray>("EOL");
-    QTest::addColumn<QByteArray>("space");
-    auto row = [](char const* name, std::string text, std::string EOL, std::string space) {
-        QTest::newRow(name) << QByteArray::fromStdString(text) << shown(EOL) << shown(space);
-    };
-    row("empty text", "", "", "");
-    row("no line break", "int a;", "", "");
-    row("LF", "a\nb", "\n", " ");
-    row("CR LF", bytes({0x61, 0x0D, 0x0A, 0x62}), "\r\n", " ");
-    row("CR alone", bytes({0x61, 0x0D, 0x62, 0x0D, 0x63}), "\r", " ");
-    row("only the first line break counts", "first line\nsecond line\r\n", "\n", " ");
-    row("CR LF first, LF later", "a\r\nb\nc\n", "\r\n", " ");
-    row("a lone CR before the first LF", "a\rb\nc", "\n", " ");
-    row("line break first in the text", "\nabc", "\n", " ");
-    row("line break last in the text", "abc\n", "\n", " ");
-    row("UTF-16 LE, LF", bytes({0x61, 0, 0x0A, 0}), bytes({0x0A, 0}), bytes({0x20, 0}));
-    row("UTF-16 BE, LF", bytes({0, 0x61, 0, 0x0A}), bytes({0, 0x0A}), bytes({0, 0x20}));
-    // Length alone decides the space, so UTF-16 CR LF gets the four-byte forms.
-    row("UTF-16 LE, CR LF", bytes({0x61, 0, 0x62, 0, 0x0D, 0, 0x0A, 0}), bytes({0x0D, 0, 0x0A, 0}),
-        bytes({0x20, 0, 0, 0}));
-    row("UTF-16 BE, CR LF", bytes({0, 0x61, 0, 0x62, 0, 0x0D, 0, 0x0A}), bytes({0, 0x0D, 0, 0x0A}),
-        bytes({0, 0, 0, 0x20}));
-    // A sequence counts only at an offset that is a multiple of its own length: a UTF-16 CR LF
-    // that starts two bytes into a four-byte block is taken for its LF alone.
-    row("UTF-16 LE, CR LF off a four-byte boundary", bytes({0x61, 0, 0x0D, 0, 0x0A, 0}),
-        bytes({0x0A, 0}), bytes({0x20, 0}));
-    row("UTF-16 LE with byte-order mark", bytes({0xFF, 0xFE, 0x61, 0, 0x0A, 0, 0x62, 0}),
-        bytes({0x0A, 0}), bytes({0x20, 0}));
-    row("UTF-16 LE, CR alone", bytes({0x61, 0, 0x0D, 0, 0x62, 0}), bytes({0x0D, 0}), bytes({0x20, 0}));
-    row("UTF-16 BE, CR alone", bytes({0, 0x61, 0, 0x0D, 0, 0x62}), bytes({0, 0x0D}), bytes({0, 0x20}));
-    row("UTF-32 LE, LF", bytes({0x61, 0, 0, 0, 0x0A, 0, 0, 0, 0x62, 0, 0, 0}), bytes({0x0A, 0, 0, 0}),
-        bytes({0x20, 0, 0, 0}));
-    row("UTF-32 BE, LF", bytes({0, 0, 0, 0x61, 0, 0, 0, 0x0A}), bytes({0, 0, 0, 0x0A}),
-        bytes({0, 0, 0, 0x20}));
-    row("UTF-32 LE, CR LF", bytes({0x61, 0, 0, 0, 0x62, 0, 0, 0, 0x0D, 0, 0, 0, 0x0A, 0, 0, 0}),
-        bytes({0x0D, 0, 0, 0, 0x0A, 0, 0, 0}), bytes({0x20, 0, 0, 0}));
-    row("UTF-32 BE, CR LF", bytes({0, 0, 0, 0x61, 0, 0, 0, 0x62, 0, 0, 0, 0x0D, 0, 0, 0, 0x0A}),
-        bytes({0, 0, 0, 0x0D, 0, 0, 0, 0x0A}), bytes({0, 0, 0, 0x20}));
-    row("UTF-32 LE, CR alone", bytes({0x61, 0, 0, 0, 0x0D, 0, 0, 0}), bytes({0x0D, 0, 0, 0}),
-        bytes({0x20, 0, 0, 0}));
-    // "0A 00" found at an odd offset is not a UTF-16 LE code unit; the next aligned candidate wins.
-    row("UTF-16 BE whose 0A 00 pair is misaligned", bytes({0, 0x61, 0, 0x0A, 0, 0x62}),
-        bytes({0, 0x0A}), bytes({0, 0x20}));
-    row("8-bit text with a NUL after the LF", bytes({0x61, 0x62, 0x63, 0x0A, 0, 0x64}), "\n", " ");
-}
-
-void test_line_endings::detects_the_first_line_break() {
-    QFETCH(QByteArray, text);
-    QFETCH(QByteArray, EOL);
-    QFETCH(QByteArray, space);
-    line_ending_traits const traits = detail::traits_of()(text.toStdString());
-    QCOMPARE(shown(traits.EOL), EOL);
-    QCOMPARE(shown(traits.space), space);
-}
-
-void test_line_endings::candidate_lists_are_tried_in_their_order() {
-    // The lists are part of the contract with plugin authors: CR LF before LF, wide before narrow.
-    auto const with_LF = detail::traits_of().EOLs_with_LF();
-    QCOMPARE(int(with_LF.size()), 10);
-    QCOMPARE(shown(with_LF.front()), shown(bytes({0x0D, 0, 0, 0, 0x0A, 0, 0, 0})));
-    QCOMPARE(shown(with_LF[4]), shown("\r\n"));
-    QCOMPARE(shown(with_LF.back()), shown("\n"));
-    auto const with_CR = detail::traits_of().EOLs_with_CR_only();
-    QCOMPARE(int(with_CR.size()), 5);
-    QCOMPARE(shown(with_CR.back()), shown("\r"));
-}
 
 QTEST_APPLESS_MAIN(test_line_endings)
 #include "test_line_endings.moc"

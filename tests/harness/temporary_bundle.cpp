@@ -1,3 +1,4 @@
+// The one fixture of the tests: temporary bundles, runs of the copied executable, test languages.
 #include "tests/harness/temporary_bundle.h"
 
 #include "tests/harness/built_files.h"
@@ -6,8 +7,11 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QElapsedTimer>
 #include <QProcess>
+#include <QThread>
 
+#include <csignal>
 #include <unistd.h>
 
 temporary_bundle::temporary_bundle(QString const& executable_to_copy)
@@ -57,6 +61,29 @@ QByteArray temporary_bundle::contents_of(QString const& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
+QStringList temporary_bundle::installed_addons() const { return QDir(addons_directory()).entryList(QDir::Files); }
+QStringList temporary_bundle::installed_plugins() const { return QDir(plugins_directory()).entryList(QDir::Files); }
+
+run_options as_nobody() {
+    run_options options;
+    options.unprivileged = true;
+    return options;
+}
+
+QByteArray addon_text(QByteArray const& style, QByteArray const& language, QByteArray const& block_form) {
+    return "NAME=" + style + "\nLANGUAGE=" + language + "\n\nS_NAME=block\nS_BEG\n" + block_form + "\nS_END\n";
+}
+
+void install_test_languages(QString const& plugins_directory, QString const& addons_directory) {
+    QFile::copy(built::test_language_plugin(), plugins_directory + "/libtest-language-plugin.so");
+    QFile::copy(built::other_language_plugin(), plugins_directory + "/libother-language-plugin.so");
+    for (auto const& [style, language] : {std::pair{"Plain", "Test"}, {"Wide", "Test"}, {"Plain", "Other"}}) {
+        QFile file(addons_directory + "/" + addon_file(style, language));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(addon_text(style, language));
+    }
+}
+
 QProcessEnvironment temporary_bundle::environment() const {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("XDG_CONFIG_HOME", config_home());
@@ -67,24 +94,9 @@ QProcessEnvironment temporary_bundle::environment() const {
 }
 
 void temporary_bundle::share_with_unprivileged_user() const {
-    QFile::setPermissions(root(), QFile::permissions(root()) | QFile::ReadOther | QFile::ExeOther);
-    QDirIterator it(root(), QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden | QDir::System,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        QString const path = it.next();
-        QFileInfo const info(path);
-        if (info.isSymLink())
-            continue;
-        auto permissions = info.permissions() | QFile::ReadOther;
-        if (info.isDir() || info.isExecutable())
-            permissions |= QFile::ExeOther;
-        // Settings and cache are the program's own: it must be able to write there.
-        if (path.startsWith(config_home()) || path.startsWith(cache_home()) || path.startsWith(home()))
-            permissions |= QFile::WriteOther;
-        QFile::setPermissions(path, permissions);
-    }
-    for (auto const& own : {config_home(), cache_home(), home()})
-        QFile::setPermissions(own, QFile::permissions(own) | QFile::WriteOther | QFile::ExeOther);
+    // Settings, cache and home are the program's own: it must be able to write there.
+    QProcess::execute("chmod", {"-R", "o+rX", root()});
+    QProcess::execute("chmod", {"-R", "o+w", config_home(), cache_home(), home()});
 }
 
 void temporary_bundle::start(QProcess& process, QStringList const& arguments,
@@ -123,6 +135,35 @@ run_result temporary_bundle::run(QStringList const& arguments, run_options const
     return result_of_finished(process, options.timeout_ms);
 }
 
+QList<QMap<QString, QString>> cases_in(QString const& table_file) {
+    QList<QMap<QString, QString>> cases;
+    for (QString const& block : QString::fromUtf8(temporary_bundle::contents_of(table_file)).split("\n\n")) {
+        QMap<QString, QString> fields;
+        for (QString const& line : block.split('\n'))
+            if (!line.startsWith('#') && line.contains(": "))
+                fields[line.section(": ", 0, 0)] = line.section(": ", 1);
+        if (!fields.isEmpty())
+            cases << fields;
+    }
+    if (cases.isEmpty())
+        qFatal("no cases in the table file '%s'", qPrintable(table_file));
+    return cases;
+}
+
+QByteArray unescaped(QString const& value) {
+    QByteArray const escaped = value.toUtf8();
+    QByteArray bytes;
+    for (int i = 0; i < escaped.size(); ++i) {
+        if (escaped[i] != '\\' || i + 1 == escaped.size()) {
+            bytes += escaped[i];
+            continue;
+        }
+        char const next = escaped[++i];
+        bytes += next == 'n' ? '\n' : next == 'r' ? '\r' : next == '0' ? '\0' : next;
+    }
+    return bytes;
+}
+
 run_result result_of_finished(QProcess& process, int timeout_ms) {
     if (!process.waitForFinished(timeout_ms)) {
         process.kill();
@@ -134,4 +175,50 @@ run_result result_of_finished(QProcess& process, int timeout_ms) {
     result.crashed = process.exitStatus() != QProcess::NormalExit;
     result.status = result.crashed ? -1 : process.exitCode();
     return result;
+}
+
+running_program::running_program(temporary_bundle const& bundle, QStringList const& arguments, int delay_ms,
+                                 run_options options)
+    : log(bundle.home() + "/plugin.log") {
+    QFile::remove(log);
+    options.extra_environment.insert("TEST_PLUGIN_LOG", log);
+    options.extra_environment.insert("TEST_PLUGIN_DELAY_MS", QString::number(delay_ms));
+    bundle.start(process, arguments, options);
+    process.waitForStarted();
+    process.closeWriteChannel();
+}
+
+running_program::~running_program() {
+    if (process.state() != QProcess::NotRunning) {
+        process.kill();
+        process.waitForFinished();
+    }
+}
+
+int running_program::files_asked_about() const { return temporary_bundle::contents_of(log).count(" revise "); }
+
+bool running_program::wait_until_plugin_was_asked_about(int files, int timeout_ms) const {
+    QElapsedTimer timer;
+    timer.start();
+    while (files_asked_about() < files) {
+        if (timer.elapsed() > timeout_ms || process.state() == QProcess::NotRunning)
+            return false;
+        QThread::msleep(5);
+    }
+    return true;
+}
+
+void running_program::send(int signal_number) const { ::kill(static_cast<pid_t>(process.processId()), signal_number); }
+
+run_result running_program::finish(int timeout_ms) { return result_of_finished(process, timeout_ms); }
+
+QStringList temporary_files_below(QString const& directory) {
+    QStringList found;
+    QDirIterator it(directory, QDir::Files | QDir::Hidden | QDir::System, QDirIterator::Subdirectories);
+    while (it.hasNext()) {
+        QString const path = it.next();
+        if (it.fileName().contains(".tarnel-"))
+            found << path;
+    }
+    return found;
 }

@@ -1,10 +1,13 @@
-// A bundle of our own for one test: the executable copied into <tmp>/bin, empty or chosen
-// <tmp>/PlugIns/languages and <tmp>/PlugIns/styles, and its own settings, cache and home
-// directories, so that no test ever touches the user's settings or the real bundle.
+// The one fixture of the tests: a bundle of our own (the executable copied into <tmp>/bin, chosen
+// plugins and addons in <tmp>/PlugIns, its own settings, cache and home), so that no test touches
+// the user's settings or the real bundle; installed_bundle adds the test languages, running_program
+// acts on a run midway, and cases_in reads the tables of cases beside the tests.
 #ifndef STYLE_TARNEL_TESTS_TEMPORARY_BUNDLE_H
 #define STYLE_TARNEL_TESTS_TEMPORARY_BUNDLE_H
 
 #include <QByteArray>
+#include <QList>
+#include <QMap>
 #include <QProcess>
 #include <QProcessEnvironment>
 #include <QString>
@@ -19,16 +22,15 @@ struct run_result {
 };
 
 struct run_options {
-    // Run as an unprivileged user (nobody), so that permissions stop the program as they stop a
-    // user; tests run as root on CI.
-    bool unprivileged = false;
+    bool unprivileged = false;  // as nobody, so that permissions stop the program (CI runs as root)
     QByteArray input;
     QString working_directory;
     QProcessEnvironment extra_environment;
     int timeout_ms = 120000;
-    // Shell prefix such as "ulimit -f 1;", run through /bin/sh before the executable.
-    QString shell_prefix;
+    QString shell_prefix;  // such as "ulimit -f 1;", run by /bin/sh before the executable
 };
+
+run_options as_nobody();
 
 class temporary_bundle {
 public:
@@ -43,8 +45,7 @@ public:
     QString config_home() const;
     QString cache_home() const;
     QString home() const;
-    // A directory for the sources a test revises, imports or exports.
-    QString work_directory() const;
+    QString work_directory() const;  // the sources a test revises, imports or exports
 
     // Copies a built plugin into the plugins directory, under its own name or `as`.
     bool add_plugin(QString const& built_plugin, QString const& as = QString()) const;
@@ -52,16 +53,15 @@ public:
     // Writes a file below the work directory, creating its directories; returns its path.
     QString write_file(QString const& relative_path, QByteArray const& content) const;
     static QByteArray contents_of(QString const& path);
+    QStringList installed_addons() const;
+    QStringList installed_plugins() const;
 
     QProcessEnvironment environment() const;
     run_result run(QStringList const& arguments, run_options const& options = run_options()) const;
-    // Starts the executable as run() does (all options but input and timeout_ms) and returns at
-    // once, for a test that acts on the program while it runs; the process's pid is the
-    // program's own.
+    // Starts the executable as run() does (but for input and timeout_ms) and returns at once.
     void start(QProcess& process, QStringList const& arguments, run_options const& options) const;
 
-    // Opens everything below the bundle to the unprivileged user (directories and files keep
-    // whatever write bits a test then takes away).
+    // Opens everything below the bundle to the unprivileged user for reading.
     void share_with_unprivileged_user() const;
 
 private:
@@ -69,8 +69,59 @@ private:
     bool valid = false;
 };
 
-// Waits for a started process (killing it after `timeout_ms`) and collects what it wrote and how
-// it ended.
+// An addon of `style` for `language` with a valid form of the test language's "block".
+QByteArray addon_text(QByteArray const& style, QByteArray const& language,
+                      QByteArray const& block_form = "begin SOME end");
+inline QByteArray addon_file(QByteArray const& style, QByteArray const& language) {
+    return style + "[" + language + "].style";
+}
+// Copies the test plugins "Test" (styles Plain and Wide) and "Other" (style Plain) with their
+// addons into a plugins and an addons directory.
+void install_test_languages(QString const& plugins_directory, QString const& addons_directory);
+
+struct installed_bundle : temporary_bundle {
+    installed_bundle() { install_test_languages(plugins_directory(), addons_directory()); }
+};
+
+// The cases of a table file beside a test: blocks separated by a blank line, one "key: value" a
+// line, "#" lines for comments; and a value with its \n, \r, \0 and \\ turned into those bytes.
+QList<QMap<QString, QString>> cases_in(QString const& table_file);
+QByteArray unescaped(QString const& value);
+
+// Waits for a started process (killing it after `timeout_ms`) and collects its outcome.
 run_result result_of_finished(QProcess& process, int timeout_ms);
+
+// A run of the executable that a test acts on midway: the test plugin logs every file it is asked
+// about and sleeps `delay_ms` first, so the test can wait until the run is at a known file and
+// then change files, send signals, and collect the result.
+class running_program {
+public:
+    running_program(temporary_bundle const& bundle, QStringList const& arguments, int delay_ms,
+                    run_options options = run_options());
+    ~running_program();
+    running_program(running_program const&) = delete;
+    running_program& operator=(running_program const&) = delete;
+
+    bool wait_until_plugin_was_asked_about(int files, int timeout_ms = 60000) const;
+    int files_asked_about() const;
+    void send(int signal_number) const;
+    run_result finish(int timeout_ms = 120000);
+
+private:
+    QProcess process;
+    QString log;
+};
+
+// Every file below `directory` whose name marks it as a temporary file of an atomic write.
+QStringList temporary_files_below(QString const& directory);
+
+// Compares one run's standard error, standard output and status.
+#define COMPARE_RUN(result, expected_err, expected_out, expected_status)                \
+    do {                                                                                \
+        run_result const& r_ = (result);                                                \
+        QCOMPARE(QString::fromUtf8(r_.err), QString::fromUtf8(expected_err));           \
+        QCOMPARE(QString::fromUtf8(r_.out), QString::fromUtf8(expected_out));           \
+        QCOMPARE(r_.status, (expected_status));                                         \
+    } while (false)
 
 #endif

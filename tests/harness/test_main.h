@@ -24,28 +24,19 @@ void identify_as_the_program();
 
 }  // namespace tarnel_test
 
-// In-process tests that need a bundle of their own (kernel, store, engine).
-#define STYLE_TARNEL_TEST_MAIN_IN_BUNDLE(TestClass)                                           \
+// In-process tests that need a bundle of their own (kernel, engine), with a QCoreApplication or,
+// for widget tests (run with QT_QPA_PLATFORM=offscreen), a QApplication.
+#define STYLE_TARNEL_TEST_MAIN_IN_BUNDLE_AS(TestClass, Application)                            \
     int main(int argc, char** argv) {                                                         \
         return tarnel_test::run_in_temporary_bundle(argc, argv, [](int c, char** v) {         \
-            QCoreApplication application(c, v);                                               \
+            Application application(c, v);                                                     \
             tarnel_test::identify_as_the_program();                                           \
             TestClass test;                                                                   \
             QTEST_SET_MAIN_SOURCE_PATH                                                        \
             return QTest::qExec(&test, c, v);                                                 \
         });                                                                                   \
     }
-
-// The same for widget tests (run with QT_QPA_PLATFORM=offscreen).
-#define STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(TestClass)                                    \
-    int main(int argc, char** argv) {                                                         \
-        return tarnel_test::run_in_temporary_bundle(argc, argv, [](int c, char** v) {         \
-            QApplication application(c, v);                                                   \
-            tarnel_test::identify_as_the_program();                                           \
-            TestClass test;                                                                   \
-            QTEST_SET_MAIN_SOURCE_PATH                                                        \
-            return QTest::qExec(&test, c, v);                                                 \
-        });                                                                                   \
-    }
+#define STYLE_TARNEL_TEST_MAIN_IN_BUNDLE(TestClass) STYLE_TARNEL_TEST_MAIN_IN_BUNDLE_AS(TestClass, QCoreApplication)
+#define STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(TestClass) STYLE_TARNEL_TEST_MAIN_IN_BUNDLE_AS(TestClass, QApplication)
 
 #endif

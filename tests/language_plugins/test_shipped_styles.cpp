@@ -1,13 +1,13 @@
-// Every shipped addon: each form is a fixed point of the options inferred from it, and the sample
-// files come out as their golden copies, with only white space changed, idempotent, and byte for
-// byte the same when revised again. Set STYLE_TARNEL_WRITE_GOLDEN=1 to write missing golden files
-// (then read them before committing).
+// Every shipped style: each form of its addon is a fixed point of the options inferred from it,
+// its golden input comes out as its golden expected file (with only white space changed, and
+// unchanged when revised again), and no two styles of a language revise the input alike.
+// Set STYLE_TARNEL_WRITE_GOLDEN=1 to write a missing expected file (then read it before committing).
 #include "helpers/our_plugins.h"
 
 #include "c_language.h"
+#include "core/style_addon.h"
 #include "cpp_language.h"
 #include "revision.h"
-#include "core/style_addon.h"
 #include "tests/harness/built_files.h"
 
 #include <QDir>
@@ -18,40 +18,21 @@
 
 using namespace our_plugins;
 
-namespace {
-
-tarnel_engine::language_description const& description_of(std::string const& language) {
-    return language == "C" ? c_language() : cpp_language();
-}
-
-std::string non_white_space_of(std::string const& text) {
-    std::string kept;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        bool const continues_line = text[i] == '\\' && i + 1 < text.size() && text[i + 1] == '\n';
-        if (!std::isspace(static_cast<unsigned char>(text[i])) && !continues_line)
-            kept += text[i];
-    }
-    return kept;
-}
-
-QString golden_path(QString const& addon_file, QString const& sample_file) {
-    QString const stem = addon_file.left(addon_file.size() - QString(".style").size());
-    return built::source_dir() + "/tests/language_plugins/expected/" + stem + "/" + sample_file;
-}
-
-}  // namespace
-
 class test_shipped_styles : public QObject {
     Q_OBJECT
 
 private slots:
     void initTestCase() { use_private_cache(); }
 
-    void every_form_is_a_fixed_point_data() { each_addon(); }
+    void every_form_is_a_fixed_point_data() {
+        QTest::addColumn<QString>("addon_file");
+        for (QString const& file : shipped_addons())
+            QTest::newRow(qPrintable(file)) << file;
+    }
     void every_form_is_a_fixed_point() {
         QFETCH(QString, addon_file);
         std::string const addon = shipped_addon(addon_file);
-        auto const& language = description_of(language_of_addon(addon));
+        auto const& language = language_of_addon(addon) == "C" ? c_language() : cpp_language();
         auto const formatted = tarnel_engine::forms_formatted_by_inferred_options(addon, language);
         QCOMPARE(formatted.size(), language.structures.size());
         for (auto const& [name, result] : formatted)
@@ -59,64 +40,37 @@ private slots:
                      QString::fromStdString(obtain_structure_form(name).from_already_reading(addon)));
     }
 
-    void samples_come_out_in_the_style_data() {
-        QTest::addColumn<QString>("addon_file");
-        QTest::addColumn<QString>("sample_file");
-        for (QString const& addon_file : shipped_addons())
-            for (QString const& sample_file : samples_of(language_of_addon(shipped_addon(addon_file))))
-                QTest::newRow(qPrintable(addon_file + " " + sample_file)) << addon_file << sample_file;
+    void golden_files_data() {
+        QTest::addColumn<QString>("golden_case");
+        for (QString const& golden_case : golden_cases())
+            QTest::newRow(qPrintable(golden_case)) << golden_case;
+        QCOMPARE(golden_cases().size(), shipped_addons().size());
     }
-    void samples_come_out_in_the_style() {
-        QFETCH(QString, addon_file);
-        QFETCH(QString, sample_file);
-        std::string const addon = shipped_addon(addon_file);
-        std::string const source = sample(sample_file);
-        loaded_plugin plugin(plugin_file_of(language_of_addon(addon)));
-        std::string const revised = plugin->revise(source, addon, traits_of(source));
-        QVERIFY(revised != STYLE_TARNEL_SYNTAX_ERROR_TEXT);
-        QVERIFY2(revised != source, "the sample is untidy in every style");
-        QCOMPARE(non_white_space_of(revised), non_white_space_of(source));
-        QCOMPARE(plugin->revise(revised, addon, traits_of(revised)), revised);
-        QCOMPARE(plugin->revise(source, addon, traits_of(source)), revised);
-
-        QString const golden = golden_path(addon_file, sample_file);
-        if (!QFile::exists(golden) && qEnvironmentVariableIsSet("STYLE_TARNEL_WRITE_GOLDEN")) {
-            QDir().mkpath(QFileInfo(golden).path());
-            QFile file(golden);
+    void golden_files() {
+        QFETCH(QString, golden_case);
+        std::string const input = golden_file(golden_case, "input");
+        QString const expected_path = built::source_dir() + "/tests/language_plugins/golden/" + golden_case + "/expected";
+        if (!QFile::exists(expected_path) && qEnvironmentVariableIsSet("STYLE_TARNEL_WRITE_GOLDEN")) {
+            std::string const language = golden_case.section('/', 0, 0).toStdString();
+            loaded_plugin plugin(plugin_file_of(language));
+            std::string const addon = shipped_addon(golden_case.section('/', 1) + "[" + golden_case.section('/', 0, 0) + "].style");
+            QFile file(expected_path);
             QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write(revised.data(), static_cast<qint64>(revised.size()));
+            file.write(QByteArray::fromStdString(plugin->revise(input, addon, traits_of(input))));
         }
-        QCOMPARE(QString::fromStdString(revised), QString::fromStdString(contents_of(golden)));
+        std::string const expected = golden_file(golden_case, "expected");
+        QVERIFY2(expected != input, "the input is untidy in every style");
+        verify_revise(golden_case.section('/', 0, 0).toStdString(), golden_case.section('/', 1).toStdString(), input,
+                      expected);
     }
 
-    // The catalogue tells the house styles apart: no two styles of a language revise a sample alike.
-    void no_two_styles_agree_on_a_sample_data() {
-        QTest::addColumn<QString>("language");
-        QTest::newRow("C") << "C";
-        QTest::newRow("C++") << "C++";
-    }
-    void no_two_styles_agree_on_a_sample() {
-        QFETCH(QString, language);
-        std::string const name = language.toStdString();
-        std::set<std::string> results;
-        QStringList const addons = shipped_addons_of(name);
-        loaded_plugin plugin(plugin_file_of(name));
-        for (QString const& addon_file : addons) {
-            std::string all;
-            for (QString const& sample_file : samples_of(name)) {
-                std::string const source = sample(sample_file);
-                all += plugin->revise(source, shipped_addon(addon_file), traits_of(source));
-            }
-            results.insert(all);
-        }
-        QCOMPARE(int(results.size()), addons.size());
-    }
-
-private:
-    void each_addon() {
-        QTest::addColumn<QString>("addon_file");
-        for (QString const& file : shipped_addons())
-            QTest::newRow(qPrintable(file)) << file;
+    // The catalogue tells the house styles apart.
+    void no_two_styles_of_a_language_agree() {
+        std::map<QString, std::set<std::string>> results;
+        for (QString const& golden_case : golden_cases())
+            results[golden_case.section('/', 0, 0)].insert(golden_file(golden_case, "expected"));
+        for (auto const& [language, distinct] : results)
+            QCOMPARE(int(distinct.size()), golden_cases().filter(QRegularExpression("^" + QRegularExpression::escape(language) + "/")).size());
     }
 };
 

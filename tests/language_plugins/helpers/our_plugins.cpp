@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QtTest>
 
 namespace our_plugins {
 
@@ -19,7 +20,7 @@ QTemporaryDir& private_cache() {
 }
 
 QString styles_directory() { return built::source_dir() + "/plugins/styles"; }
-QString samples_directory() { return built::source_dir() + "/tests/language_plugins/samples"; }
+QString golden_directory() { return built::source_dir() + "/tests/language_plugins/golden"; }
 
 }  // namespace
 
@@ -28,7 +29,6 @@ void use_private_cache() {
     qputenv("HOME", (private_cache().path() + "/home").toLocal8Bit());
 }
 
-QString cache_directory() { return private_cache().path() + "/cache/style-tarnel"; }
 
 QString plugin_path(QString const& file_name) { return built::build_dir() + "/PlugIns/languages/" + file_name; }
 QString c_plugin_file() { return "libc-language-plugin.so"; }
@@ -44,13 +44,6 @@ loaded_plugin::~loaded_plugin() { loader->unload(); }
 
 QStringList shipped_addons() { return QDir(styles_directory()).entryList({"*.style"}, QDir::Files, QDir::Name); }
 
-QStringList shipped_addons_of(std::string const& language) {
-    QStringList chosen;
-    for (QString const& file : shipped_addons())
-        if (language_of_addon(shipped_addon(file)) == language)
-            chosen << file;
-    return chosen;
-}
 
 std::string shipped_addon(QString const& file_name) { return contents_of(styles_directory() + "/" + file_name); }
 
@@ -61,11 +54,36 @@ std::string language_of_addon(std::string const& addon) {
     return addon.substr(at + 9, addon.find('\n', at) - at - 9);
 }
 
-QStringList samples_of(std::string const& language) {
-    return QDir(samples_directory()).entryList({language == "C" ? "*.c" : "*.cpp"}, QDir::Files, QDir::Name);
+QStringList golden_cases() {
+    QStringList cases;
+    for (QString const& language : QDir(golden_directory()).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+        for (QString const& style : QDir(golden_directory() + "/" + language).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            cases << language + "/" + style;
+    return cases;
 }
 
-std::string sample(QString const& file_name) { return contents_of(samples_directory() + "/" + file_name); }
+std::string golden_file(QString const& golden_case, QString const& name) {
+    return contents_of(golden_directory() + "/" + golden_case + "/" + name);
+}
+
+void verify_revise(std::string const& language, std::string const& style, std::string const& input,
+                   std::string const& expected) {
+    auto const non_white_space_of = [](std::string const& text) {
+        std::string kept;
+        for (std::size_t i = 0; i < text.size(); ++i)
+            if (!std::isspace(static_cast<unsigned char>(text[i])) && !(text[i] == '\\' && text[i + 1] == '\n'))
+                kept += text[i];
+        return kept;
+    };
+    std::string const addon = shipped_addon(QString::fromStdString(style + "[" + language + "].style"));
+    QVERIFY2(!addon.empty(), style.c_str());
+    loaded_plugin plugin(plugin_file_of(language));
+    QVERIFY(plugin.get());
+    std::string const revised = plugin->revise(input, addon, traits_of(input));
+    QCOMPARE(QString::fromStdString(revised), QString::fromStdString(expected));
+    QCOMPARE(QString::fromStdString(plugin->revise(revised, addon, traits_of(revised))), QString::fromStdString(revised));
+    QCOMPARE(QString::fromStdString(non_white_space_of(revised)), QString::fromStdString(non_white_space_of(input)));
+}
 
 std::string contents_of(QString const& path) {
     QFile file(path);

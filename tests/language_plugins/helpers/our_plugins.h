@@ -1,5 +1,6 @@
 // What the tests of our language plugins share: the built plugins loaded as the host loads them,
-// the shipped addons and sample files, the host's own line-ending detection, and a private cache.
+// the shipped addons and golden files, verify_revise, the host's own line-ending detection, and a
+// private cache.
 #ifndef STYLE_TARNEL_TESTS_LANGUAGE_PLUGINS_OUR_PLUGINS_H
 #define STYLE_TARNEL_TESTS_LANGUAGE_PLUGINS_OUR_PLUGINS_H
 
@@ -17,7 +18,6 @@ namespace our_plugins {
 // Points XDG_CACHE_HOME (and HOME) at a temporary directory for the whole test process, so that
 // inference is shared between the tests of one executable and never touches the user's cache.
 void use_private_cache();
-QString cache_directory();
 
 QString plugin_path(QString const& file_name);
 QString c_plugin_file();    // libc-language-plugin.so
@@ -37,15 +37,20 @@ private:
     interface_to_language_plugin* plugin = nullptr;
 };
 
-// The shipped addons (file names in plugins/styles), all or those of one language.
+// The shipped addons (file names in plugins/styles).
 QStringList shipped_addons();
-QStringList shipped_addons_of(std::string const& language);
 std::string shipped_addon(QString const& file_name);
 std::string language_of_addon(std::string const& addon);
 
-// Sample sources under tests/language_plugins/samples, and their extensions' language.
-QStringList samples_of(std::string const& language);
-std::string sample(QString const& file_name);
+// The golden files: tests/language_plugins/golden/<language>/<style>/input and expected, as
+// "<language>/<style>" for each folder.
+QStringList golden_cases();
+std::string golden_file(QString const& golden_case, QString const& name);
+
+// Revises `input` with our plugin of `language` in the shipped `style`, and checks that the result
+// is `expected`, that revising the result again changes nothing, and that only white space changed.
+void verify_revise(std::string const& language, std::string const& style, std::string const& input,
+                   std::string const& expected);
 
 std::string contents_of(QString const& path);
 

@@ -1,0 +1,174 @@
+// A revision through the copied executable, file by file: which files a run takes, what becomes
+// of each (changed, unchanged, refused by the plugin, not writable, empty, behind a symbolic
+// link), the report on both streams, what the plugin was handed, and the records that decide
+// what the next run revises again.
+#include "tests/harness/built_files.h"
+#include "tests/harness/temporary_bundle.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QtTest>
+
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utime.h>
+
+namespace {
+
+QByteArray const done = "It's done." + QByteArray(25, ' ') + "\n";
+
+void set_modification_time_ahead(QString const& path) {
+    qint64 const later = QDateTime::currentSecsSinceEpoch() + 5;
+    struct utimbuf times {};
+    times.actime = times.modtime = static_cast<time_t>(later);
+    ::utime(QFile::encodeName(path).constData(), &times);
+}
+
+// A bundle with the test languages, an addon with an invalid form, and files below src/ given
+// as "name=content".
+struct revision_bundle : installed_bundle {
+    explicit revision_bundle(QStringList const& files) {
+        add_addon("Broken[Test].style", addon_text("Broken", "Test", "start SOME stop"));
+        for (QString const& file : files)
+            write_file("src/" + file.section('=', 0, 0), unescaped(file.section('=', 1)));
+        log = home() + "/plugin.log";
+        logging.extra_environment.insert("TEST_PLUGIN_LOG", log);
+    }
+    QString source(QString const& name) const { return work_directory() + "/src/" + name; }
+    // The run, and the lines the plugin logged during it.
+    run_result revise(QStringList const& words, QStringList& logged, run_options options = run_options()) {
+        QFile::remove(log);
+        options.extra_environment = logging.extra_environment;
+        run_result const result = run(words, options);
+        logged.clear();
+        for (QByteArray const& line : contents_of(log).split('\n'))
+            if (!line.isEmpty())
+                logged << QString::fromUtf8(line.startsWith("test-language-plugin ") ? line.mid(21) : line);
+        return result;
+    }
+    QString log;
+    run_options logging;
+};
+
+}  // namespace
+
+class test_revision : public QObject {
+    Q_OBJECT
+private slots:
+    void outcomes_per_file_data();
+    void outcomes_per_file();
+    void records_decide_what_the_next_run_revises_data();
+    void records_decide_what_the_next_run_revises();
+};
+
+// The rows come from outcomes.txt, which tells what each column holds.
+void test_revision::outcomes_per_file_data() {
+    QTest::addColumn<QString>("files");
+    QTest::addColumn<QString>("named");
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<QByteArray>("out");
+    QTest::addColumn<QByteArray>("err");
+    QTest::addColumn<QString>("after");
+    QTest::addColumn<QString>("logged");
+    QTest::addColumn<bool>("unprivileged");
+    QTest::addColumn<QString>("twin");
+    QTest::addColumn<int>("exit_status");
+    for (auto const& row : cases_in(QFINDTESTDATA("outcomes.txt")))
+        QTest::newRow(qPrintable(row["case"])) << row["files"] << row["named"] << row["style"] << unescaped(row["out"])
+                                               << unescaped(row["err"]) << row["after"] << row["logged"]
+                                               << (row["as"] == "nobody") << row["twin"] << row["status"].toInt();
+}
+
+void test_revision::outcomes_per_file() {
+    QFETCH(QString, files);
+    QFETCH(QString, named);
+    QFETCH(QString, style);
+    QFETCH(QByteArray, out);
+    QFETCH(QByteArray, err);
+    QFETCH(QString, after);
+    QFETCH(QString, logged);
+    QFETCH(bool, unprivileged);
+    QFETCH(QString, twin);
+    QFETCH(int, exit_status);
+    QStringList const sources = files.split(" | ");
+    revision_bundle bundle(sources);
+    if (!twin.isEmpty())
+        bundle.add_plugin(built::twin_language_plugin(), twin);
+    // A link to a file and a link to a folder outside the sources: neither is followed.
+    QString const outside = bundle.write_file("outside/x.tst", "x  y");
+    QFile::link(outside, bundle.source("tree/link.tst"));
+    QFile::link(bundle.work_directory() + "/outside", bundle.source("tree/folder"));
+    if (unprivileged) {
+        bundle.share_with_unprivileged_user();
+        QFile::setPermissions(bundle.work_directory() + "/src", QFile::permissions(bundle.work_directory()) |
+                                                                    QFile::WriteOther);
+        QFile::setPermissions(bundle.source("a.tst"), QFile::ReadOwner | QFile::ReadOther);
+        // The user's own file: only its owner may be given the rewritten file.
+        QVERIFY(::chown(QFile::encodeName(bundle.source("b.tst")).constData(), 65534, 65534) == 0);
+    }
+    // A changed file keeps its permissions and owner.
+    QByteArray const first = QFile::encodeName(bundle.source(sources.first().section('=', 0, 0)));
+    bool const changed_row = QTest::currentDataTag() == QByteArray("changed");
+    if (changed_row)
+        QVERIFY(::chmod(first.constData(), 0751) == 0 && ::chown(first.constData(), 65534, 65534) == 0);
+    QStringList words{"-l=Test", "-s=" + style};
+    for (QString const& name : named.isEmpty() ? QStringList{""} : named.split(" | "))
+        words << (name.isEmpty() ? "-p=src" : "-p=src/" + name);
+    QStringList got;
+    run_options options;
+    options.unprivileged = unprivileged;
+    run_result const result = bundle.revise(words, got, options);
+    QCOMPARE(QString::fromUtf8(result.out),
+             QString::fromUtf8(QByteArray(out).replace("%S", (bundle.work_directory() + "/src").toUtf8())));
+    QCOMPARE(QString::fromUtf8(result.err), QString::fromUtf8(err));
+    QCOMPARE(result.status, exit_status);
+    for (QString const& file : after.isEmpty() ? sources : after.split(" | "))
+        QCOMPARE(bundle.contents_of(bundle.source(file.section('=', 0, 0))), unescaped(file.section('=', 1)));
+    QCOMPARE(bundle.contents_of(outside), QByteArray("x  y"));
+    struct stat status {};
+    if (changed_row && ::stat(first.constData(), &status) == 0)
+        QVERIFY((status.st_mode & 07777) == 0751 && status.st_uid == 65534 && status.st_gid == 65534);
+    QCOMPARE(got.join(" | "), logged);
+}
+
+// The rows come from records.txt, which tells what each column holds.
+void test_revision::records_decide_what_the_next_run_revises_data() {
+    QTest::addColumn<QStringList>("files");
+    QTest::addColumn<QStringList>("steps");
+    for (auto const& row : cases_in(QFINDTESTDATA("records.txt"))) {
+        QStringList steps;
+        for (QString const& key : row.keys())
+            if (key.startsWith("step "))
+                steps << row[key];
+        QTest::newRow(qPrintable(row["case"])) << row["files"].split(" | ") << steps;
+    }
+}
+
+void test_revision::records_decide_what_the_next_run_revises() {
+    QFETCH(QStringList, files);
+    QFETCH(QStringList, steps);
+    revision_bundle bundle(files);
+    QStringList logged;
+    for (QString const& step : steps) {
+        if (step.startsWith("touch addon "))
+            set_modification_time_ahead(bundle.addons_directory() + "/" + step.mid(12));
+        else if (step.startsWith("touch "))
+            set_modification_time_ahead(bundle.work_directory() + "/" + step.mid(6));
+        if (step.startsWith("touch "))
+            continue;
+        QStringList words{"-l=Test", "-p=src", "-s=" + step.section(' ', 0, 0)};
+        words += step.section(" => ", 0, 0).section(' ', 1).split(' ', Qt::SkipEmptyParts);
+        run_result const result = bundle.revise(words, logged);
+        QByteArray const report = step.section(" => ", 1).trimmed().toUtf8();
+        if (report == "*")
+            continue;
+        if (report == "refused")
+            QCOMPARE(result.status, 1);
+        else
+            QCOMPARE(QString::fromUtf8(result.out), QString::fromUtf8(done + report + "\n"));
+    }
+}
+
+QTEST_GUILESS_MAIN(test_revision)
+#include "test_revision.moc"
