@@ -59,6 +59,9 @@ public:
     option_search(std::vector<form_case> const& forms, std::vector<std::string> const& excluded)
         : forms(forms), excluded(excluded) {}
 
+    // Lets the search reach the values it kept away from so far.
+    void exclude_nothing() { excluded.clear(); }
+
     scored_style scored(clang::format::FormatStyle const& style) {
         formatted += static_cast<long>(forms.size());
         std::vector<unsigned long> distances = distances_of(forms, style);
@@ -86,7 +89,7 @@ public:
 private:
     std::vector<form_case> const& forms;
     // Values no move may reach.
-    std::vector<std::string> const excluded;
+    std::vector<std::string> excluded;
     long formatted = 0;
     std::vector<std::string> kept;
     // The moves (one group, or two) that did not improve, with the distances of the forms that
@@ -295,6 +298,13 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         search.descend(restart, readings.certain);
         if (restart.total < best.total)
             best = restart;
+    }
+
+    // Values the forms rule out are likely, not certain (a hand-written addon may keep its breaks
+    // under no column limit): a last descent may reach them.
+    if (best.total > 0 && !readings.ruled_out.empty() && search.within_budget()) {
+        search.exclude_nothing();
+        search.descend(best, readings.certain);
     }
     return best.style;
 }
