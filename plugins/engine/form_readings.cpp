@@ -396,6 +396,10 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     std::string const limit = column_limit_read_from(forms);
     if (limit.find("AlignEscapedNewlines") != std::string::npos)
         readings.certain.push_back(limit);
+    // Without a limit the engine keeps a call on the line it was written on, as in the catalogue.
+    std::string const* call = named.find("long function call");
+    if (call && call->find('\n') != std::string::npos)
+        readings.ruled_out.push_back("{ColumnLimit: 0}");
     readings.braces = braces_read_from(named);
     return readings;
 }

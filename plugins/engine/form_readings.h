@@ -22,6 +22,9 @@ struct form_readings {
     // Readings no other value could explain (the column limit where a macro's backslashes line up
     // at it), held by every style the search moves to; also applied with `layout`.
     std::vector<std::string> certain;
+    // Values the forms make unlikely (no column limit, where a long call breaks inside its
+    // statement), moved to only by a last descent when nothing else gives every form back.
+    std::vector<std::string> ruled_out;
 };
 
 form_readings readings_of(std::vector<form_case> const& forms);

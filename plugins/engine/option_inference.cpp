@@ -56,7 +56,11 @@ bool names(form_case const& form, std::string const& group) {
 
 class option_search {
 public:
-    explicit option_search(std::vector<form_case> const& forms) : forms(forms) {}
+    option_search(std::vector<form_case> const& forms, std::vector<std::string> const& excluded)
+        : forms(forms), excluded(excluded) {}
+
+    // Lets the search reach the values it kept away from so far.
+    void exclude_nothing() { excluded.clear(); }
 
     scored_style scored(clang::format::FormatStyle const& style) {
         formatted += static_cast<long>(forms.size());
@@ -84,6 +88,8 @@ public:
 
 private:
     std::vector<form_case> const& forms;
+    // Values no move may reach.
+    std::vector<std::string> excluded;
     long formatted = 0;
     std::vector<std::string> kept;
     // The moves (one group, or two) that did not improve, with the distances of the forms that
@@ -166,6 +172,10 @@ private:
                 clang::format::FormatStyle held = trial;
                 holds = holds && apply_candidate(held, reading) && same_options(held, trial);
             }
+            for (std::string const& value : excluded) {
+                clang::format::FormatStyle held = trial;
+                holds = holds && !(apply_candidate(held, value) && same_options(held, trial));
+            }
             if (holds)
                 moved.push_back(std::move(trial));
         }
@@ -225,9 +235,10 @@ std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, cla
 }
 
 clang::format::FormatStyle infer_options::from(std::vector<form_case> const& forms) const {
-    option_search search(forms);
     if (forms.empty())
         return token_safe_predefined_style(names_of_predefined_styles().front());
+    form_readings const readings = readings_of(forms);
+    option_search search(forms, readings.ruled_out);
 
     // A style that is a predefined one keeps all its rules, Google's "the file's majority decides
     // where * leans" included.
@@ -241,7 +252,6 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
 
     // Any other style shows where * and & lean in its forms (the readings say so), and those
     // forms, not the file being revised, decide.
-    form_readings const readings = readings_of(forms);
     std::vector<scored_style> starts;
     for (clang::format::FormatStyle const& base : bases)
         for (bool const with_braces : {true, false}) {
@@ -288,6 +298,13 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         search.descend(restart, readings.certain);
         if (restart.total < best.total)
             best = restart;
+    }
+
+    // Values the forms rule out are likely, not certain (a hand-written addon may keep its breaks
+    // under no column limit): a last descent may reach them.
+    if (best.total > 0 && !readings.ruled_out.empty() && search.within_budget()) {
+        search.exclude_nothing();
+        search.descend(best, readings.certain);
     }
     return best.style;
 }
