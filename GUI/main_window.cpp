@@ -123,6 +123,12 @@ main_window::~main_window() {
     QSettings settings;
     settings.setValue(settings_key::main_window_geometry, saveGeometry());
     settings.sync();
+    // The groups go before the actions they use (a renaming still open refills its list as it
+    // closes); each saves its own state as it goes.
+    delete pimpl->tabs;
+    delete pimpl->revise;
+    delete pimpl->code;
+    delete pimpl->styles;
 }
 
 QWidget* main_window::widget_ptr() { return this; }

@@ -152,7 +152,11 @@ select_formatting_style::select_formatting_style(QWidget* parent, QWidget* main_
     connect(pimpl->dialog, &QFileDialog::rejected, this, &select_formatting_style::rejected);
 }
 
-select_formatting_style::~select_formatting_style() = default;
+select_formatting_style::~select_formatting_style() {
+    // A renaming still open ends with the list, and its loss of focus must find nothing to undo.
+    pimpl->renamer = nullptr;
+    delete pimpl->list;
+}
 
 QWidget* select_formatting_style::widget_ptr() const { return const_cast<select_formatting_style*>(this); }
 
