@@ -12,7 +12,9 @@
 #include "tests/harness/built_files.h"
 #include "tests/harness/test_main.h"
 
+#include <QAccessible>
 #include <QAction>
+#include <QMenu>
 #include <QDir>
 #include <QFile>
 #include <QLineEdit>
@@ -136,6 +138,7 @@ private slots:
     void renames_a_style_in_place();
     void geometry_and_splitter_survive_a_restart();
     void asks_for_the_agreement_on_the_first_start_only();
+    void every_control_has_a_name_and_takes_the_keyboard();
 };
 
 
@@ -407,6 +410,31 @@ void test_main_window::asks_for_the_agreement_on_the_first_start_only() {
     window.reset();
     open_window();
     QVERIFY(window->findChild<QWidget*>("agreement_dialog") == nullptr);
+}
+
+// Faults: a control a screen reader announces without a name, a list the keyboard cannot reach,
+// a menu without a mnemonic.
+void test_main_window::every_control_has_a_name_and_takes_the_keyboard() {
+    install(two_languages_two_styles);
+    open_window();
+    for (QWidget* widget : window->findChildren<QWidget*>()) {
+        if (!widget->isVisible() || widget->focusPolicy() == Qt::NoFocus)
+            continue;
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY2(accessible != nullptr && !accessible->text(QAccessible::Name).isEmpty(),
+                 qPrintable(widget->metaObject()->className() + (" " + widget->objectName())));
+    }
+    for (QListWidget* list : {languages(), styles()}) {
+        QVERIFY(list->focusPolicy() & Qt::TabFocus);
+        QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(list);
+        QVERIFY(accessible->childCount() > 0);
+        QCOMPARE(accessible->child(0)->text(QAccessible::Name), list->item(0)->text());
+    }
+    for (QAction* menu : window->menuBar()->actions()) {
+        QVERIFY2(menu->text().contains('&'), qPrintable(menu->text()));
+        for (QAction* entry : menu->menu()->actions())
+            QVERIFY(entry->isSeparator() || !entry->text().isEmpty());
+    }
 }
 
 STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(test_main_window)
