@@ -63,18 +63,9 @@ void info_menu_about::display_info() {
 
 class app_menu_update::implementation {
 public:
-    explicit implementation(QWidget* main_window)
-        : main_window(main_window),
-          dialog(new QFileDialog(main_window, QString(), QDir::homePath())),
+    implementation(app_menu_update* owner, QWidget* main_window)
+        : owner(owner), main_window(main_window),
           notification(new QWidget(main_window, Qt::Window | Qt::CustomizeWindowHint)) {
-        dialog->setObjectName("update_dialog");
-        dialog->setAccessibleName(QObject::tr("Update"));
-        dialog->setOption(QFileDialog::DontUseNativeDialog);
-        dialog->setWindowModality(Qt::WindowModal);
-        dialog->setFilter(QDir::AllDirs | QDir::Files | QDir::Drives | QDir::NoDotAndDotDot);
-        dialog->setViewMode(QFileDialog::Detail);
-        dialog->setFileMode(QFileDialog::ExistingFile);
-        dialog->setNameFilter(QObject::tr(text::executable_filter));
         auto* layout = new QHBoxLayout(notification);
         layout->setContentsMargins(20, 20, 20, 20);
         layout->setSpacing(20);
@@ -88,18 +79,35 @@ public:
             last_directory = directory.toString();
     }
 
+    // Made at its first use: a file dialog costs the window's start more than all the rest.
+    QFileDialog* the_dialog() {
+        if (dialog != nullptr)
+            return dialog;
+        dialog = new QFileDialog(main_window, QString(), QDir::homePath());
+        dialog->setObjectName("update_dialog");
+        dialog->setAccessibleName(QObject::tr("Update"));
+        dialog->setOption(QFileDialog::DontUseNativeDialog);
+        dialog->setWindowModality(Qt::WindowModal);
+        dialog->setFilter(QDir::AllDirs | QDir::Files | QDir::Drives | QDir::NoDotAndDotDot);
+        dialog->setViewMode(QFileDialog::Detail);
+        dialog->setFileMode(QFileDialog::ExistingFile);
+        dialog->setNameFilter(QObject::tr(text::executable_filter));
+        QObject::connect(dialog, &QFileDialog::fileSelected, owner, &app_menu_update::get_update_factually);
+        QObject::connect(dialog, &QFileDialog::rejected, owner, &app_menu_update::rejected);
+        return dialog;
+    }
+
+    app_menu_update* owner;
     QWidget* main_window;
-    QFileDialog* dialog;
+    QFileDialog* dialog = nullptr;
     QWidget* notification;
     QString last_directory;
 };
 
 app_menu_update::app_menu_update(QWidget* parent, QWidget* main_window)
-    : one_action(parent, {tr("Update...")}), pimpl(std::make_unique<implementation>(main_window)) {
+    : one_action(parent, {tr("Update...")}), pimpl(std::make_unique<implementation>(this, main_window)) {
     name_as("app_menu_update");
     connect(widget_ptr(), &QAction::triggered, this, &app_menu_update::get_update);
-    connect(pimpl->dialog, &QFileDialog::fileSelected, this, &app_menu_update::get_update_factually);
-    connect(pimpl->dialog, &QFileDialog::rejected, this, &app_menu_update::rejected);
 }
 
 app_menu_update::~app_menu_update() = default;
@@ -108,12 +116,14 @@ void app_menu_update::get_update() {
     QString directory = pimpl->last_directory;
     if (directory.isEmpty() || !QFileInfo(directory).isDir())
         directory = QDir::homePath();
-    pimpl->dialog->setDirectory(directory);
-    pimpl->dialog->open();
+    QFileDialog* const dialog = pimpl->the_dialog();
+    dialog->setDirectory(directory);
+    dialog->open();
 }
 
 void app_menu_update::get_update_factually(QString const& path) {
-    pimpl->dialog->hide();
+    if (pimpl->dialog != nullptr)
+        pimpl->dialog->hide();
     show_main_window_as_top_window(pimpl->main_window);
     pimpl->last_directory = QFileInfo(path).absolutePath();
     QSettings().setValue(settings_key::parent_directory_of_last_update, pimpl->last_directory);
@@ -132,7 +142,8 @@ void app_menu_update::get_update_factually(QString const& path) {
 }
 
 void app_menu_update::rejected() {
-    pimpl->dialog->hide();
+    if (pimpl->dialog != nullptr)
+        pimpl->dialog->hide();
     show_main_window_as_top_window(pimpl->main_window);
 }
 

@@ -27,7 +27,6 @@ class select_formatting_style::implementation {
 public:
     implementation(select_formatting_style* owner, QWidget* main_window, style_actions const& actions)
         : owner(owner), main_window(main_window), list(new list_of_styles_itself(owner)),
-          dialog(import_dialog_on(main_window, QObject::tr(text::addons_filter), "import_styles_dialog")),
           actions(actions) {
         lay_out_selector(owner, QObject::tr(text::style_caption), list);
         list->setObjectName("styles");
@@ -125,7 +124,17 @@ public:
     select_formatting_style* owner;
     QWidget* main_window;
     list_of_styles_itself* list;
-    QFileDialog* dialog;
+    // Made at its first use: a file dialog costs the window's start more than all the rest.
+    QFileDialog* the_dialog() {
+        if (dialog != nullptr)
+            return dialog;
+        dialog = import_dialog_on(main_window, QObject::tr(text::addons_filter), "import_styles_dialog");
+        QObject::connect(dialog, &QFileDialog::filesSelected, owner, &select_formatting_style::import_styles_factually);
+        QObject::connect(dialog, &QFileDialog::rejected, owner, &select_formatting_style::rejected);
+        return dialog;
+    }
+
+    QFileDialog* dialog = nullptr;
     style_actions actions;
     QString last_imported_directory;
     QString last_exported_directory;
@@ -148,8 +157,6 @@ select_formatting_style::select_formatting_style(QWidget* parent, QWidget* main_
             &select_formatting_style::import_drag_n_dropped_valid_addons);
     connect(list, &list_of_styles_itself::obtain_programming_language, this,
             &select_formatting_style::obtain_programming_language);
-    connect(pimpl->dialog, &QFileDialog::filesSelected, this, &select_formatting_style::import_styles_factually);
-    connect(pimpl->dialog, &QFileDialog::rejected, this, &select_formatting_style::rejected);
 }
 
 select_formatting_style::~select_formatting_style() {
@@ -235,8 +242,9 @@ void select_formatting_style::renaming_finished_by_ESC() {
 
 void select_formatting_style::import_styles() {
     QString const directory = pimpl->last_imported_directory;
-    pimpl->dialog->setDirectory(directory.isEmpty() ? QDir::homePath() : directory);
-    pimpl->dialog->open();
+    QFileDialog* const dialog = pimpl->the_dialog();
+    dialog->setDirectory(directory.isEmpty() ? QDir::homePath() : directory);
+    dialog->open();
 }
 
 void select_formatting_style::import_drag_n_dropped_valid_addons(QStringList const& valid_paths) {
@@ -305,7 +313,8 @@ void select_formatting_style::save_slider_position(int current_position) {
 }
 
 void select_formatting_style::import_styles_factually(QStringList const& paths) {
-    pimpl->dialog->hide();
+    if (pimpl->dialog != nullptr)
+        pimpl->dialog->hide();
     show_main_window_as_top_window(pimpl->main_window);
     pimpl->last_imported_directory = parent_directory_of_first(paths);
     QSettings settings;
@@ -316,7 +325,8 @@ void select_formatting_style::import_styles_factually(QStringList const& paths) 
 }
 
 void select_formatting_style::rejected() {
-    pimpl->dialog->hide();
+    if (pimpl->dialog != nullptr)
+        pimpl->dialog->hide();
     show_main_window_as_top_window(pimpl->main_window);
 }
 

@@ -22,8 +22,6 @@ public:
     implementation(select_programming_language* owner, QWidget* main_window,
                    language_menu_import* import, language_menu_delete* deletion)
         : owner(owner), main_window(main_window), list(new list_of_languages_itself(owner)),
-          dialog(import_dialog_on(main_window, QObject::tr(text::language_plugins_filter),
-                                  "import_languages_dialog")),
           import_action(import), delete_action(deletion) {
         lay_out_selector(owner, QObject::tr(text::language_caption), list);
         list->setObjectName("languages");
@@ -80,7 +78,18 @@ public:
     select_programming_language* owner;
     QWidget* main_window;
     list_of_languages_itself* list;
-    QFileDialog* dialog;
+    // Made at its first use: a file dialog costs the window's start more than all the rest.
+    QFileDialog* the_dialog() {
+        if (dialog != nullptr)
+            return dialog;
+        dialog = import_dialog_on(main_window, QObject::tr(text::language_plugins_filter), "import_languages_dialog");
+        QObject::connect(dialog, &QFileDialog::filesSelected, owner,
+                         &select_programming_language::import_languages_factually);
+        QObject::connect(dialog, &QFileDialog::rejected, owner, &select_programming_language::rejected);
+        return dialog;
+    }
+
+    QFileDialog* dialog = nullptr;
     QString last_directory;
     language_menu_import* import_action;
     language_menu_delete* delete_action;
@@ -99,9 +108,6 @@ select_programming_language::select_programming_language(QWidget* parent, QWidge
             &select_programming_language::save_slider_position);
     connect(list, &list_of_languages_itself::drag_n_dropped_valid_paths, this,
             &select_programming_language::import_drag_n_dropped_valid_plugins);
-    connect(pimpl->dialog, &QFileDialog::filesSelected, this,
-            &select_programming_language::import_languages_factually);
-    connect(pimpl->dialog, &QFileDialog::rejected, this, &select_programming_language::rejected);
 }
 
 select_programming_language::~select_programming_language() = default;
@@ -132,8 +138,9 @@ void select_programming_language::restore_state_of_slider() {
 }
 
 void select_programming_language::import_languages() {
-    pimpl->dialog->setDirectory(pimpl->last_directory.isEmpty() ? QDir::homePath() : pimpl->last_directory);
-    pimpl->dialog->open();
+    QFileDialog* const dialog = pimpl->the_dialog();
+    dialog->setDirectory(pimpl->last_directory.isEmpty() ? QDir::homePath() : pimpl->last_directory);
+    dialog->open();
 }
 
 void select_programming_language::import_drag_n_dropped_valid_plugins(QStringList const& valid_paths) {
@@ -165,7 +172,8 @@ void select_programming_language::save_slider_position(int current_position) {
 }
 
 void select_programming_language::import_languages_factually(QStringList const& paths) {
-    pimpl->dialog->hide();
+    if (pimpl->dialog != nullptr)
+        pimpl->dialog->hide();
     show_main_window_as_top_window(pimpl->main_window);
     pimpl->last_directory = parent_directory_of_first(paths);
     QSettings().setValue(settings_key::parent_directory_of_last_imported_plugin, pimpl->last_directory);
@@ -174,7 +182,8 @@ void select_programming_language::import_languages_factually(QStringList const& 
 }
 
 void select_programming_language::rejected() {
-    pimpl->dialog->hide();
+    if (pimpl->dialog != nullptr)
+        pimpl->dialog->hide();
     show_main_window_as_top_window(pimpl->main_window);
 }
 
