@@ -20,6 +20,9 @@
 #include <QLineEdit>
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QUrl>
 #include <QMenuBar>
 #include <QSettings>
 #include <QSignalSpy>
@@ -139,6 +142,9 @@ private slots:
     void geometry_and_splitter_survive_a_restart();
     void asks_for_the_agreement_on_the_first_start_only();
     void every_control_has_a_name_and_takes_the_keyboard();
+    void takes_only_what_it_can_import_by_dropping_data();
+    void takes_only_what_it_can_import_by_dropping();
+    void alerts_when_the_styles_directory_is_gone();
 };
 
 
@@ -435,6 +441,70 @@ void test_main_window::every_control_has_a_name_and_takes_the_keyboard() {
         for (QAction* entry : menu->menu()->actions())
             QVERIFY(entry->isSeparator() || !entry->text().isEmpty());
     }
+}
+
+void test_main_window::takes_only_what_it_can_import_by_dropping_data() {
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QString>("file");  // a built plugin, or "addon:<language>"
+    QTest::addColumn<QString>("as");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("language plugin") << "languages" << built::other_language_plugin() << "libother.so" << true;
+    QTest::newRow("plugin with an upper-case suffix")
+        << "languages" << built::other_language_plugin() << "libother.SO" << false;
+    QTest::newRow("library that is no plugin") << "languages" << built::library_without_plugin() << "libno.so" << false;
+    QTest::newRow("addon of the current language") << "styles" << "addon:Test" << "Mine[Test].style" << true;
+    QTest::newRow("addon of another language") << "styles" << "addon:Other" << "Mine[Other].style" << false;
+}
+
+// Faults: a drop accepted that the store would refuse or put under the wrong language, or a
+// valid drop refused; the accepted drop not imported.
+void test_main_window::takes_only_what_it_can_import_by_dropping() {
+    QFETCH(QString, list);
+    QFETCH(QString, file);
+    QFETCH(QString, as);
+    QFETCH(bool, accepted);
+    install(one_language_one_style);
+    open_window();
+    QTemporaryDir outside;
+    QString const path = outside.path() + "/" + as;
+    if (file.startsWith("addon:")) {
+        QFile addon(path);
+        QVERIFY(addon.open(QIODevice::WriteOnly));
+        addon.write(addon_text("Mine", file.mid(6)));
+    } else {
+        QVERIFY(QFile::copy(file, path));
+    }
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path)});
+    QWidget* target = window->findChild<QListWidget*>(list)->viewport();
+    QPoint const inside = target->rect().center();
+    QDragEnterEvent enter(inside, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QCOMPARE(enter.isAccepted(), accepted);
+    if (!accepted)
+        return;
+    QDropEvent drop(inside, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+    if (list == "languages")
+        QCOMPARE(selected_text_of(languages()), other_language);
+    else
+        QVERIFY(style_is_installed("Mine", test_language));
+}
+
+// Fault: an import or delete attempted into a directory that is not there, silently.
+void test_main_window::alerts_when_the_styles_directory_is_gone() {
+    install(one_language_one_style);
+    open_window();
+    QString const directory = path_to().addons_directory();
+    QVERIFY(QDir().rename(directory, directory + ".away"));
+    style_selector()->import_styles_factually({directory + ".away/A[Test].style"});
+    QMessageBox* alert = nullptr;
+    QTRY_VERIFY((alert = window->findChild<QMessageBox*>("critical_alert")) != nullptr);
+    QCOMPARE(alert->text(), QString("Something wrong with internal addons directory"));
+    QCOMPARE(alert->informativeText(),
+             "Please make sure this directory\n" + directory + "\nexists and you can write in it.");
+    QVERIFY(QDir().rename(directory + ".away", directory));
+    QCOMPARE(texts_of(styles()), QStringList({"A"}));
 }
 
 STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(test_main_window)
