@@ -38,13 +38,15 @@ unset QT_QPA_PLATFORM
 app_pid=$!
 
 fail() { echo "FAIL: $*"; echo "styles: $(ls "$styles" | tr '\n' ' ')"; cat "$work/app.log"; exit 1; }
-expect_file() { for _ in $(seq 30); do [ -f "$styles/$1" ] && return 0; sleep 0.1; done; fail "$2"; }
-expect_no_file() { for _ in $(seq 30); do [ ! -e "$styles/$1" ] && return 0; sleep 0.1; done; fail "$2"; }
-pause() { sleep "${1:-0.5}"; }
+expect_file() { for _ in $(seq 100); do [ -f "$styles/$1" ] && return 0; sleep 0.1; done; fail "$2"; }
+expect_no_file() { for _ in $(seq 100); do [ ! -e "$styles/$1" ] && return 0; sleep 0.1; done; fail "$2"; }
+# Pauses let the window answer; a slower build (sanitizers) stretches them by STYLE_TARNEL_SLOWER.
+pause() { sleep "$(awk -v s="${1:-0.5}" -v f="${STYLE_TARNEL_SLOWER:-1}" 'BEGIN { print s * f }')"; }
 
-xdotool search --sync --onlyvisible --name "^Style Tarnel$" >/dev/null || fail "the window did not open"
-pause 1
+timeout 60 xdotool search --sync --onlyvisible --name "^Style Tarnel$" >/dev/null || fail "the window did not open"
 # The first start asks for the agreement; Return accepts it.
+timeout 60 xdotool search --sync --onlyvisible --name "license agreement" >/dev/null || fail "no agreement asked"
+pause 1
 xdotool key Return; pause
 # Without a window manager the window sits at the screen's corner: the second language (C++) and
 # its second style are where the layout puts the lists' second rows.
