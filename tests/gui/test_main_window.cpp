@@ -22,6 +22,7 @@
 #include <QListWidget>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QUrl>
 #include <QMenuBar>
 #include <QSettings>
@@ -145,6 +146,7 @@ private slots:
     void takes_only_what_it_can_import_by_dropping_data();
     void takes_only_what_it_can_import_by_dropping();
     void alerts_when_the_styles_directory_is_gone();
+    void scroll_positions_survive_a_restart();
 };
 
 
@@ -505,6 +507,21 @@ void test_main_window::alerts_when_the_styles_directory_is_gone() {
              "Please make sure this directory\n" + directory + "\nexists and you can write in it.");
     QVERIFY(QDir().rename(directory + ".away", directory));
     QCOMPARE(texts_of(styles()), QStringList({"A"}));
+}
+
+// Fault: the position of a long list of styles lost between two starts, or restored before the
+// list knows how far it can scroll.
+void test_main_window::scroll_positions_survive_a_restart() {
+    install(one_language_one_style);
+    for (int i = 0; i < 60; ++i)
+        install_style(QString("Style %1").arg(i, 2, 10, QChar('0')), test_language);
+    open_window();
+    QScrollBar* scroll_bar = styles()->verticalScrollBar();
+    QTRY_VERIFY(scroll_bar->maximum() > 20);
+    scroll_bar->setValue(20);
+    window.reset();
+    open_window();
+    QTRY_COMPARE(styles()->verticalScrollBar()->value(), 20);
 }
 
 STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(test_main_window)
