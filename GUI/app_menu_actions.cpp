@@ -1,6 +1,6 @@
 #include "GUI/app_menu_actions.h"
 
-#include "GUI/bundle_directory_alert.h"
+#include "GUI/top_window.h"
 #include "GUI/messages.h"
 #include "core/kernel.h"
 #include "core/product.h"

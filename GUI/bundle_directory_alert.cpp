@@ -27,12 +27,4 @@ void show_report_about_problems_with(QString const& directory, char const* messa
     box->open();
 }
 
-void show_main_window_as_top_window(QWidget* widget) {
-    if (widget == nullptr)
-        return;
-    QWidget* window = widget->window();
-    window->raise();
-    window->activateWindow();
-}
-
 }  // namespace GUI

@@ -17,9 +17,6 @@ bool this_directory_is_usable(QString const& path);
 void show_report_about_problems_with(QString const& directory, char const* message,
                                      QWidget* main_window);
 
-// The main window (or a window holding `widget`) comes to the front and takes the keyboard.
-void show_main_window_as_top_window(QWidget* widget);
-
 }  // namespace GUI
 
 #endif

@@ -1,6 +1,7 @@
 #include "GUI/select_formatting_style.h"
 
 #include "GUI/bundle_directory_alert.h"
+#include "GUI/top_window.h"
 #include "GUI/invitation.h"
 #include "GUI/list_of_styles_itself.h"
 #include "GUI/menu_actions.h"
