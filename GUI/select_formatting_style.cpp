@@ -18,7 +18,6 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QScrollBar>
-#include <QSet>
 #include <QSettings>
 #include <QToolTip>
 
@@ -166,7 +165,7 @@ select_formatting_style::~select_formatting_style() {
     delete pimpl->list;
 }
 
-QWidget* select_formatting_style::widget_ptr() const { return const_cast<select_formatting_style*>(this); }
+QWidget* select_formatting_style::widget_ptr() { return this; }
 
 void select_formatting_style::remember_current(QLineEdit* editor) { pimpl->renamer = editor; }
 

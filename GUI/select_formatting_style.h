@@ -30,7 +30,7 @@ public:
     select_formatting_style(QWidget* parent, QWidget* main_window, style_actions const& actions);
     ~select_formatting_style() override;
 
-    QWidget* widget_ptr() const;
+    QWidget* widget_ptr();
     void remember_current(QLineEdit* editor);
     void store_renaming_style();
     void set_this_formatting_style(QString const& style);

@@ -113,7 +113,7 @@ select_programming_language::select_programming_language(QWidget* parent, QWidge
 
 select_programming_language::~select_programming_language() = default;
 
-QWidget* select_programming_language::widget_ptr() const { return const_cast<select_programming_language*>(this); }
+QWidget* select_programming_language::widget_ptr() { return this; }
 
 bool select_programming_language::there_is_no_programming_languages() const {
     return this_list_is_empty(pimpl->list);

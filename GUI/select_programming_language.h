@@ -19,7 +19,7 @@ public:
                                 language_menu_delete* deletion);
     ~select_programming_language() override;
 
-    QWidget* widget_ptr() const;
+    QWidget* widget_ptr();
     bool there_is_no_programming_languages() const;
     void set_first_programming_language();
     void set_this_programming_language(QString const& language);

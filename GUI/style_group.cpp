@@ -109,7 +109,7 @@ style_group::style_group(QWidget* parent, QWidget* main_window, style_group_acti
 
 style_group::~style_group() { save_state(); }
 
-QWidget* style_group::widget_ptr() const { return const_cast<style_group*>(this); }
+QWidget* style_group::widget_ptr() { return this; }
 
 bool style_group::there_is_no_programming_languages() const {
     return pimpl->languages->there_is_no_programming_languages();

@@ -48,7 +48,7 @@ public:
     style_group(QWidget* parent, QWidget* main_window, style_group_actions const& actions);
     ~style_group() override;
 
-    QWidget* widget_ptr() const;
+    QWidget* widget_ptr();
     bool there_is_no_programming_languages() const;
     void restore_state_of_splitter();
     void restore_states_of_sliders();
