@@ -10,12 +10,14 @@
 #include "core/path_to.h"
 #include "core/settings_keys.h"
 #include "tests/harness/built_files.h"
+#include "tests/harness/temporary_bundle.h"
 #include "tests/harness/test_main.h"
 
 #include <QAccessible>
 #include <QAction>
 #include <QMenu>
 #include <QDir>
+#include <QFileDialog>
 #include <QFile>
 #include <QLineEdit>
 #include <QKeyEvent>
@@ -305,7 +307,8 @@ void test_main_window::imports_and_deletes_languages() {
 }
 
 // Faults: an addon of another language imported into the current one; an imported style not
-// selected; a deleted style still listed or still on disk.
+// selected; the export offering another name or writing elsewhere; a deleted style still listed
+// or still on disk.
 void test_main_window::imports_and_deletes_styles() {
     install(one_language_one_style);
     open_window();
@@ -318,6 +321,16 @@ void test_main_window::imports_and_deletes_styles() {
     QCOMPARE(selected_text_of(styles()), QString("Mine"));
     QVERIFY(!style_is_installed("Foreign", other_language));
     QVERIFY(action("style_menu_delete")->isEnabled());
+
+    action("style_menu_export")->trigger();
+    QFileDialog* save = nullptr;
+    QTRY_VERIFY((save = window->findChild<QFileDialog*>("export_style_dialog")) != nullptr);
+    QCOMPARE(QFileInfo(save->selectedFiles().value(0)).fileName(), QString("Mine[Test].style"));
+    save->reject();
+    QString const exported = outside.path() + "/exported/Mine[Test].style";
+    QDir().mkpath(outside.path() + "/exported");
+    style_selector()->export_style_factually(exported);
+    QCOMPARE(temporary_bundle::contents_of(exported), addon_text("Mine", test_language));
 
     action("style_menu_delete")->trigger();
     QVERIFY(!style_is_installed("Mine", test_language));
