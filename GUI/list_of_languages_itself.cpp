@@ -5,8 +5,6 @@
 
 #include <QDragEnterEvent>
 #include <QFileInfo>
-#include <QMimeData>
-#include <QUrl>
 
 namespace GUI {
 
@@ -16,41 +14,20 @@ list_of_languages_itself::list_of_languages_itself(QWidget* parent) : QListWidge
 }
 
 void list_of_languages_itself::dragEnterEvent(QDragEnterEvent* event) {
-    valid_paths.clear();
-    if (!event->mimeData()->hasUrls()) {
-        event->ignore();
-        return;
-    }
-    for (QUrl const& url : event->mimeData()->urls()) {
-        QString const path = url.toLocalFile();
-        QFileInfo const file(path);
-        if (file.isFile() && file.fileName().endsWith(text::plugin_suffix, Qt::CaseSensitive) &&
-            kernel().this_is_a_plugin(path.toStdString()))
-            valid_paths << path;
-    }
-    if (valid_paths.isEmpty()) {
-        event->ignore();
-        return;
-    }
-    event->acceptProposedAction();
+    dropped.enter(event, [](QFileInfo const& file) {
+        return file.fileName().endsWith(text::plugin_suffix, Qt::CaseSensitive) &&
+               kernel().this_is_a_plugin(file.filePath().toStdString());
+    });
 }
 
 void list_of_languages_itself::dragMoveEvent(QDragMoveEvent* event) {
-    if (valid_paths.isEmpty())
-        event->ignore();
-    else
-        event->acceptProposedAction();
+    dropped.move(event);
 }
 
 void list_of_languages_itself::dropEvent(QDropEvent* event) {
-    if (valid_paths.isEmpty()) {
-        event->ignore();
-        return;
-    }
-    event->acceptProposedAction();
-    QStringList const dropped = valid_paths;
-    valid_paths.clear();
-    emit drag_n_dropped_valid_paths(dropped);
+    QStringList const paths = dropped.drop(event);
+    if (!paths.isEmpty())
+        emit drag_n_dropped_valid_paths(paths);
 }
 
 }  // namespace GUI

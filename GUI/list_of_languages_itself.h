@@ -2,6 +2,8 @@
 #ifndef STYLE_TARNEL_GUI_LIST_OF_LANGUAGES_ITSELF_H
 #define STYLE_TARNEL_GUI_LIST_OF_LANGUAGES_ITSELF_H
 
+#include "GUI/files_dropped.h"
+
 #include <QListWidget>
 #include <QStringList>
 
@@ -21,8 +23,7 @@ protected:
     void dropEvent(QDropEvent* event) override;
 
 private:
-    // The plugins found in the drag in progress.
-    QStringList valid_paths;
+    files_dropped dropped;
 };
 
 }  // namespace GUI

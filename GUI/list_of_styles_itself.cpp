@@ -28,42 +28,21 @@ QString list_of_styles_itself::current_language() {
 }
 
 void list_of_styles_itself::dragEnterEvent(QDragEnterEvent* event) {
-    valid_paths.clear();
-    if (!event->mimeData()->hasUrls()) {
-        event->ignore();
-        return;
-    }
     std::string const language = current_language().toStdString();
-    for (QUrl const& url : event->mimeData()->urls()) {
-        QString const path = url.toLocalFile();
-        QFileInfo const file(path);
-        if (file.isFile() && file.fileName().endsWith(text::addon_suffix, Qt::CaseSensitive) &&
-            !language.empty() && obtain_style_description().from_raw(path).language == language)
-            valid_paths << path;
-    }
-    if (valid_paths.isEmpty()) {
-        event->ignore();
-        return;
-    }
-    event->acceptProposedAction();
+    dropped.enter(event, [&](QFileInfo const& file) {
+        return file.fileName().endsWith(text::addon_suffix, Qt::CaseSensitive) && !language.empty() &&
+               obtain_style_description().from_raw(file.filePath()).language == language;
+    });
 }
 
 void list_of_styles_itself::dragMoveEvent(QDragMoveEvent* event) {
-    if (valid_paths.isEmpty())
-        event->ignore();
-    else
-        event->acceptProposedAction();
+    dropped.move(event);
 }
 
 void list_of_styles_itself::dropEvent(QDropEvent* event) {
-    if (valid_paths.isEmpty()) {
-        event->ignore();
-        return;
-    }
-    event->acceptProposedAction();
-    QStringList const dropped = valid_paths;
-    valid_paths.clear();
-    emit drag_n_dropped_valid_paths(dropped);
+    QStringList const paths = dropped.drop(event);
+    if (!paths.isEmpty())
+        emit drag_n_dropped_valid_paths(paths);
 }
 
 void list_of_styles_itself::mousePressEvent(QMouseEvent* event) {

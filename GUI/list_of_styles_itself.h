@@ -3,6 +3,8 @@
 #ifndef STYLE_TARNEL_GUI_LIST_OF_STYLES_ITSELF_H
 #define STYLE_TARNEL_GUI_LIST_OF_STYLES_ITSELF_H
 
+#include "GUI/files_dropped.h"
+
 #include <QListWidget>
 #include <QPoint>
 #include <QStringList>
@@ -28,7 +30,7 @@ protected:
 private:
     QString current_language();
 
-    QStringList valid_paths;
+    files_dropped dropped;
     QPoint drag_start_position;
 };
 
