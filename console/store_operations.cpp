@@ -2,7 +2,7 @@
 #include "console/result_of_run.h"
 
 #include "console/messages.h"
-#include "core/installed_files.h"
+#include "core/language_plugin.h"
 #include "core/kernel.h"
 #include "core/style_addon.h"
 #include "core/there_is_no_such.h"

@@ -3,12 +3,10 @@
 #include "core/directory_listing.h"
 #include "core/path_to.h"
 #include "core/style_addon.h"
-#include "engine/plugin_obtainer.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QLibrary>
-#include <QPluginLoader>
+#include <QStandardPaths>
 
 namespace {
 
@@ -32,40 +30,21 @@ addons_pass walk_addons(addon_wish const& is_wanted, stray_files stray) {
 
 }  // namespace
 
-bool language_plugin::operator()(std::string const& path) const {
-    return QLibrary::isLibrary(QFileInfo(QString::fromStdString(path)).fileName());
-}
-
 QString path_of_plugin(std::string const& file_name) {
     return path_to().plugins_directory() + QDir::separator() + QString::fromStdString(file_name);
 }
 
-bool first_plugin_where(
-    std::function<bool(std::string const& file_name, interface_to_language_plugin& plugin)> const&
-        is_wanted) {
-    QPluginLoader loader;
-    for (auto const& file_name : list_of_names_of_plugins()) {
-        interface_to_language_plugin* plugin = plugin_obtainer(loader)(path_of_plugin(file_name));
-        if (plugin == nullptr)
-            continue;
-        // A plugin is code from outside: one that throws when asked counts as no plugin.
-        try {
-            if (is_wanted(file_name, *plugin))
-                return true;
-        } catch (...) {
-        }
-    }
-    return false;
+std::vector<plugin_description> installed_plugins() {
+    QString const cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+    return describe_plugins(cache.isEmpty() ? QString() : cache + "/style-tarnel/plugins.json")
+        .in(path_to().plugins_directory(), list_of_names_of_plugins());
 }
 
-bool with_plugin_of(std::string const& language,
-                    std::function<void(interface_to_language_plugin& plugin)> const& use) {
-    return first_plugin_where([&](std::string const&, interface_to_language_plugin& plugin) {
-        if (plugin.language_name() != language)
-            return false;
-        use(plugin);
-        return true;
-    });
+boost::optional<plugin_description> plugin_of(std::string const& language) {
+    for (auto& plugin : installed_plugins())
+        if (plugin.language == language)
+            return std::move(plugin);
+    return boost::none;
 }
 
 addons_pass first_addon_where(

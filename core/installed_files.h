@@ -1,36 +1,29 @@
 // Going through what is installed, in the order of the directory listings: the plugins that load
-// as language plugins, and the style addons with their descriptions. Every call lists and loads
-// anew; nothing is kept between calls.
+// as language plugins, and the style addons with their descriptions. Every call lists anew; what
+// plugins say of themselves is kept in a cache file while their files stay the same.
 #ifndef STYLE_TARNEL_CORE_INSTALLED_FILES_H
 #define STYLE_TARNEL_CORE_INSTALLED_FILES_H
 
 #include "core/style_description.h"
-#include "interface_to_language_plugin.h"
+#include "engine/plugin_descriptions.h"
+
+#include <boost/optional.hpp>
 
 #include <QString>
 
 #include <functional>
 #include <string>
-
-// Whether the file name part of `path` has the form of a dynamic library.
-class language_plugin {
-public:
-    bool operator()(std::string const& path) const;
-};
+#include <vector>
 
 // The full path of the plugins directory's file of that name.
 QString path_of_plugin(std::string const& file_name);
 
-// Calls `is_wanted` with each plugin file's name and its loaded plugin (files that do not load
-// are skipped) until it returns true. The plugin is valid only during that call. True when a
-// plugin was wanted.
-bool first_plugin_where(
-    std::function<bool(std::string const& file_name, interface_to_language_plugin& plugin)> const&
-        is_wanted);
+// The language plugins installed, in the order of the listing, each as it describes itself. Only
+// plugins that changed since they were last described are loaded.
+std::vector<plugin_description> installed_plugins();
 
-// True when some plugin reports exactly that language name; `use` is then called with the first.
-bool with_plugin_of(std::string const& language,
-                    std::function<void(interface_to_language_plugin& plugin)> const& use);
+// The first installed plugin that reports exactly that language name.
+boost::optional<plugin_description> plugin_of(std::string const& language);
 
 enum class addons_pass { exhausted, found, broken };
 

@@ -1,7 +1,9 @@
 // The single facade through which both front ends reach the language and style store and the
-// revision engine. It holds no state: every call lists the bundle's directories again, loads the
-// plugins it needs again and reads the settings again. Nothing here prints; failures come back as
-// false, empty strings, empty descriptions or absent lists, and the front ends word them.
+// revision engine. It holds no state: every call lists the bundle's directories again and reads
+// the settings again. What a plugin says of itself (language, extensions, keywords, structures) is
+// kept in a cache file while the plugin file stays the same, so only a revision, or a plugin file
+// that changed, loads a plugin. Nothing here prints; failures come back as false, empty strings,
+// empty descriptions or absent lists, and the front ends word them.
 #ifndef STYLE_TARNEL_CORE_KERNEL_H
 #define STYLE_TARNEL_CORE_KERNEL_H
 

@@ -6,10 +6,8 @@
 
 std::vector<std::string> kernel::supported_programming_languages() const {
     std::vector<std::string> languages;
-    first_plugin_where([&](std::string const&, interface_to_language_plugin& plugin) {
-        languages.push_back(plugin.language_name());
-        return false;
-    });
+    for (auto const& plugin : installed_plugins())
+        languages.push_back(plugin.language);
     return languages;
 }
 
@@ -43,27 +41,18 @@ std::map<std::string, std::vector<std::string>> kernel::supported_langs_n_styles
 
 std::map<std::string, std::string> kernel::info_about_structures_of(
     std::string const& language) const {
-    std::map<std::string, std::string> structures;
-    with_plugin_of(language, [&](interface_to_language_plugin& plugin) {
-        structures = plugin.forms_of_structures();
-    });
-    return structures;
+    auto const plugin = plugin_of(language);
+    return plugin ? plugin->structures : std::map<std::string, std::string>();
 }
 
 std::vector<std::string> kernel::list_of_keywords_of(std::string const& language) const {
-    std::vector<std::string> keywords;
-    with_plugin_of(language, [&](interface_to_language_plugin& plugin) {
-        keywords = plugin.list_of_keywords();
-    });
-    return keywords;
+    auto const plugin = plugin_of(language);
+    return plugin ? plugin->keywords : std::vector<std::string>();
 }
 
 std::vector<std::string> kernel::filename_extensions_for(std::string const& language) const {
-    std::vector<std::string> extensions;
-    with_plugin_of(language, [&](interface_to_language_plugin& plugin) {
-        extensions = plugin.filename_extensions();
-    });
-    return extensions;
+    auto const plugin = plugin_of(language);
+    return plugin ? plugin->extensions : std::vector<std::string>();
 }
 
 std::vector<std::string> kernel::list_of_placeholders() const {

@@ -29,15 +29,14 @@ bool kernel::delete_language_by(std::string const& language) const {
     bool deleted = true;
     // Every plugin of that name goes, a twin reporting the same name too; the styles go with a
     // plugin that could be removed and stay with one that could not.
-    first_plugin_where([&](std::string const& file_name, interface_to_language_plugin& plugin) {
-        if (plugin.language_name() != language)
-            return false;
-        if (!detail::remove::from<plugins_directory>(file_name))
+    for (auto const& plugin : installed_plugins()) {
+        if (plugin.language != language)
+            continue;
+        if (!detail::remove::from<plugins_directory>(plugin.file_name))
             deleted = false;
         else if (!remove_addons_of(language))
             deleted = false;
-        return false;
-    });
+    }
     return deleted;
 }
 

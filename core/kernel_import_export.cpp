@@ -58,10 +58,8 @@ style_description kernel::import_style_from(std::string const& path) const {
     style_description const description = obtain_style_description().from_raw(path);
     if (description.is_empty())
         return description;
-    bool stored = true;
-    with_plugin_of(description.language, [&](interface_to_language_plugin&) {
-        stored = store_addon(path, description);
-    });
+    // The front ends refuse a style of a language that is not installed before they get here.
+    bool const stored = !plugin_of(description.language) || store_addon(path, description);
     return stored ? description : style_description();
 }
 

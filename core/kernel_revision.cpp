@@ -20,14 +20,8 @@ records_location where_change_records_live() {
 // The first plugin file in the listing whose plugin names the task's language. None found: the
 // language's own name, which no plugin file has, so the run says which plugin it missed.
 std::string plugin_file_for(std::string const& language) {
-    std::string found = language;
-    first_plugin_where([&](std::string const& file_name, interface_to_language_plugin& plugin) {
-        if (plugin.language_name() != language)
-            return false;
-        found = file_name;
-        return true;
-    });
-    return found;
+    auto const plugin = plugin_of(language);
+    return plugin ? plugin->file_name : language;
 }
 
 // The addon file whose inside names the task's style and language. None found: the name such an

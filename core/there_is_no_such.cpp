@@ -6,7 +6,7 @@
 #include <algorithm>
 
 bool there_is_no_such::language(std::string const& language) const {
-    return !with_plugin_of(language, [](interface_to_language_plugin&) {});
+    return !plugin_of(language);
 }
 
 bool there_is_no_such::style(std::string const& style, std::string const& language) const {
