@@ -34,10 +34,13 @@ QString path_of_plugin(std::string const& file_name) {
     return path_to().plugins_directory() + QDir::separator() + QString::fromStdString(file_name);
 }
 
-std::vector<plugin_description> installed_plugins() {
+describe_plugins plugin_describer() {
     QString const cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
-    return describe_plugins(cache.isEmpty() ? QString() : cache + "/style-tarnel/plugins.json")
-        .in(path_to().plugins_directory(), list_of_names_of_plugins());
+    return describe_plugins(cache.isEmpty() ? QString() : cache + "/style-tarnel/plugins.json");
+}
+
+std::vector<plugin_description> installed_plugins() {
+    return plugin_describer().in(path_to().plugins_directory(), list_of_names_of_plugins());
 }
 
 boost::optional<plugin_description> plugin_of(std::string const& language) {

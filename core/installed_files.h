@@ -18,6 +18,9 @@
 // The full path of the plugins directory's file of that name.
 QString path_of_plugin(std::string const& file_name);
 
+// What plugins say of themselves, kept in the user's cache directory.
+describe_plugins plugin_describer();
+
 // The language plugins installed, in the order of the listing, each as it describes itself. Only
 // plugins that changed since they were last described are loaded.
 std::vector<plugin_description> installed_plugins();

@@ -6,13 +6,11 @@
 #include "core/installed_files.h"
 #include "core/store_files.h"
 #include "core/style_addon.h"
-#include "engine/plugin_obtainer.h"
 #include "engine/read_from.h"
 #include "engine/write_to.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QPluginLoader>
 
 namespace {
 
@@ -28,21 +26,21 @@ bool store_addon(std::string const& path, style_description const& description) 
 }  // namespace
 
 std::string kernel::import_language_from(std::string const& path) const {
-    std::string language;
     // The copy must load as a language plugin and name its language before it replaces a plugin
-    // of the same file name.
+    // of the same file name. What it says is kept for the file in its place: this process may
+    // hold the replaced plugin loaded under that name, and would describe that one.
+    std::optional<plugin_description> description;
+    bool complete = false;
     bool const stored = store::in<plugins_directory>(from_utf8(path), [&](QString const& copy) {
-        QPluginLoader loader;
-        interface_to_language_plugin* plugin = plugin_obtainer(loader)(path_of_plugin(copy.toStdString()));
-        try {
-            if (plugin != nullptr)
-                language = plugin->language_name();
-        } catch (...) {
-            language.clear();
-        }
-        return !language.empty();
+        description = plugin_describer().asking(path_of_plugin(copy.toStdString()), complete);
+        return description && !description->language.empty();
     });
-    return stored ? language : std::string();
+    if (!stored)
+        return std::string();
+    if (complete)
+        plugin_describer().remember(path_of_plugin(QFileInfo(from_utf8(path)).fileName().toStdString()),
+                                    *description);
+    return description->language;
 }
 
 style_description kernel::import_style_from(std::string const& path,

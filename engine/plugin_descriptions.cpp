@@ -13,8 +13,6 @@
 
 #include <sys/stat.h>
 
-#include <optional>
-
 namespace {
 
 // What tells one plugin file from the next one of the same name: replacing or rewriting a file
@@ -69,11 +67,10 @@ plugin_description description_of(QJsonObject const& json, std::string const& fi
     return description;
 }
 
-// Asks the plugin itself. Absent when the file is no language plugin of this interface or throws
-// when asked its language; `complete` is false when it threw when asked anything else.
 std::optional<plugin_description> description_by_loading(QString const& path,
                                                          std::string const& file_name,
                                                          bool& complete) {
+    complete = false;
     QPluginLoader loader;
     interface_to_language_plugin* plugin = plugin_obtainer(loader)(path);
     if (plugin == nullptr)
@@ -136,7 +133,7 @@ std::vector<plugin_description> describe_plugins::in(
     bool cache_changed = false;
     std::vector<plugin_description> descriptions;
     for (auto const& file_name : file_names) {
-        QString const path = QDir(directory).absoluteFilePath(QString::fromStdString(file_name));
+        QString const path = QDir::cleanPath(QDir(directory).absoluteFilePath(QString::fromStdString(file_name)));
         QString const identity = identity_of(path);
         QJsonObject const cached = plugins.value(path).toObject();
         if (!identity.isEmpty() && cached.value("identity").toString() == identity) {
@@ -156,4 +153,18 @@ std::vector<plugin_description> describe_plugins::in(
     if (cache_changed)
         write_cache(cache_file, plugins);
     return descriptions;
+}
+
+std::optional<plugin_description> describe_plugins::asking(QString const& path, bool& complete) const {
+    return description_by_loading(path, QFileInfo(path).fileName().toStdString(), complete);
+}
+
+void describe_plugins::remember(QString const& path, plugin_description const& description) const {
+    QString const absolute = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
+    QString const identity = identity_of(absolute);
+    if (cache_file.isEmpty() || identity.isEmpty())
+        return;
+    QJsonObject plugins = read_cache(cache_file);
+    plugins.insert(absolute, json_of(description, identity));
+    write_cache(cache_file, plugins);
 }

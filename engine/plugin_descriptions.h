@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,6 +31,15 @@ public:
     // plugin, one that throws when asked anything else is described without it and not cached.
     std::vector<plugin_description> in(QString const& directory,
                                        std::vector<std::string> const& file_names) const;
+
+    // Asks the plugin file at `path` itself, whatever the cache holds; absent when it is no
+    // language plugin of this interface or throws when asked its language. `complete` tells
+    // whether it answered every other question too.
+    std::optional<plugin_description> asking(QString const& path, bool& complete) const;
+
+    // Keeps `description` as that of the file now at `path`: for a plugin just copied into place,
+    // whose old file of the same name this process may still hold loaded under that name.
+    void remember(QString const& path, plugin_description const& description) const;
 
 private:
     QString cache_file;

@@ -1,7 +1,10 @@
 // What plugins say of themselves is kept between runs: a plugin file that changed is asked again,
 // one that did not is not loaded, and a cache file that is no cache is no harm.
+#include "core/kernel.h"
+#include "core/path_to.h"
 #include "tests/harness/built_files.h"
 #include "tests/harness/temporary_bundle.h"
+#include "tests/harness/test_main.h"
 
 #include <QDir>
 #include <QRegularExpression>
@@ -26,6 +29,7 @@ class test_plugin_descriptions : public QObject {
 private slots:
     void lists_what_the_plugin_files_hold_now_data();
     void lists_what_the_plugin_files_hold_now();
+    void lists_a_language_imported_over_a_plugin_this_process_has_loaded();
 };
 
 void test_plugin_descriptions::lists_what_the_plugin_files_hold_now_data() {
@@ -66,5 +70,19 @@ void test_plugin_descriptions::lists_what_the_plugin_files_hold_now() {
     QCOMPARE(languages_listed_by(bundle, options), listed);
 }
 
-QTEST_GUILESS_MAIN(test_plugin_descriptions)
+// A process keeps a plugin it loaded under its file name, however the file changes afterwards:
+// asked again by that name, it would describe the replaced plugin.
+void test_plugin_descriptions::lists_a_language_imported_over_a_plugin_this_process_has_loaded() {
+    install_test_languages(path_to().plugins_directory(), path_to().addons_directory());
+    std::vector<std::string> const before = kernel().supported_programming_languages();
+    QCOMPARE(before, (std::vector<std::string>{"Other", "Test"}));
+    QTemporaryDir outside;
+    QString const other_as_test = outside.filePath("libtest-language-plugin.so");
+    QVERIFY(QFile::copy(built::other_language_plugin(), other_as_test));
+    QCOMPARE(kernel().import_language_from(other_as_test.toStdString()), std::string("Other"));
+    std::vector<std::string> const after = kernel().supported_programming_languages();
+    QCOMPARE(after, (std::vector<std::string>{"Other", "Other"}));
+}
+
+STYLE_TARNEL_TEST_MAIN_IN_BUNDLE(test_plugin_descriptions)
 #include "test_plugin_descriptions.moc"
