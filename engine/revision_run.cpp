@@ -7,10 +7,13 @@
 #include "engine/plugin_obtainer.h"
 #include "engine/read_from.h"
 #include "engine/traits_of.h"
+#include "engine/work_in_order.h"
 #include "engine/write_in.h"
 #include "engine/write_to.h"
 
 #include <QDir>
+#include <QJsonObject>
+#include <QThread>
 
 #include <algorithm>
 
@@ -39,6 +42,19 @@ plugin_answer ask(interface_to_language_plugin* plugin, std::string const& text,
     if (result.empty() && !holds_only_white_space(text))
         return plugin_answer::refused;
     return plugin_answer::revised;
+}
+
+// One worker per core, or as many as STYLE_TARNEL_JOBS says, for a plugin that declares in its
+// metadata ("reentrant": true) that its revise() may run on several threads at once; one for
+// any other.
+int workers_for(QPluginLoader const& loader) {
+    if (!loader.metaData().value("MetaData").toObject().value("reentrant").toBool())
+        return 1;
+    bool given = false;
+    int const wished = qEnvironmentVariableIntValue("STYLE_TARNEL_JOBS", &given);
+    if (given && wished > 0)
+        return wished;
+    return std::max(1, QThread::idealThreadCount());
 }
 
 }  // namespace
@@ -84,46 +100,61 @@ bool revision_run::prepare() {
         break;
     }
     collected = obtain_full_file_paths_from(request.paths).with(QString::fromStdString(request.extensions));
+    worker_count = workers_for(loader);
     return true;
 }
 
+struct revision_run::file_outcome {
+    std::string report;   // what the report says of the file
+    bool read = false;    // counts as revised
+    bool reached = false;  // reached the progress step
+    bool changed = false;
+    bool recorded = false;  // gets a change record
+};
+
 bool revision_run::revise_all(std::function<bool()> const& stop_requested,
                               std::function<void(unsigned long, int)> const& reached) {
-    // Read before every file, so that a stop during the collection of a large tree or among
+    // Asked before every file, so that a stop during the collection of a large tree or among
     // skipped files ends the run as soon as one during a revision.
     bool stopped = collected.isEmpty() && stop_requested();
-    for (auto const& path : collected) {
-        if ((stopped = stop_requested()))
-            break;
-        if (revise(path))
-            reached(revised_count, found());
+    if (!collected.isEmpty()) {
+        stopped = work_in_order<file_outcome>(
+                      [&](int item) { return revise(collected[item]); },
+                      [&](int item, file_outcome& outcome) { take(collected[item], outcome, reached); },
+                      stop_requested)
+                      .on(worker_count, found());
     }
     if (stopped)
         write_in(report).about_interruption();
     return stopped;
 }
 
-bool revision_run::revise(QString const& path) {
-    write_in const write(report);
+revision_run::file_outcome revision_run::revise(QString const& path) const {
+    file_outcome outcome;
+    write_in const write(outcome.report);
     // One `stat` for the accessibility test, the records and the check for edits by others.
     file_status const before(path);
     if (!before.is_readable_and_writable_file()) {
         write.about_invalid_file(path);
-        return false;
+        return outcome;
     }
-    if (this_source_file(records.settings())
-            .was_not_changed(path, before.modification_time(), request.language, request.style,
-                             addon_modified))
-        return false;
+    {
+        std::lock_guard<std::mutex> const lock(records_guard);
+        if (this_source_file(records.settings())
+                .was_not_changed(path, before.modification_time(), request.language, request.style,
+                                 addon_modified))
+            return outcome;
+    }
     std::string text;
     if (!read_from(path).to(text)) {
         write.about_invalid_file(path);
-        return false;
+        return outcome;
     }
-    ++revised_count;
+    outcome.read = true;
     if (text.empty())
-        return false;
+        return outcome;
 
+    outcome.reached = true;
     std::string result;
     plugin_answer const answer = ask(plugin, text, addon_text, result);
     if (file_status(path) != before) {
@@ -131,22 +162,35 @@ bool revision_run::revise(QString const& path) {
         // about text that is gone, writing it would undo the edit, and a record would hide the
         // new content from the next run.
         write.about_invalid_file(path);
-        return true;
+        return outcome;
     }
     if (answer == plugin_answer::refused)
         write.about_syntax_error_in(path);
     else if (result != text) {
         if (write_to(path).from(result))
-            ++changed_count;
+            outcome.changed = true;
         else
             write.about_invalid_file(path);
     }
     // Also after a refusal or a failed write: such a file waits until it, the style or the
     // addon changes.
-    save_info_about_changes_of(records.settings())
-        .this_source_file(path, request.language, request.style, addon_modified);
-    records.sync_if_due();
-    return true;
+    outcome.recorded = true;
+    return outcome;
+}
+
+void revision_run::take(QString const& path, file_outcome& outcome,
+                        std::function<void(unsigned long, int)> const& reached) {
+    report += outcome.report;
+    revised_count += outcome.read ? 1 : 0;
+    changed_count += outcome.changed ? 1 : 0;
+    if (outcome.recorded) {
+        std::lock_guard<std::mutex> const lock(records_guard);
+        save_info_about_changes_of(records.settings())
+            .this_source_file(path, request.language, request.style, addon_modified);
+        records.sync_if_due();
+    }
+    if (outcome.reached)
+        reached(revised_count, found());
 }
 
 void revision_run::finish() {

@@ -13,6 +13,7 @@
 #include <QStringList>
 
 #include <functional>
+#include <mutex>
 #include <string>
 
 class revision_run {
@@ -29,22 +30,30 @@ public:
     unsigned long revised() const { return revised_count; }
     unsigned long changed() const { return changed_count; }
 
-    // Revises the collected files in order. `stop_requested` is asked before every file (and once
-    // when there is none); when it answers true the interruption goes into the report and the
-    // loop ends. `reached` is called after every file that reached the progress step. True when
-    // the run was stopped.
+    // Revises the collected files: on as many workers as the machine has cores (or as
+    // STYLE_TARNEL_JOBS says) when the plugin declares that its revise() may run on several
+    // threads at once, otherwise on this thread; either way the report, the records and
+    // `reached` follow the order of the files. `stop_requested` is asked before every file (and
+    // once when there is none); when it answers true no further file is started, the ones under
+    // way are finished, the interruption goes into the report and the loop ends. `reached` is
+    // called after every file that reached the progress step. True when the run was stopped.
     bool revise_all(std::function<bool()> const& stop_requested,
                     std::function<void(unsigned long revised, int found)> const& reached);
 
-    // The steps for one file. True when the file reached the progress step: it was read with
-    // content and handed to the plugin (whatever came of it). False when it was inaccessible,
-    // unreadable, unchanged since its last revision, or empty.
-    bool revise(QString const& path);
+    // How many workers revise_all uses.
+    int workers() const { return worker_count; }
 
     // Tells the plugin the run is over, writes the counts in the report, saves the records.
     void finish();
 
 private:
+    struct file_outcome;
+    // The steps for one file, on any worker: everything but what the run keeps in order.
+    file_outcome revise(QString const& path) const;
+    // What the run keeps of one file's outcome, in the order of the files.
+    void take(QString const& path, file_outcome& outcome,
+              std::function<void(unsigned long, int)> const& reached);
+
     std::string& report;
     revision_request const request;
     QPluginLoader loader;
@@ -55,6 +64,8 @@ private:
     unsigned long revised_count = 0;
     unsigned long changed_count = 0;
     change_record_store records;
+    mutable std::mutex records_guard;  // workers read the records while this thread writes them
+    int worker_count = 1;
 };
 
 #endif
