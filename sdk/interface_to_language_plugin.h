@@ -5,6 +5,14 @@
 // interface with Q_INTERFACES(interface_to_language_plugin) and declares
 //     Q_PLUGIN_METADATA(IID STYLE_TARNEL_INTERFACE_ID)
 // The order of the virtual members below is the binary interface: never reorder them.
+//
+// The host calls a plugin from one thread at a time, unless the plugin's metadata says that
+// revise() may run on several threads at once: a JSON file given to the metadata macro,
+//     Q_PLUGIN_METADATA(IID STYLE_TARNEL_INTERFACE_ID FILE "my_plugin.json")
+// holding {"reentrant": true}. The host then revises the files of a run on several workers (one
+// per core unless STYLE_TARNEL_JOBS=N says otherwise), and a plugin must keep whatever revise()
+// shares between calls (caches, the last addon read) safe for that. The other members are still
+// called from one thread at a time. A plugin without the key keeps being called as before.
 #ifndef STYLE_TARNEL_INTERFACE_TO_LANGUAGE_PLUGIN_H
 #define STYLE_TARNEL_INTERFACE_TO_LANGUAGE_PLUGIN_H
 

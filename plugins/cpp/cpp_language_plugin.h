@@ -8,7 +8,8 @@
 
 class cpp_language_plugin : public QObject, public tarnel_engine::language_plugin_base {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID STYLE_TARNEL_INTERFACE_ID)
+    // revise() may run on several threads at once.
+    Q_PLUGIN_METADATA(IID STYLE_TARNEL_INTERFACE_ID FILE "../engine/language_plugin.json")
     Q_INTERFACES(interface_to_language_plugin)
 public:
     cpp_language_plugin();

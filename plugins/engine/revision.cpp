@@ -41,7 +41,23 @@ struct reviser::run_state {
 reviser::reviser(language_description const& language) : language(language) {}
 reviser::~reviser() = default;
 
-void reviser::forget_the_run() { run.reset(); }
+void reviser::forget_the_run() {
+    std::lock_guard<std::mutex> const lock(guard);
+    run.reset();
+}
+
+std::shared_ptr<reviser::run_state const> reviser::options_for(std::string const& addon) {
+    {
+        std::lock_guard<std::mutex> const lock(guard);
+        if (run && run->addon == addon)
+            return run;
+    }
+    // The inference cache makes workers asking for the same addon wait for one search.
+    auto found = std::make_shared<run_state const>(run_state{addon, inference_cache::shared().style_for(addon, language)});
+    std::lock_guard<std::mutex> const lock(guard);
+    run = found;
+    return found;
+}
 
 std::string reviser::revise(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
     try {
@@ -53,9 +69,7 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
             return source;
         if (!brackets_are_balanced_in(*decoded))
             return syntax_error;
-        if (!run || run->addon != addon)
-            run = std::make_unique<run_state>(run_state{addon, inference_cache::shared().style_for(addon, language)});
-        clang::format::FormatStyle style = run->style;
+        clang::format::FormatStyle style = options_for(addon)->style;
         style.LineEnding = engine_line_ending(encoding.ending());
 
         engine_outcome outcome = format_with(style).the_code(*decoded);

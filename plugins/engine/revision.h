@@ -8,10 +8,12 @@
 
 #include <map>
 #include <memory>
+#include <mutex>
 #include <string>
 
 namespace tarnel_engine {
 
+// Safe to use from several threads at once: the host revises files on several workers.
 class reviser {
 public:
     explicit reviser(language_description const& language);
@@ -27,8 +29,12 @@ public:
 
 private:
     struct run_state;
+    // The options of the addon last asked for; revisions on several threads share it.
+    std::shared_ptr<run_state const> options_for(std::string const& addon);
+
     language_description const& language;
-    std::unique_ptr<run_state> run;
+    std::mutex guard;
+    std::shared_ptr<run_state const> run;
 };
 
 // The options inferred from an addon, in clang-format's configuration syntax.

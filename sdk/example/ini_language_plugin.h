@@ -9,7 +9,9 @@
 
 class ini_language_plugin : public QObject, public interface_to_language_plugin {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID STYLE_TARNEL_INTERFACE_ID)
+    // revise() keeps no state between calls, so the metadata lets the host call it from several
+    // threads at once.
+    Q_PLUGIN_METADATA(IID STYLE_TARNEL_INTERFACE_ID FILE "ini_language_plugin.json")
     Q_INTERFACES(interface_to_language_plugin)
 public:
     std::string language_name() override { return "INI"; }

@@ -17,6 +17,8 @@ inline QString test_plugin(QString const& file) { return QString(STYLE_TARNEL_TE
 inline QString test_language_plugin() { return test_plugin("libtest-language-plugin.so"); }
 inline QString twin_language_plugin() { return test_plugin("libtwin-language-plugin.so"); }
 inline QString other_language_plugin() { return test_plugin("libother-language-plugin.so"); }
+// "Test" again, declaring that its revise() may run on several threads at once.
+inline QString reentrant_language_plugin() { return test_plugin("libreentrant-language-plugin.so"); }
 inline QString plugin_without_interface() { return test_plugin("libno-interface-plugin.so"); }
 inline QString library_without_plugin() { return test_plugin("libno-qt-plugin.so"); }
 

@@ -1,5 +1,6 @@
 #include "test_language_plugin.h"
 
+#include <atomic>
 #include <chrono>
 #include <csignal>
 #include <cstdio>
@@ -39,6 +40,18 @@ void throw_if_asked(char const* variable = "TEST_PLUGIN_THROWING") {
         throw std::runtime_error("the test plugin was asked to throw");
 }
 
+std::atomic<int> calls_under_way{0};
+
+// Counts the revise() calls under way while it lives.
+class call_under_way {
+public:
+    call_under_way() {
+        if (++calls_under_way > 1)
+            log("overlapping revise");
+    }
+    ~call_under_way() { --calls_under_way; }
+};
+
 }  // namespace
 
 std::string test_language_plugin::language_name() {
@@ -71,9 +84,12 @@ std::map<std::string, std::string> test_language_plugin::forms_of_structures() {
 
 std::string test_language_plugin::revise(std::string const& source, std::string const&,
                                          line_ending_traits const& traits) {
+    call_under_way const counted;
     log("revise " + hex(traits.EOL) + " " + hex(traits.space) + " " + std::to_string(source.size()));
-    if (char const* delay = std::getenv("TEST_PLUGIN_DELAY_MS"))
-        std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(delay)));
+    if (char const* delay = std::getenv("TEST_PLUGIN_DELAY_MS")) {
+        int const slower = source.find("SLOW") != std::string::npos ? 10 : 1;
+        std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(delay) * slower));
+    }
     if (source.find("SYNTAX_ERROR") != std::string::npos)
         return STYLE_TARNEL_SYNTAX_ERROR_TEXT;
     if (source.find("THROW") != std::string::npos)

@@ -5,7 +5,10 @@
 //   SYNTAX_ERROR -> the syntax-error text;  THROW -> throws;  EMPTY -> returns "".
 // With TEST_PLUGIN_LOG set, each call appends a line to that file:
 //   "<tag> revise <EOL in hex> <space in hex> <source size>" and "<tag> end_of_revision".
-// With TEST_PLUGIN_DELAY_MS set, each revise() sleeps that long first.
+// With TEST_PLUGIN_DELAY_MS set, each revise() sleeps that long first (ten times as long for a
+// source holding SLOW). A revise() called while
+// another is under way logs "<tag> overlapping revise" as well; only a build with
+// TEST_PLUGIN_REENTRANT says in its metadata that the host may do that.
 // With TEST_PLUGIN_THROWING set to its tag, the plugin throws from language_name(),
 // list_of_keywords(), filename_extensions() and forms_of_structures(); with
 // TEST_PLUGIN_FORMS_THROWING, from forms_of_structures() alone; with TEST_PLUGIN_INTERRUPTING,
@@ -24,7 +27,11 @@
 
 class test_language_plugin : public QObject, public interface_to_language_plugin {
     Q_OBJECT
+#ifdef TEST_PLUGIN_REENTRANT
+    Q_PLUGIN_METADATA(IID TEST_PLUGIN_IID FILE "reentrant.json")
+#else
     Q_PLUGIN_METADATA(IID TEST_PLUGIN_IID)
+#endif
     Q_INTERFACES(interface_to_language_plugin)
 public:
     std::string language_name() override;
