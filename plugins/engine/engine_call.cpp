@@ -3,18 +3,67 @@
 
 #include <clang/Tooling/Core/Replacement.h>
 
+#include <algorithm>
+
 namespace tarnel_engine {
 
-engine_outcome format_with::the_code(std::string const& code) const {
+namespace {
+
+engine_outcome formatted(clang::format::FormatStyle const& style, std::string const& code,
+                         std::vector<clang::tooling::Range> const& ranges) {
     clang::format::FormattingAttemptStatus status;
-    clang::tooling::Replacements const replacements = clang::format::reformat(
-        style, code, {clang::tooling::Range(0, static_cast<unsigned>(code.size()))}, "<stdin>", &status);
-    llvm::Expected<std::string> formatted = clang::tooling::applyAllReplacements(code, replacements);
-    if (!formatted) {
-        llvm::consumeError(formatted.takeError());
-        return {code, false};
+    clang::tooling::Replacements const replacements = clang::format::reformat(style, code, ranges, "<stdin>", &status);
+    llvm::Expected<std::string> text = clang::tooling::applyAllReplacements(code, replacements);
+    if (!text) {
+        llvm::consumeError(text.takeError());
+        return {code, false, {}};
     }
-    return {std::move(*formatted), status.FormatComplete};
+    return {std::move(*text), status.FormatComplete, replacements.getAffectedRanges()};
+}
+
+// Where the line holding `offset` begins, or the line `back` lines before it.
+unsigned start_of_line(std::string const& code, unsigned offset, unsigned back) {
+    std::size_t at = std::min<std::size_t>(offset, code.size());
+    for (unsigned line = 0;; ++line) {
+        std::size_t const feed = at == 0 ? std::string::npos : code.rfind('\n', at - 1);
+        std::size_t const begin = feed == std::string::npos ? 0 : feed + 1;
+        if (line == back || begin == 0)
+            return static_cast<unsigned>(begin);
+        at = begin - 1;
+    }
+}
+
+// Where the line holding `offset` ends (after its line feed), or the line `ahead` lines after it.
+unsigned end_of_line(std::string const& code, unsigned offset, unsigned ahead) {
+    std::size_t at = std::min<std::size_t>(offset, code.size());
+    for (unsigned line = 0; line <= ahead && at < code.size(); ++line) {
+        std::size_t const feed = code.find('\n', at);
+        at = feed == std::string::npos ? code.size() : feed + 1;
+    }
+    return static_cast<unsigned>(at);
+}
+
+}  // namespace
+
+engine_outcome format_with::the_code(std::string const& code) const {
+    return formatted(style, code, {clang::tooling::Range(0, static_cast<unsigned>(code.size()))});
+}
+
+engine_outcome format_with::the_lines_around(std::string const& code,
+                                             std::vector<clang::tooling::Range> const& ranges,
+                                             unsigned context) const {
+    std::vector<clang::tooling::Range> widened;
+    for (auto const& range : ranges) {
+        unsigned const begin = start_of_line(code, range.getOffset(), context);
+        unsigned const end = end_of_line(code, range.getOffset() + range.getLength(), context);
+        if (!widened.empty() && begin <= widened.back().getOffset() + widened.back().getLength()) {
+            unsigned const start = widened.back().getOffset();
+            widened.back() = clang::tooling::Range(start, std::max(end, start + widened.back().getLength()) - start);
+        } else {
+            widened.emplace_back(begin, end - begin);
+        }
+    }
+    return formatted(style, code, widened);
 }
 
 }  // namespace tarnel_engine

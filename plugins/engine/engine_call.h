@@ -5,6 +5,7 @@
 #include <clang/Format/Format.h>
 
 #include <string>
+#include <vector>
 
 namespace tarnel_engine {
 
@@ -12,12 +13,17 @@ struct engine_outcome {
     std::string text;
     // False when the engine could not format some line because of a syntax error.
     bool complete = true;
+    // Where `text` differs from the code it was made of, in offsets of `text`.
+    std::vector<clang::tooling::Range> changed;
 };
 
 class format_with {
 public:
     explicit format_with(clang::format::FormatStyle const& style) : style(style) {}
     engine_outcome the_code(std::string const& code) const;
+    // Formats only the lines that the ranges touch, and `context` lines around each.
+    engine_outcome the_lines_around(std::string const& code, std::vector<clang::tooling::Range> const& ranges,
+                                    unsigned context) const;
 
 private:
     clang::format::FormatStyle const& style;

@@ -21,6 +21,8 @@ namespace {
 // The engine changes its own output again on a few files in a hundred; a handful of rounds
 // settles them.
 int const rounds_to_stability = 4;
+// Lines above and below each change that a round of the stability check formats with it.
+unsigned const lines_of_context = 3;
 
 std::string const syntax_error = STYLE_TARNEL_SYNTAX_ERROR_TEXT;
 
@@ -75,10 +77,15 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
         engine_outcome outcome = format_with(style).the_code(*decoded);
         if (!outcome.complete)
             return syntax_error;
+        // The result is stable when formatting it again changes nothing. Only the lines a round
+        // changed, with a few around them, can change in the next: the others were laid out in
+        // the same surroundings already.
         bool stable = outcome.text == *decoded;
         for (int round = 0; round < rounds_to_stability && !stable; ++round) {
-            engine_outcome again = format_with(style).the_code(outcome.text);
-            stable = again.complete && again.text == outcome.text;
+            engine_outcome again = format_with(style).the_lines_around(outcome.text, outcome.changed, lines_of_context);
+            if (!again.complete)
+                break;  // the engine cannot settle this text: it stays unstable
+            stable = again.text == outcome.text;
             outcome = std::move(again);
         }
         // A text the engine keeps changing, or one where more than white space would change, is
