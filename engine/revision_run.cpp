@@ -107,17 +107,20 @@ bool revision_run::revise(QString const& path) {
     write_in const write(report);
     // One `stat` for the accessibility test, the records and the check for edits by others.
     file_status const before(path);
-    if (!before.is_readable_and_writable_file()) {
+    if (!(request.writes_nothing ? before.is_readable_file() : before.is_readable_and_writable_file())) {
         write.about_invalid_file(path);
+        ++failed_count;
         return false;
     }
-    if (this_source_file(records.settings())
+    if (!request.records_ignored &&
+        this_source_file(records.settings())
             .was_not_changed(path, before.modification_time(), request.language, request.style,
                              addon_modified))
         return false;
     std::string text;
     if (!read_from(path).to(text)) {
         write.about_invalid_file(path);
+        ++failed_count;
         return false;
     }
     ++revised_count;
@@ -131,16 +134,27 @@ bool revision_run::revise(QString const& path) {
         // about text that is gone, writing it would undo the edit, and a record would hide the
         // new content from the next run.
         write.about_invalid_file(path);
+        ++failed_count;
         return true;
     }
-    if (answer == plugin_answer::refused)
+    if (answer == plugin_answer::refused) {
         write.about_syntax_error_in(path);
-    else if (result != text) {
+        ++failed_count;
+    } else if (result != text && request.writes_nothing) {
+        write.about_file_that_would_change(path);
+        ++changed_count;
+        if (request.would_change)
+            request.would_change(path, text, result);
+    } else if (result != text) {
         if (write_to(path).from(result))
             ++changed_count;
-        else
+        else {
             write.about_invalid_file(path);
+            ++failed_count;
+        }
     }
+    if (request.writes_nothing)
+        return true;
     // Also after a refusal or a failed write: such a file waits until it, the style or the
     // addon changes.
     save_info_about_changes_of(records.settings())
@@ -155,6 +169,17 @@ void revision_run::finish() {
     } catch (...) {
         // The files are revised by now; a plugin failing to tidy up changes nothing for them.
     }
-    write_in(report).finish_info(found(), revised_count, changed_count);
+    if (request.writes_nothing)
+        write_in(report).finish_info_of_check(found(), revised_count, changed_count);
+    else
+        write_in(report).finish_info(found(), revised_count, changed_count);
     records.sync();
+}
+
+bool revision_run::revise_text(std::string const& text, std::string& result) {
+    if (text.empty()) {
+        result.clear();
+        return true;
+    }
+    return ask(plugin, text, addon_text, result) == plugin_answer::revised;
 }

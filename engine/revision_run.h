@@ -28,6 +28,8 @@ public:
     int found() const { return collected.size(); }
     unsigned long revised() const { return revised_count; }
     unsigned long changed() const { return changed_count; }
+    // Files that could not be read, written or revised (each named in the report).
+    unsigned long failed() const { return failed_count; }
 
     // Revises the collected files in order. `stop_requested` is asked before every file (and once
     // when there is none); when it answers true the interruption goes into the report and the
@@ -44,6 +46,10 @@ public:
     // Tells the plugin the run is over, writes the counts in the report, saves the records.
     void finish();
 
+    // After `prepare`: the plugin's revision of a text in memory, with the run's addon. False when
+    // the plugin refuses it (syntax error, failure); `result` is then unspecified.
+    bool revise_text(std::string const& text, std::string& result);
+
 private:
     std::string& report;
     revision_request const request;
@@ -54,6 +60,7 @@ private:
     QStringList collected;
     unsigned long revised_count = 0;
     unsigned long changed_count = 0;
+    unsigned long failed_count = 0;
     change_record_store records;
 };
 

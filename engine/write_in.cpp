@@ -71,3 +71,27 @@ void write_in::finish_info(int found, unsigned long revised, unsigned long chang
     else
         report += std::to_string(changed) + " files was changed.";
 }
+
+void write_in::about_file_that_would_change(QString const& path) const {
+    report += "File '" + path.toStdString() + "' would be changed.\n";
+}
+
+void write_in::finish_info_of_check(int found, unsigned long checked, unsigned long would_change) const {
+    if (found == 0) {
+        report += "No files was found, nothing was checked.";
+        return;
+    }
+    report += found == 1 ? std::string("1 file was found, ") : std::to_string(found) + " files was found, ";
+    if (checked == 0) {
+        report += "no files was checked.";
+        return;
+    }
+    report += checked == 1 ? std::string("1 file was checked, ")
+                           : std::to_string(checked) + " files was checked, ";
+    if (would_change == 0)
+        report += "no files would be changed.";
+    else if (would_change == 1)
+        report += "1 file would be changed.";
+    else
+        report += std::to_string(would_change) + " files would be changed.";
+}
