@@ -18,6 +18,7 @@
 #include <iostream>
 #include <iterator>
 #include <map>
+#include <set>
 #include <tuple>
 
 namespace console {
@@ -131,10 +132,24 @@ struct chosen_style {
     }
 };
 
+// The language of a file named `name`, among those that know its extension: the first that
+// `preferred` holds, or else the first. Empty, with the reason said, when none knows it.
+std::string language_of_file(std::string const& name, std::map<std::string, project_style> const& preferred) {
+    std::vector<std::string> const languages = kernel().languages_of_file_named(name);
+    if (languages.empty()) {
+        say(message::no_language_of_file(name));
+        return std::string();
+    }
+    for (auto const& language : languages)
+        if (preferred.count(language) != 0)
+            return language;
+    return languages.front();
+}
+
 // The styles to revise `path` with, flags first: an addon, or a language and a style; otherwise
-// those the nearest .style-tarnel names: for a file, that of its language (given, or known by its
-// extension), for a directory, that of the language given, or of every language it names.
-// `language_by_name` is the file name whose extension tells the language (empty: a directory).
+// what the nearest .style-tarnel names. `language_by_name` is the file name whose extension tells
+// the language when --lang does not (empty for a directory: then every language the file names,
+// or the one given).
 bool choose_styles_for(QString const& path, QString const& language_by_name, revision_wishes const& wishes,
                        std::vector<chosen_style>& chosen) {
     if (!wishes.addon.empty()) {
@@ -145,6 +160,13 @@ bool choose_styles_for(QString const& path, QString const& language_by_name, rev
         chosen.push_back({wishes.language, wishes.style, QString()});
         return true;
     }
+    if (!wishes.style.empty() && !language_by_name.isEmpty()) {
+        std::string const language = language_of_file(language_by_name.toStdString(), {});
+        if (language.empty())
+            return false;
+        chosen.push_back({language, wishes.style, QString()});
+        return true;
+    }
     project_styles styles;
     if (!project_styles_for(path, styles))
         return false;
@@ -152,17 +174,19 @@ bool choose_styles_for(QString const& path, QString const& language_by_name, rev
     if (!wishes.language.empty()) {
         languages.push_back(wishes.language);
     } else if (!language_by_name.isEmpty()) {
-        std::string const language = kernel().language_of_file_named(language_by_name.toStdString());
-        if (language.empty()) {
-            say(message::no_language_of_file(language_by_name.toStdString()));
+        std::string const language = language_of_file(language_by_name.toStdString(), styles.by_language);
+        if (language.empty())
             return false;
-        }
         languages.push_back(language);
     } else {
         for (auto const& named : styles.by_language)
             languages.push_back(named.first);
     }
     for (auto const& language : languages) {
+        if (!wishes.style.empty()) {
+            chosen.push_back({language, wishes.style, QString()});
+            continue;
+        }
         auto const named = styles.by_language.find(language);
         if (named == styles.by_language.end()) {
             say(message::no_style_for_language_in(language, styles.file.toStdString()));
@@ -173,9 +197,28 @@ bool choose_styles_for(QString const& path, QString const& language_by_name, rev
     return true;
 }
 
+// The default extensions of a language, each followed by one blank, but for those that belong to
+// another of the languages revised in the same command (the first plugin that knows an extension
+// has it), so that no file is revised in two languages.
+std::string default_extensions_of(std::string const& language, std::set<std::string> const& revised_languages) {
+    std::string extensions;
+    for (auto const& extension : kernel().filename_extensions_for(language)) {
+        std::string owner = language;
+        for (auto const& candidate : kernel().languages_of_file_named("x." + extension))
+            if (revised_languages.count(candidate) != 0) {
+                owner = candidate;
+                break;
+            }
+        if (owner == language)
+            extensions += extension + " ";
+    }
+    return extensions;
+}
+
 // Says why the chosen style cannot be used, as the rest of the command line does; otherwise fills
 // the task's language, style, addon and extensions.
-bool task_can_start(chosen_style const& chosen, std::string const& extensions, revision_task& task) {
+bool task_can_start(chosen_style const& chosen, std::string const& extensions,
+                    std::set<std::string> const& revised_languages, revision_task& task) {
     task.addon_path = chosen.addon_path;
     if (!chosen.addon_path.isEmpty()) {
         style_description description;
@@ -196,7 +239,8 @@ bool task_can_start(chosen_style const& chosen, std::string const& extensions, r
         }
     }
     if (extensions.empty()) {
-        task.extensions = default_extensions_of(task.language);
+        task.extensions = revised_languages.size() > 1 ? default_extensions_of(task.language, revised_languages)
+                                                       : default_extensions_of(task.language);
     } else {
         task.extensions = extensions;
         boost::algorithm::replace_all(task.extensions, ",", " ");
@@ -232,7 +276,7 @@ int revise_standard_input(revision_wishes const& wishes) {
     QString const start = assumed.isEmpty() ? QDir::currentPath() : assumed;
     revision_task task;
     if (!choose_styles_for(start, assumed, wishes, chosen) ||
-        !task_can_start(chosen.front(), std::string(), task))
+        !task_can_start(chosen.front(), std::string(), {}, task))
         return give_back(wishes.refusal());
     std::string report;
     text_outcome_status const outcome = kernel().revise_text(task, name, text, result, report);
@@ -288,8 +332,11 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
         for (auto const& style : chosen)
             tasks[style].paths << path;
     }
+    std::set<std::string> revised_languages;
+    for (auto const& task : tasks)
+        revised_languages.insert(task.first.language);
     for (auto& [chosen, task] : tasks)
-        if (!task_can_start(chosen, wishes.extensions, task))
+        if (!task_can_start(chosen, wishes.extensions, revised_languages, task))
             return wishes.refusal();
 
     int status = 0;

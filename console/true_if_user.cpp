@@ -40,10 +40,10 @@ bool true_if_user::want_to_see_version(argument_list const& arguments) const {
 
 bool true_if_user::want_to_revise(argument_list const& arguments) const {
     // Other known names are tolerated here and ignored by the revision. The style comes from
-    // --style with --lang, from --addon alone, or from the project's .style-tarnel file (which
-    // --lang alone narrows to one language).
+    // --lang and --style, from --addon alone, or from the project's .style-tarnel file; a file's
+    // extension may tell its language.
     std::size_t const addons = quantity_of("--addon").in(arguments);
-    bool const style_named = addons == 0 ? styles(arguments) <= languages(arguments) && languages(arguments) <= 1
+    bool const style_named = addons == 0 ? styles(arguments) <= 1 && languages(arguments) <= 1
                                          : addons == 1 && languages(arguments) == 0 && styles(arguments) == 0;
     return style_named && quantity_of("--path", "-p").in(arguments) >= 1 &&
            quantity_of("--force", "-f").in(arguments) <= 1 && quantity_of("--exts").in(arguments) <= 1 &&

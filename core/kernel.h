@@ -100,9 +100,9 @@ public:
     // `revised`; empty when they are equal.
     std::string unified_diff_of(std::string const& label, std::string const& text,
                                 std::string const& revised) const;
-    // The first language (in the order of the plugins) whose filename extensions hold the
-    // extension of `file_name` (compared exactly); empty when none does.
-    std::string language_of_file_named(std::string const& file_name) const;
+    // The languages (in the order of the plugins) whose filename extensions hold the extension
+    // of `file_name` (compared exactly).
+    std::vector<std::string> languages_of_file_named(std::string const& file_name) const;
 
     // Self-update.
     bool apply(std::string const& path_to_new_executable) const;

@@ -112,18 +112,18 @@ std::string kernel::unified_diff_of(std::string const& label, std::string const&
     return ::unified_diff_of(label).between(text, revised);
 }
 
-std::string kernel::language_of_file_named(std::string const& file_name) const {
+std::vector<std::string> kernel::languages_of_file_named(std::string const& file_name) const {
     std::string const extension = QFileInfo(QString::fromStdString(file_name)).suffix().toStdString();
-    std::string language;
+    std::vector<std::string> languages;
     if (extension.empty())
-        return language;
+        return languages;
     first_plugin_where([&](std::string const&, interface_to_language_plugin& plugin) {
         for (auto const& known : plugin.filename_extensions())
             if (known == extension) {
-                language = plugin.language_name();
-                return true;
+                languages.push_back(plugin.language_name());
+                break;
             }
         return false;
     });
-    return language;
+    return languages;
 }
