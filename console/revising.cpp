@@ -16,9 +16,9 @@
 #include <boost/algorithm/string/replace.hpp>
 
 #include <iostream>
-#include <iterator>
 #include <map>
 #include <set>
+#include <sstream>
 #include <tuple>
 
 namespace console {
@@ -253,7 +253,9 @@ bool task_can_start(chosen_style const& chosen, std::string const& extensions,
 }
 
 std::string standard_input() {
-    return std::string(std::istreambuf_iterator<char>(std::cin), std::istreambuf_iterator<char>());
+    std::ostringstream text;
+    text << std::cin.rdbuf();
+    return text.str();
 }
 
 // Standard input to standard output: whatever happens, standard output gets the text back, revised

@@ -44,6 +44,10 @@ project_styles read_project_styles::from(QString const& file) const {
     std::string text;
     if (!read_from(file).to(text))
         return faulty(styles, project_styles_fault::unreadable, 0);
+    // A byte-order mark, as some editors write one at the start of UTF-8 text, is no part of the
+    // first line.
+    if (text.compare(0, 3, "\xEF\xBB\xBF") == 0)
+        text.erase(0, 3);
     QDir const base = QFileInfo(file).absoluteDir();
     std::string language;
     int language_line = 0;

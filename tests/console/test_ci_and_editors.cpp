@@ -114,6 +114,7 @@ void test_ci_and_editors::the_diff_applies_with_git_apply_data() {
         << "Test" << "Plain" << "a.tst=1  x\n2\n3\n4\n5\n6\n7\n8\n9  x\n10\n | b.tst=in  style\n";
     QTest::newRow("changes six lines apart share a hunk") << "Test" << "Plain" << "a.tst=1  x\n2\n3\n4\n5\n6\n7\n8  x\n";
     QTest::newRow("no line end at the end") << "Test" << "Plain" << "a.tst=1\n2  x | sub/b.test=a  b";
+    QTest::newRow("a blank in a path") << "Test" << "Plain" << "my sources/a b.tst=a  b\n";
     QTest::newRow("carriage returns") << "Test" << "Plain" << "a.tst=1  x\r\n2\r\n3  x\r\n";
     QTest::newRow("lines joined and split by C++")
         << "C++" << "Google"
