@@ -57,6 +57,8 @@ private slots:
     void answers();
     void the_diff_applies_with_git_apply_data();
     void the_diff_applies_with_git_apply();
+    void an_addon_file_is_refused_as_an_import_refuses_it_data();
+    void an_addon_file_is_refused_as_an_import_refuses_it();
 };
 
 // The rows come from checks.txt, which tells what each column holds.
@@ -147,6 +149,32 @@ void test_ci_and_editors::the_diff_applies_with_git_apply() {
         QString const name = "/src/" + file.section('=', 0, 0);
         QCOMPARE(bundle.contents_of(work + name), bundle.contents_of(work + "/revised" + name));
     }
+}
+
+// Files that an import refuses: --addon refuses them in the same words, and changes nothing.
+void test_ci_and_editors::an_addon_file_is_refused_as_an_import_refuses_it_data() {
+    QTest::addColumn<QString>("file");
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("missing") << "missing.style" << QByteArray();
+    QTest::newRow("not named .style") << "House[Test].txt" << addon_text("House", "Test");
+    QTest::newRow("a dot before .style") << "a.b.style" << addon_text("House", "Test");
+    QTest::newRow("a language not installed") << "K[C].style" << addon_text("K", "C");
+    QTest::newRow("no language") << "NoLanguage[Test].style" << QByteArray("NAME=NoLanguage\n");
+    QTest::newRow("an empty style name") << "Empty[Test].style" << QByteArray("NAME=\nLANGUAGE=Test\n");
+}
+
+void test_ci_and_editors::an_addon_file_is_refused_as_an_import_refuses_it() {
+    QFETCH(QString, file);
+    QFETCH(QByteArray, content);
+    installed_bundle bundle;
+    bundle.write_file("a.tst", "a  b\n");
+    if (!content.isEmpty())
+        bundle.write_file(file, content);
+    run_result const imported = bundle.run({"--import=" + file});
+    QCOMPARE(imported.status, 1);
+    QCOMPARE(bundle.installed_addons(), installed_bundle().installed_addons());
+    COMPARE_RUN(bundle.run({"--addon=" + file, "-p=a.tst"}), imported.err, "", 1);
+    QCOMPARE(bundle.contents_of(bundle.work_directory() + "/a.tst"), QByteArray("a  b\n"));
 }
 
 QTEST_GUILESS_MAIN(test_ci_and_editors)
