@@ -113,7 +113,8 @@ bool project_styles_for(QString const& path, project_styles& styles) {
                                                     what_is_wrong_with(styles.fault)));
         return false;
     }
-    if (!styles.were_found()) {
+    // A file of comments alone names no style either.
+    if (!styles.were_found() || styles.by_language.empty()) {
         say(message::no_style_for(path.toStdString()));
         return false;
     }
