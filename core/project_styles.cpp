@@ -4,15 +4,13 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <boost/algorithm/string/classification.hpp>
+#include <boost/algorithm/string/trim.hpp>
 
 namespace {
 
 std::string trimmed(std::string const& text) {
-    std::size_t const first = text.find_first_not_of(" \t\r");
-    if (first == std::string::npos)
-        return std::string();
-    std::size_t const last = text.find_last_not_of(" \t\r");
-    return text.substr(first, last - first + 1);
+    return boost::algorithm::trim_copy_if(text, boost::algorithm::is_any_of(" \t\r"));
 }
 
 project_styles faulty(project_styles styles, project_styles_fault fault, int line) {
