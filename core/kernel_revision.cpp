@@ -16,6 +16,8 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+
 namespace {
 
 records_location where_change_records_live() {
@@ -117,13 +119,12 @@ std::vector<std::string> kernel::languages_of_file_named(std::string const& file
     std::vector<std::string> languages;
     if (extension.empty())
         return languages;
-    first_plugin_where([&](std::string const&, interface_to_language_plugin& plugin) {
-        for (auto const& known : plugin.filename_extensions())
-            if (known == extension) {
-                languages.push_back(plugin.language_name());
-                break;
-            }
-        return false;
-    });
+    // Through the catalogue, which knows every plugin's extensions.
+    for (auto const& language : supported_programming_languages()) {
+        std::vector<std::string> const extensions = filename_extensions_for(language);
+        if (std::find(extensions.begin(), extensions.end(), extension) != extensions.end() &&
+            std::find(languages.begin(), languages.end(), language) == languages.end())
+            languages.push_back(language);
+    }
     return languages;
 }
