@@ -11,11 +11,18 @@ text_outcome text_revision::of(std::string const& text, QString const& name, std
     // the text.
     request.paths.clear();
     request.writes_nothing = true;
-    revision_run run(report, request);
-    if (!run.prepare())
+    // The run's own report: its counts of files say nothing of a text.
+    std::string run_report;
+    revision_run run(run_report, request);
+    if (!run.prepare()) {
+        report += run_report;
         return text_outcome::not_started;
+    }
     std::string revised;
-    if (!run.revise_text(text, revised)) {
+    bool const accepted = run.revise_text(text, revised);
+    // The plugin hears that the revision is over, as after a run.
+    run.finish();
+    if (!accepted) {
         write_in(report).about_syntax_error_in(name);
         return text_outcome::refused;
     }
