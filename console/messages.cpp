@@ -93,5 +93,30 @@ std::string cannot_delete_language(std::string const& language) {
 
 std::string cannot_apply_update(std::string const& path) { return "I cannot apply update '" + path + "'."; }
 
+std::string standard_input_with_other_paths() {
+    return "Standard input ('--path=-') cannot be revised together with other paths.";
+}
+std::string no_language_for_standard_input() {
+    return "I don't know the language of standard input, please specify it with '--lang' or name a file "
+           "with '--assume-filename'.";
+}
+std::string no_style_for(std::string const& path) {
+    return "I don't know which style to use for '" + path +
+           "', please specify '--lang' and '--style', or '--addon', or name a style in a '.style-tarnel' file.";
+}
+std::string no_language_of_file(std::string const& path) {
+    return "I don't know the language of file '" + path + "', please specify it with '--lang'.";
+}
+std::string no_style_for_language_in(std::string const& language, std::string const& file) {
+    return "There is no style for language '" + language + "' in file '" + file + "'.";
+}
+std::string cannot_read_project_styles(std::string const& file) {
+    return "I cannot read file '" + file + "', please check read permissions.";
+}
+std::string invalid_line_of_project_styles(std::string const& file, int line, std::string const& what) {
+    return "Invalid line " + std::to_string(line) + " in file '" + file + "': " + what +
+           ". For more info please read " + product::web_site + "/user-guide/project-style.";
+}
+
 }  // namespace message
 }  // namespace console

@@ -52,6 +52,15 @@ std::string cannot_delete_language(std::string const& language);
 
 std::string cannot_apply_update(std::string const& path);
 
+std::string standard_input_with_other_paths();
+std::string no_language_for_standard_input();
+std::string no_style_for(std::string const& path);
+std::string no_language_of_file(std::string const& path);
+std::string no_style_for_language_in(std::string const& language, std::string const& file);
+// A ".style-tarnel" file that cannot be read, or its faulty line (`what` says what is wrong).
+std::string cannot_read_project_styles(std::string const& file);
+std::string invalid_line_of_project_styles(std::string const& file, int line, std::string const& what);
+
 }  // namespace message
 }  // namespace console
 

@@ -5,16 +5,30 @@
 #include "console/show_what_supported.h"
 #include "console/true_if_user.h"
 
+#include <algorithm>
 #include <set>
 
 namespace console {
+
+namespace {
+
+// A check refused at its words still fails as a check that cannot start, apart from the 1 of
+// files that would change.
+bool asks_for_a_check(std::set<std::string> const& words) {
+    return std::any_of(words.begin(), words.end(), [](std::string const& word) {
+        std::string const name = retrieve_name_n_value_from(word, "=").first;
+        return name == "--check" || name == "--diff";
+    });
+}
+
+}  // namespace
 
 int result_of_run::operator()(int argc, char** argv) const {
     // A set: a word typed twice counts once, and every later step sees the words in byte order.
     std::set<std::string> const words(argv + 1, argv + argc);
     argument_list const arguments = retrieve_valid_arguments().from(words);
     if (arguments.empty())
-        return 1;
+        return asks_for_a_check(words) ? 2 : 1;
     return do_what_user_want_based_on(arguments);
 }
 

@@ -4,6 +4,7 @@
 #define STYLE_TARNEL_CONSOLE_RESULT_OF_RUN_H
 
 #include "console/arguments.h"
+#include "core/style_description.h"
 
 namespace console {
 
@@ -20,6 +21,11 @@ public:
     int delete_something_based_on(argument_list const& arguments) const;
     int update_app_based_on(argument_list const& arguments) const;
 };
+
+// Whether the file at `path` (absolute) is a style addon of an installed language that can be used
+// as it is, without importing it: refused with the same checks and words as an import, said on
+// standard error. `description` gets its style and language.
+bool addon_file_is_usable(std::string const& path, style_description& description);
 
 // The last value given under either name; empty when neither was given.
 std::string value_of(argument_list const& arguments, std::string const& long_name,

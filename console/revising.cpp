@@ -1,19 +1,73 @@
-// The command line's revision: paths made absolute and checked, records forgotten for a forced
-// run, language, style and extensions checked, then the run itself.
+// The command line's revision, check and diff: paths made absolute and checked, records forgotten
+// for a forced run, the style of every path chosen (flags first, then the project's .style-tarnel
+// file), language, style and extensions checked, then one run per language and style. And the
+// revision of standard input to standard output, for editors.
 #include "console/result_of_run.h"
 
 #include "console/messages.h"
 #include "core/kernel.h"
+#include "core/project_styles.h"
 #include "core/style_addon.h"
 #include "core/there_is_no_such.h"
 #include "core/transform.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <boost/algorithm/string/replace.hpp>
+
+#include <iostream>
+#include <map>
+#include <set>
+#include <sstream>
+#include <tuple>
 
 namespace console {
 
 namespace {
+
+// What the words of a revision ask for.
+struct revision_wishes {
+    std::string language;
+    std::string style;
+    std::string extensions;
+    std::string addon;
+    std::string assumed_name;
+    bool force = false;
+    bool check = false;
+    bool diff = false;
+    std::vector<std::string> paths;
+
+    bool writes_nothing() const { return check || diff; }
+    // A check that cannot start says so with 2, apart from the 1 of files that would change.
+    int refusal() const { return writes_nothing() ? 2 : 1; }
+};
+
+revision_wishes revision_wishes_from(argument_list const& arguments) {
+    revision_wishes wishes;
+    for (auto const& [name, value] : arguments) {
+        if (name == "-l" || name == "--lang")
+            wishes.language = value;
+        else if (name == "-s" || name == "--style")
+            wishes.style = value;
+        else if (name == "--exts")
+            wishes.extensions = value;
+        else if (name == "-f" || name == "--force")
+            wishes.force = true;
+        else if (name == "--check")
+            wishes.check = true;
+        else if (name == "--diff")
+            wishes.diff = true;
+        else if (name == "--addon")
+            wishes.addon = value;
+        else if (name == "--assume-filename")
+            wishes.assumed_name = value;
+        else if (name == "-p" || name == "--path")
+            wishes.paths.push_back(value);
+    }
+    return wishes;
+}
+
+QString absolute(std::string const& path) { return transform(QString::fromStdString(path)).to_absolute(); }
 
 // The default extensions of a language, each followed by one blank.
 std::string default_extensions_of(std::string const& language) {
@@ -23,52 +77,283 @@ std::string default_extensions_of(std::string const& language) {
     return extensions;
 }
 
-}  // namespace
+std::string what_is_wrong_with(project_styles_fault fault) {
+    switch (fault) {
+    case project_styles_fault::unknown_line:
+        return "expected '[language]', 'style = name', 'addon = file', a comment or an empty line";
+    case project_styles_fault::unknown_key:
+        return "only 'style' and 'addon' may be given for a language";
+    case project_styles_fault::key_outside_language:
+        return "a style must follow the '[language]' it is for";
+    case project_styles_fault::empty_name:
+        return "a name is missing";
+    case project_styles_fault::language_twice:
+        return "this language is named twice";
+    case project_styles_fault::second_style:
+        return "a language may have one style or one addon only";
+    case project_styles_fault::language_without_style:
+        return "this language has no style";
+    case project_styles_fault::none:
+    case project_styles_fault::unreadable:
+        break;
+    }
+    return std::string();
+}
 
-int result_of_run::revise_based_on(argument_list const& arguments) const {
-    revision_task task;
-    bool force = false;
-    for (auto const& [name, value] : arguments) {
-        if (name == "-l" || name == "--lang") {
-            task.language = value;
-        } else if (name == "-s" || name == "--style") {
-            task.style = value;
-        } else if (name == "--exts") {
-            task.extensions = value;
-        } else if (name == "-f" || name == "--force") {
-            force = true;
-        } else if (name == "-p" || name == "--path") {
-            QString const path = transform(QString::fromStdString(value)).to_absolute();
-            if (!QFileInfo::exists(path)) {
-                say(message::no_such_file_or_directory(path.toStdString()));
-                return 1;
+// The project's styles for a path; false, with the fault said, when the file is broken or there
+// is none.
+bool project_styles_for(QString const& path, project_styles& styles) {
+    styles = read_project_styles().nearest_to(path);
+    if (styles.fault == project_styles_fault::unreadable) {
+        say(message::cannot_read_project_styles(styles.file.toStdString()));
+        return false;
+    }
+    if (styles.fault != project_styles_fault::none) {
+        say(message::invalid_line_of_project_styles(styles.file.toStdString(), styles.faulty_line,
+                                                    what_is_wrong_with(styles.fault)));
+        return false;
+    }
+    // A file of comments alone names no style either.
+    if (!styles.were_found() || styles.by_language.empty()) {
+        say(message::no_style_for(path.toStdString()));
+        return false;
+    }
+    return true;
+}
+
+// The language and the style (or addon file) of one revision. An addon given on the command line
+// names its language itself.
+struct chosen_style {
+    std::string language;
+    std::string style;
+    QString addon_path;
+
+    bool operator<(chosen_style const& other) const {
+        return std::tie(language, style, addon_path) < std::tie(other.language, other.style, other.addon_path);
+    }
+};
+
+// The language of a file named `name`, among those that know its extension: the first that
+// `preferred` holds, or else the first. Empty, with the reason said, when none knows it.
+std::string language_of_file(std::string const& name, std::map<std::string, project_style> const& preferred) {
+    std::vector<std::string> const languages = kernel().languages_of_file_named(name);
+    if (languages.empty()) {
+        say(message::no_language_of_file(name));
+        return std::string();
+    }
+    for (auto const& language : languages)
+        if (preferred.count(language) != 0)
+            return language;
+    return languages.front();
+}
+
+// The styles to revise `path` with, flags first: an addon, or a language and a style; otherwise
+// what the nearest .style-tarnel names. `language_by_name` is the file name whose extension tells
+// the language when --lang does not (empty for a directory: then every language the file names,
+// or the one given).
+bool choose_styles_for(QString const& path, QString const& language_by_name, revision_wishes const& wishes,
+                       std::vector<chosen_style>& chosen) {
+    if (!wishes.addon.empty()) {
+        chosen.push_back({std::string(), std::string(), absolute(wishes.addon)});
+        return true;
+    }
+    if (!wishes.language.empty() && !wishes.style.empty()) {
+        chosen.push_back({wishes.language, wishes.style, QString()});
+        return true;
+    }
+    if (!wishes.style.empty() && !language_by_name.isEmpty()) {
+        std::string const language = language_of_file(language_by_name.toStdString(), {});
+        if (language.empty())
+            return false;
+        chosen.push_back({language, wishes.style, QString()});
+        return true;
+    }
+    project_styles styles;
+    if (!project_styles_for(path, styles))
+        return false;
+    std::vector<std::string> languages;
+    if (!wishes.language.empty()) {
+        languages.push_back(wishes.language);
+    } else if (!language_by_name.isEmpty()) {
+        std::string const language = language_of_file(language_by_name.toStdString(), styles.by_language);
+        if (language.empty())
+            return false;
+        languages.push_back(language);
+    } else {
+        for (auto const& named : styles.by_language)
+            languages.push_back(named.first);
+    }
+    for (auto const& language : languages) {
+        if (!wishes.style.empty()) {
+            chosen.push_back({language, wishes.style, QString()});
+            continue;
+        }
+        auto const named = styles.by_language.find(language);
+        if (named == styles.by_language.end()) {
+            say(message::no_style_for_language_in(language, styles.file.toStdString()));
+            return false;
+        }
+        chosen.push_back({language, named->second.style, named->second.addon_path});
+    }
+    return true;
+}
+
+// The default extensions of a language, each followed by one blank, but for those that belong to
+// another of the languages revised in the same command (the first plugin that knows an extension
+// has it), so that no file is revised in two languages.
+std::string default_extensions_of(std::string const& language, std::set<std::string> const& revised_languages) {
+    std::string extensions;
+    for (auto const& extension : kernel().filename_extensions_for(language)) {
+        std::string owner = language;
+        for (auto const& candidate : kernel().languages_of_file_named("x." + extension))
+            if (revised_languages.count(candidate) != 0) {
+                owner = candidate;
+                break;
             }
-            task.paths << path;
+        if (owner == language)
+            extensions += extension + " ";
+    }
+    return extensions;
+}
+
+// Says why the chosen style cannot be used, as the rest of the command line does; otherwise fills
+// the task's language, style, addon and extensions.
+bool task_can_start(chosen_style const& chosen, std::string const& extensions,
+                    std::set<std::string> const& revised_languages, revision_task& task) {
+    task.addon_path = chosen.addon_path;
+    if (!chosen.addon_path.isEmpty()) {
+        style_description description;
+        if (!addon_file_is_usable(chosen.addon_path.toStdString(), description))
+            return false;
+        task.language = description.language;
+        task.style = description.style;
+    } else {
+        task.language = chosen.language;
+        task.style = chosen.style;
+        if (there_is_no_such().language(task.language)) {
+            say(message::no_such_language(task.language) + message::listing_hint());
+            return false;
+        }
+        if (there_is_no_such().style(task.style, task.language)) {
+            say(message::no_such_style(task.style, task.language) + message::listing_hint());
+            return false;
         }
     }
-    // Forgotten before anything else is checked: a forced run that then fails on a bad style
-    // name has still forgotten the records.
-    if (force)
-        kernel().forget_change_records_of(task.paths);
-
-    if (there_is_no_such().language(task.language)) {
-        say(message::no_such_language(task.language) + message::listing_hint());
-        return 1;
-    }
-    if (there_is_no_such().style(task.style, task.language)) {
-        say(message::no_such_style(task.style, task.language) + message::listing_hint());
-        return 1;
-    }
-    if (task.extensions.empty()) {
-        task.extensions = default_extensions_of(task.language);
+    if (extensions.empty()) {
+        task.extensions = revised_languages.size() > 1 ? default_extensions_of(task.language, revised_languages)
+                                                       : default_extensions_of(task.language);
     } else {
+        task.extensions = extensions;
         boost::algorithm::replace_all(task.extensions, ",", " ");
         if (!these_are_filename_extensions(task.extensions)) {
             say(message::invalid_extensions());
-            return 1;
+            return false;
         }
     }
-    return kernel().start_revise(task);
+    return true;
+}
+
+std::string standard_input() {
+    std::ostringstream text;
+    text << std::cin.rdbuf();
+    return text.str();
+}
+
+// Standard input to standard output: whatever happens, standard output gets the text back, revised
+// or as it came, so that an editor never loses its buffer; the reason goes to standard error.
+int revise_standard_input(revision_wishes const& wishes) {
+    std::string const text = standard_input();
+    std::string result = text;
+    auto give_back = [&](int status) {
+        if (!wishes.writes_nothing())
+            std::cout.write(result.data(), static_cast<std::streamsize>(result.size())) << std::flush;
+        return status;
+    };
+    QString const assumed = wishes.assumed_name.empty() ? QString() : absolute(wishes.assumed_name);
+    std::string const name = wishes.assumed_name.empty() ? std::string("-") : wishes.assumed_name;
+    if (wishes.addon.empty() && wishes.language.empty() && assumed.isEmpty()) {
+        say(message::no_language_for_standard_input());
+        return give_back(wishes.refusal());
+    }
+    std::vector<chosen_style> chosen;
+    QString const start = assumed.isEmpty() ? QDir::currentPath() : assumed;
+    revision_task task;
+    if (!choose_styles_for(start, assumed, wishes, chosen) ||
+        !task_can_start(chosen.front(), std::string(), {}, task))
+        return give_back(wishes.refusal());
+    std::string report;
+    text_outcome_status const outcome = kernel().revise_text(task, name, text, result, report);
+    while (!report.empty() && report.back() == '\n')
+        report.pop_back();
+    if (!report.empty())
+        say(report);
+    if (outcome == text_outcome_status::not_started)
+        return give_back(wishes.refusal());
+    if (outcome == text_outcome_status::refused)
+        return give_back(2);
+    if (wishes.diff)
+        std::cout << kernel().unified_diff_of(name, text, result) << std::flush;
+    if (wishes.writes_nothing())
+        return result == text ? 0 : 1;
+    return give_back(0);
+}
+
+}  // namespace
+
+int result_of_run::revise_based_on(argument_list const& arguments) const {
+    revision_wishes const wishes = revision_wishes_from(arguments);
+    bool const from_standard_input =
+        std::find(wishes.paths.begin(), wishes.paths.end(), "-") != wishes.paths.end();
+    if (from_standard_input && wishes.paths.size() > 1) {
+        say(message::standard_input_with_other_paths());
+        return wishes.refusal();
+    }
+    if (from_standard_input)
+        return revise_standard_input(wishes);
+
+    QStringList paths;
+    for (auto const& raw : wishes.paths) {
+        QString const path = absolute(raw);
+        if (!QFileInfo::exists(path)) {
+            say(message::no_such_file_or_directory(path.toStdString()));
+            return wishes.refusal();
+        }
+        paths << path;
+    }
+    // Forgotten before anything else is checked: a forced run that then fails on a bad style
+    // name has still forgotten the records. A check writes nothing: it ignores them instead.
+    if (wishes.force && !wishes.writes_nothing())
+        kernel().forget_change_records_of(paths);
+
+    // One run per language and style, with the paths in the order given.
+    std::map<chosen_style, revision_task> tasks;
+    for (auto const& path : paths) {
+        std::vector<chosen_style> chosen;
+        QString const language_by_name = QFileInfo(path).isDir() ? QString() : path;
+        if (!choose_styles_for(path, language_by_name, wishes, chosen))
+            return wishes.refusal();
+        for (auto const& style : chosen)
+            tasks[style].paths << path;
+    }
+    std::set<std::string> revised_languages;
+    for (auto const& task : tasks)
+        revised_languages.insert(task.first.language);
+    for (auto& [chosen, task] : tasks)
+        if (!task_can_start(chosen, wishes.extensions, revised_languages, task))
+            return wishes.refusal();
+
+    int status = 0;
+    for (auto const& task : tasks) {
+        int const run_status =
+            wishes.writes_nothing()
+                ? kernel().start_check(task.second, check_options{wishes.diff, wishes.force})
+                : kernel().start_revise(task.second);
+        // Stopped by a signal: the other runs are not started.
+        if (run_status >= 128)
+            return run_status;
+        status = std::max(status, run_status);
+    }
+    return status;
 }
 
 }  // namespace console

@@ -162,6 +162,27 @@ int result_of_run::import_something_based_on(argument_list const& arguments) con
     return 1;
 }
 
+bool addon_file_is_usable(std::string const& path, style_description& description) {
+    if (!usable_file(path)) {
+        say(message::no_such_file(path) + message::usage_hint());
+        return false;
+    }
+    if (!style_addon()(path)) {
+        say(message::invalid_extension_of_file(path) + message::usage_hint());
+        return false;
+    }
+    description = obtain_style_description().from_raw(path);
+    if (there_is_no_such().language(description.language)) {
+        say(message::no_language_for_imported_style(description.language));
+        return false;
+    }
+    if (description.is_empty()) {
+        say(message::cannot_import_style(path));
+        return false;
+    }
+    return true;
+}
+
 int result_of_run::delete_something_based_on(argument_list const& arguments) const {
     std::string const language = value_of(arguments, "--lang", "-l");
     std::string const style = value_of(arguments, "--style", "-s");

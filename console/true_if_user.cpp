@@ -39,10 +39,16 @@ bool true_if_user::want_to_see_version(argument_list const& arguments) const {
 }
 
 bool true_if_user::want_to_revise(argument_list const& arguments) const {
-    // Other known names are tolerated here and ignored by the revision.
-    return arguments.size() >= 3 && languages(arguments) == 1 && styles(arguments) == 1 &&
-           quantity_of("--path", "-p").in(arguments) >= 1 &&
-           quantity_of("--force", "-f").in(arguments) <= 1 && quantity_of("--exts").in(arguments) <= 1;
+    // Other known names are tolerated here and ignored by the revision. The style comes from
+    // --lang and --style, from --addon alone, or from the project's .style-tarnel file; a file's
+    // extension may tell its language.
+    std::size_t const addons = quantity_of("--addon").in(arguments);
+    bool const style_named = addons == 0 ? styles(arguments) <= 1 && languages(arguments) <= 1
+                                         : addons == 1 && languages(arguments) == 0 && styles(arguments) == 0;
+    return style_named && quantity_of("--path", "-p").in(arguments) >= 1 &&
+           quantity_of("--force", "-f").in(arguments) <= 1 && quantity_of("--exts").in(arguments) <= 1 &&
+           quantity_of("--check").in(arguments) <= 1 && quantity_of("--diff").in(arguments) <= 1 &&
+           quantity_of("--assume-filename").in(arguments) <= 1;
 }
 
 bool true_if_user::want_to_export_style(argument_list const& arguments) const {

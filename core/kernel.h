@@ -18,6 +18,19 @@
 #include <string>
 #include <vector>
 
+// How a check reports and which files it looks at.
+struct check_options {
+    // A unified diff of every file that would change on standard output, and the rest on
+    // standard error.
+    bool with_diff = false;
+    // Every file is revised in memory, whatever its change record says (the records are neither
+    // asked nor forgotten).
+    bool records_ignored = false;
+};
+
+// What became of a text revised in memory.
+enum class text_outcome_status { revised = 0, not_started = 1, refused = 2 };
+
 class kernel {
 public:
     // Catalogue.
@@ -72,6 +85,26 @@ public:
                      std::function<void(int)> value, std::function<void(std::string)> status,
                      std::function<void(std::string)> finished,
                      std::atomic<bool> const& stop) const;
+
+    // Checking: the command line's run, in memory: writes no file and no change record, prints the
+    // files that would change (or their diff) and the counts. 0 when nothing would change, 1 when
+    // some file would, 2 when the run cannot start or a file cannot be read or revised, 128 +
+    // the number of a SIGINT or SIGTERM that stopped it.
+    int start_check(revision_task const& task, check_options const& options) const;
+    // One text in memory (an editor's buffer), revised with the task's plugin and addon; the
+    // task's paths are not used. `result` gets the revised text, or the text unchanged when the
+    // plugin refused it or the revision could not start; `report` the reason, naming the text as
+    // `name`.
+    text_outcome_status revise_text(revision_task const& task, std::string const& name,
+                                    std::string const& text, std::string& result,
+                                    std::string& report) const;
+    // A unified diff ("--- a/LABEL", "+++ b/LABEL", three lines of context) from `text` to
+    // `revised`; empty when they are equal.
+    std::string unified_diff_of(std::string const& label, std::string const& text,
+                                std::string const& revised) const;
+    // The languages (in the order of the plugins) whose filename extensions hold the extension
+    // of `file_name` (compared exactly).
+    std::vector<std::string> languages_of_file_named(std::string const& file_name) const;
 
     // Self-update.
     bool apply(std::string const& path_to_new_executable) const;

@@ -1,5 +1,5 @@
-// kernel: starting a revision run, once the task's language and style are found in the bundle,
-// and forgetting change records.
+// kernel: starting a revision run, once the task's language and style are found in the bundle (or
+// its addon file is given), checking in memory, revising one text, and forgetting change records.
 #include "core/kernel.h"
 
 #include "core/installed_files.h"
@@ -9,7 +9,14 @@
 #include "core/style_addon.h"
 #include "engine/change_record_store.h"
 #include "engine/change_records.h"
+#include "engine/console_checker.h"
 #include "engine/tarnel.h"
+#include "engine/text_revision.h"
+#include "engine/unified_diff.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
 
 namespace {
 
@@ -41,6 +48,16 @@ revision_request request_for(revision_task const& task) {
     request.plugin_file = plugin_file_for(task.language);
     request.addons_directory = path_to().addons_directory();
     request.addon_file = addon_file_for(task.style, task.language);
+    if (!task.addon_path.isEmpty()) {
+        // An addon file of the user's own: its names are those the records keep.
+        style_description const description = obtain_style_description().from_raw(task.addon_path);
+        QFileInfo const addon(task.addon_path);
+        request.language = QString::fromStdString(description.language);
+        request.style = QString::fromStdString(description.style);
+        request.plugin_file = plugin_file_for(description.language);
+        request.addons_directory = addon.absolutePath();
+        request.addon_file = addon.fileName().toStdString();
+    }
     request.extensions = task.extensions;
     request.paths = task.paths;
     request.records = where_change_records_live();
@@ -64,4 +81,44 @@ int kernel::start_revise(revision_task const& task, std::function<void(int)> max
                          std::atomic<bool> const& stop) const {
     return tarnel()(request_for(task), std::move(maximum), std::move(value), std::move(status),
                     std::move(finished), stop);
+}
+
+int kernel::start_check(revision_task const& task, check_options const& options) const {
+    revision_request request = request_for(task);
+    request.records_ignored = options.records_ignored;
+    return console_checker()(request, options.with_diff ? check_output::diff : check_output::report);
+}
+
+text_outcome_status kernel::revise_text(revision_task const& task, std::string const& name,
+                                        std::string const& text, std::string& result,
+                                        std::string& report) const {
+    switch (text_revision(request_for(task)).of(text, QString::fromStdString(name), result, report)) {
+    case text_outcome::revised:
+        return text_outcome_status::revised;
+    case text_outcome::refused:
+        return text_outcome_status::refused;
+    case text_outcome::not_started:
+        break;
+    }
+    return text_outcome_status::not_started;
+}
+
+std::string kernel::unified_diff_of(std::string const& label, std::string const& text,
+                                    std::string const& revised) const {
+    return ::unified_diff_of(label).between(text, revised);
+}
+
+std::vector<std::string> kernel::languages_of_file_named(std::string const& file_name) const {
+    std::string const extension = QFileInfo(QString::fromStdString(file_name)).suffix().toStdString();
+    std::vector<std::string> languages;
+    if (extension.empty())
+        return languages;
+    // Through the catalogue, which knows every plugin's extensions.
+    for (auto const& language : supported_programming_languages()) {
+        std::vector<std::string> const extensions = filename_extensions_for(language);
+        if (std::find(extensions.begin(), extensions.end(), extension) != extensions.end() &&
+            std::find(languages.begin(), languages.end(), language) == languages.end())
+            languages.push_back(language);
+    }
+    return languages;
 }

@@ -12,6 +12,10 @@ struct revision_task {
     std::string extensions;
     // Raw paths of files and directories, one per element.
     QStringList paths;
+    // A style addon file used as it is, without importing it into the store: the language and
+    // style named inside it are then the task's. Empty: the store's addon of `style` and
+    // `language`.
+    QString addon_path = QString();
 };
 
 #endif

@@ -12,6 +12,10 @@ bool file_status::is_readable_and_writable_file() const {
     return found && S_ISREG(status.st_mode) && ::access(native_path.constData(), R_OK | W_OK) == 0;
 }
 
+bool file_status::is_readable_file() const {
+    return found && S_ISREG(status.st_mode) && ::access(native_path.constData(), R_OK) == 0;
+}
+
 quint32 file_status::modification_time() const {
     return found ? static_cast<quint32>(status.st_mtim.tv_sec) : 0;
 }

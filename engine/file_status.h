@@ -19,6 +19,8 @@ public:
     // An existing regular file that the user may both read and write (asked of the system in one
     // `access` call, so that permissions, access lists and read-only mounts all count).
     bool is_readable_and_writable_file() const;
+    // An existing regular file that the user may read: enough for a run that writes nothing.
+    bool is_readable_file() const;
     // Seconds since the epoch (UTC), as the change records hold them; 0 for a missing file.
     quint32 modification_time() const;
 

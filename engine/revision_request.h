@@ -8,6 +8,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <string>
 
 struct revision_request {
@@ -29,6 +30,15 @@ struct revision_request {
     records_location records;
     // The web address of the manual on writing addons.
     std::string addon_manual;
+
+    // A check: the run writes no file and no change record, and a readable file need not be
+    // writable. Each file whose revised text differs is named in the report and counted as
+    // changed, and handed to `would_change` (when set) with both texts, from the run's thread.
+    bool writes_nothing = false;
+    std::function<void(QString const& path, std::string const& text, std::string const& revised)> would_change;
+    // The records are not asked: every file is revised (a check's --force, which must not forget
+    // them).
+    bool records_ignored = false;
 };
 
 #endif

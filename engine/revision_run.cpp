@@ -4,9 +4,9 @@
 #include "engine/file_collection.h"
 #include "engine/file_status.h"
 #include "engine/format_of_this.h"
+#include "engine/plugin_answer.h"
 #include "engine/plugin_obtainer.h"
 #include "engine/read_from.h"
-#include "engine/traits_of.h"
 #include "engine/work_in_order.h"
 #include "engine/write_in.h"
 #include "engine/write_to.h"
@@ -18,31 +18,6 @@
 #include <algorithm>
 
 namespace {
-
-// White space in any encoding: the zero bytes of UTF-16 and UTF-32 spaces count as part of them.
-bool holds_only_white_space(std::string const& text) {
-    return std::all_of(text.begin(), text.end(), [](char c) {
-        return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f' || c == '\0';
-    });
-}
-
-enum class plugin_answer { revised, refused };
-
-// The plugin's result for `text`; a plugin that throws, returns the syntax-error text, or
-// returns nothing for a text with content refuses it.
-plugin_answer ask(interface_to_language_plugin* plugin, std::string const& text,
-                  std::string const& addon_text, std::string& result) {
-    try {
-        result = plugin->revise(text, addon_text, detail::traits_of()(text));
-    } catch (...) {
-        return plugin_answer::refused;
-    }
-    if (result == STYLE_TARNEL_SYNTAX_ERROR_TEXT)
-        return plugin_answer::refused;
-    if (result.empty() && !holds_only_white_space(text))
-        return plugin_answer::refused;
-    return plugin_answer::revised;
-}
 
 // One worker per core, or as many as STYLE_TARNEL_JOBS says, for a plugin that declares in its
 // metadata ("reentrant": true) that its revise() may run on several threads at once; one for
@@ -105,11 +80,16 @@ bool revision_run::prepare() {
 }
 
 struct revision_run::file_outcome {
-    std::string report;   // what the report says of the file
-    bool read = false;    // counts as revised
-    bool reached = false;  // reached the progress step
-    bool changed = false;
+    std::string report;     // what the report says of the file
+    bool read = false;      // counts as revised
+    bool reached = false;   // reached the progress step
+    bool changed = false;   // changed, or would be in a run that writes nothing
+    bool failed = false;    // could not be read, written or revised
     bool recorded = false;  // gets a change record
+    // For a run that writes nothing and hands on what would change: the file's text and its
+    // revision.
+    std::string text;
+    std::string revised;
 };
 
 bool revision_run::revise_all(std::function<bool()> const& stop_requested,
@@ -132,13 +112,16 @@ bool revision_run::revise_all(std::function<bool()> const& stop_requested,
 revision_run::file_outcome revision_run::revise(QString const& path) const {
     file_outcome outcome;
     write_in const write(outcome.report);
+    auto failure = [&] {
+        write.about_invalid_file(path);
+        outcome.failed = true;
+        return outcome;
+    };
     // One `stat` for the accessibility test, the records and the check for edits by others.
     file_status const before(path);
-    if (!before.is_readable_and_writable_file()) {
-        write.about_invalid_file(path);
-        return outcome;
-    }
-    {
+    if (!(request.writes_nothing ? before.is_readable_file() : before.is_readable_and_writable_file()))
+        return failure();
+    if (!request.records_ignored) {
         std::lock_guard<std::mutex> const lock(records_guard);
         if (this_source_file(records.settings())
                 .was_not_changed(path, before.modification_time(), request.language, request.style,
@@ -146,35 +129,39 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
             return outcome;
     }
     std::string text;
-    if (!read_from(path).to(text)) {
-        write.about_invalid_file(path);
-        return outcome;
-    }
+    if (!read_from(path).to(text))
+        return failure();
     outcome.read = true;
     if (text.empty())
         return outcome;
 
     outcome.reached = true;
     std::string result;
-    plugin_answer const answer = ask(plugin, text, addon_text, result);
-    if (file_status(path) != before) {
-        // Saved, edited or removed by someone else while the plugin worked on it: the answer is
-        // about text that is gone, writing it would undo the edit, and a record would hide the
-        // new content from the next run.
-        write.about_invalid_file(path);
-        return outcome;
-    }
-    if (answer == plugin_answer::refused)
+    plugin_answer const answer = ask(*plugin, text, addon_text, result);
+    // Saved, edited or removed by someone else while the plugin worked on it: the answer is
+    // about text that is gone, writing it would undo the edit, and a record would hide the new
+    // content from the next run.
+    if (file_status(path) != before)
+        return failure();
+    if (answer == plugin_answer::refused) {
         write.about_syntax_error_in(path);
-    else if (result != text) {
+        outcome.failed = true;
+    } else if (result != text && request.writes_nothing) {
+        write.about_file_that_would_change(path);
+        outcome.changed = true;
+        if (request.would_change) {
+            outcome.text = std::move(text);
+            outcome.revised = std::move(result);
+        }
+    } else if (result != text) {
         if (write_to(path).from(result))
             outcome.changed = true;
         else
-            write.about_invalid_file(path);
+            failure();
     }
     // Also after a refusal or a failed write: such a file waits until it, the style or the
-    // addon changes.
-    outcome.recorded = true;
+    // addon changes. A run that writes nothing keeps no records.
+    outcome.recorded = !request.writes_nothing;
     return outcome;
 }
 
@@ -183,6 +170,9 @@ void revision_run::take(QString const& path, file_outcome& outcome,
     report += outcome.report;
     revised_count += outcome.read ? 1 : 0;
     changed_count += outcome.changed ? 1 : 0;
+    failed_count += outcome.failed ? 1 : 0;
+    if (outcome.changed && request.writes_nothing && request.would_change)
+        request.would_change(path, outcome.text, outcome.revised);
     if (outcome.recorded) {
         std::lock_guard<std::mutex> const lock(records_guard);
         save_info_about_changes_of(records.settings())
@@ -199,6 +189,17 @@ void revision_run::finish() {
     } catch (...) {
         // The files are revised by now; a plugin failing to tidy up changes nothing for them.
     }
-    write_in(report).finish_info(found(), revised_count, changed_count);
+    if (request.writes_nothing)
+        write_in(report).finish_info_of_check(found(), revised_count, changed_count);
+    else
+        write_in(report).finish_info(found(), revised_count, changed_count);
     records.sync();
+}
+
+bool revision_run::revise_text(std::string const& text, std::string& result) {
+    if (text.empty()) {
+        result.clear();
+        return true;
+    }
+    return ask(*plugin, text, addon_text, result) == plugin_answer::revised;
 }

@@ -29,6 +29,8 @@ public:
     int found() const { return collected.size(); }
     unsigned long revised() const { return revised_count; }
     unsigned long changed() const { return changed_count; }
+    // Files that could not be read, written or revised (each named in the report).
+    unsigned long failed() const { return failed_count; }
 
     // Revises the collected files: on as many workers as the machine has cores (or as
     // STYLE_TARNEL_JOBS says) when the plugin declares that its revise() may run on several
@@ -45,6 +47,10 @@ public:
 
     // Tells the plugin the run is over, writes the counts in the report, saves the records.
     void finish();
+
+    // After `prepare`: the plugin's revision of a text in memory, with the run's addon. False when
+    // the plugin refuses it (syntax error, failure); `result` is then unspecified.
+    bool revise_text(std::string const& text, std::string& result);
 
 private:
     struct file_outcome;
@@ -63,6 +69,7 @@ private:
     QStringList collected;
     unsigned long revised_count = 0;
     unsigned long changed_count = 0;
+    unsigned long failed_count = 0;
     change_record_store records;
     mutable std::mutex records_guard;  // workers read the records while this thread writes them
     int worker_count = 1;

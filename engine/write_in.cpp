@@ -52,22 +52,49 @@ void write_in::about_paths_with_unallowed(std::string const& extensions) const {
 
 void write_in::about_interruption() const { report += "\nRevision was interrupted by user!\n\n"; }
 
-void write_in::finish_info(int found, unsigned long revised, unsigned long changed) const {
+namespace {
+
+// How the counts of a run read: a revision's files "was revised" and "was changed", a check's "was
+// checked" and "would be changed".
+struct words_of_counts {
+    char const* nothing_found;
+    char const* done;
+    char const* changed;
+};
+
+void append_counts(std::string& report, int found, unsigned long done, unsigned long changed,
+                   words_of_counts const& words) {
     if (found == 0) {
-        report += "No files was found, revision was canceled.";
+        report += words.nothing_found;
         return;
     }
     report += found == 1 ? std::string("1 file was found, ") : std::to_string(found) + " files was found, ";
-    if (revised == 0) {
-        report += "no files was revised.";
+    if (done == 0) {
+        report += std::string("no files was ") + words.done + ".";
         return;
     }
-    report += revised == 1 ? std::string("1 file was revised, ")
-                           : std::to_string(revised) + " files was revised, ";
+    report += done == 1 ? std::string("1 file was ") + words.done + ", "
+                        : std::to_string(done) + " files was " + words.done + ", ";
     if (changed == 0)
-        report += "no files was changed.";
+        report += std::string("no files ") + words.changed + ".";
     else if (changed == 1)
-        report += "1 file was changed.";
+        report += std::string("1 file ") + words.changed + ".";
     else
-        report += std::to_string(changed) + " files was changed.";
+        report += std::to_string(changed) + " files " + words.changed + ".";
+}
+
+}  // namespace
+
+void write_in::finish_info(int found, unsigned long revised, unsigned long changed) const {
+    append_counts(report, found, revised, changed,
+                  {"No files was found, revision was canceled.", "revised", "was changed"});
+}
+
+void write_in::about_file_that_would_change(QString const& path) const {
+    report += "File '" + path.toStdString() + "' would be changed.\n";
+}
+
+void write_in::finish_info_of_check(int found, unsigned long checked, unsigned long would_change) const {
+    append_counts(report, found, checked, would_change,
+                  {"No files was found, nothing was checked.", "checked", "would be changed"});
 }

@@ -26,6 +26,10 @@ public:
     void about_interruption() const;
     void finish_info(int found, unsigned long revised, unsigned long changed) const;
 
+    // A check, which writes nothing: a file the revision would change, and the counts.
+    void about_file_that_would_change(QString const& path) const;
+    void finish_info_of_check(int found, unsigned long checked, unsigned long would_change) const;
+
 private:
     std::string& report;
 };

@@ -1,0 +1,100 @@
+#include "core/project_styles.h"
+
+#include "engine/read_from.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <boost/algorithm/string/classification.hpp>
+#include <boost/algorithm/string/trim.hpp>
+
+namespace {
+
+std::string trimmed(std::string const& text) {
+    return boost::algorithm::trim_copy_if(text, boost::algorithm::is_any_of(" \t\r"));
+}
+
+project_styles faulty(project_styles styles, project_styles_fault fault, int line) {
+    styles.by_language.clear();
+    styles.fault = fault;
+    styles.faulty_line = line;
+    return styles;
+}
+
+}  // namespace
+
+char const* project_styles_file_name() { return ".style-tarnel"; }
+
+project_styles read_project_styles::nearest_to(QString const& path) const {
+    QFileInfo const start(path);
+    QDir directory(start.isDir() ? start.absoluteFilePath() : start.absolutePath());
+    for (;;) {
+        QString const candidate = directory.filePath(project_styles_file_name());
+        if (QFileInfo(candidate).isFile())
+            return from(candidate);
+        if (!directory.cdUp())
+            return project_styles();
+    }
+}
+
+project_styles read_project_styles::from(QString const& file) const {
+    project_styles styles;
+    styles.file = QFileInfo(file).absoluteFilePath();
+    std::string text;
+    if (!read_from(file).to(text))
+        return faulty(styles, project_styles_fault::unreadable, 0);
+    // A byte-order mark, as some editors write one at the start of UTF-8 text, is no part of the
+    // first line.
+    if (text.compare(0, 3, "\xEF\xBB\xBF") == 0)
+        text.erase(0, 3);
+    QDir const base = QFileInfo(file).absoluteDir();
+    std::string language;
+    int language_line = 0;
+    bool language_has_style = true;
+    int number = 0;
+    std::size_t start = 0;
+    while (start < text.size()) {
+        std::size_t end = text.find('\n', start);
+        if (end == std::string::npos)
+            end = text.size();
+        std::string const line = trimmed(text.substr(start, end - start));
+        start = end + 1;
+        ++number;
+        if (line.empty() || line[0] == '#')
+            continue;
+        if (line.front() == '[' && line.back() == ']') {
+            if (!language_has_style)
+                return faulty(styles, project_styles_fault::language_without_style, language_line);
+            language = trimmed(line.substr(1, line.size() - 2));
+            if (language.empty())
+                return faulty(styles, project_styles_fault::empty_name, number);
+            if (styles.by_language.count(language) != 0)
+                return faulty(styles, project_styles_fault::language_twice, number);
+            styles.by_language[language];
+            language_line = number;
+            language_has_style = false;
+            continue;
+        }
+        std::size_t const equals = line.find('=');
+        if (equals == std::string::npos)
+            return faulty(styles, project_styles_fault::unknown_line, number);
+        std::string const key = trimmed(line.substr(0, equals));
+        std::string const value = trimmed(line.substr(equals + 1));
+        if (key != "style" && key != "addon")
+            return faulty(styles, project_styles_fault::unknown_key, number);
+        if (language.empty())
+            return faulty(styles, project_styles_fault::key_outside_language, number);
+        if (value.empty())
+            return faulty(styles, project_styles_fault::empty_name, number);
+        if (language_has_style)
+            return faulty(styles, project_styles_fault::second_style, number);
+        project_style& chosen = styles.by_language[language];
+        if (key == "style")
+            chosen.style = value;
+        else
+            chosen.addon_path = QDir::cleanPath(base.absoluteFilePath(QString::fromStdString(value)));
+        language_has_style = true;
+    }
+    if (!language_has_style)
+        return faulty(styles, project_styles_fault::language_without_style, language_line);
+    return styles;
+}

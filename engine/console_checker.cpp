@@ -1,0 +1,59 @@
+#include "engine/console_checker.h"
+
+#include "engine/interruption_by_signal.h"
+#include "engine/revision_run.h"
+#include "engine/unified_diff.h"
+
+#include <QDir>
+
+#include <iostream>
+#include <map>
+#include <mutex>
+
+console_checker::console_checker() : console_checker(std::cout, std::cerr) {}
+
+int console_checker::operator()(revision_request request, check_output output) {
+    interruption_by_signal const interruption;
+    // By path, so that the diff reads the same however the files were taken.
+    std::map<QString, std::string> diffs;
+    std::mutex diffs_lock;
+    request.writes_nothing = true;
+    if (output == check_output::diff)
+        request.would_change = [&](QString const& path, std::string const& text, std::string const& revised) {
+            std::string diff = unified_diff_of(label_in_diff_of(path)).between(text, revised);
+            std::lock_guard<std::mutex> const hold(diffs_lock);
+            diffs[path] = std::move(diff);
+        };
+    std::ostream& report_stream = output == check_output::diff ? err : out;
+    err << "Preparing, please wait..." << std::flush;
+    std::string report;
+    revision_run run(report, request);
+    if (!run.prepare()) {
+        err << '\r' << std::flush;
+        report_stream << report << '\n' << std::flush;
+        return interruption.was_requested() ? interruption.exit_status() : 2;
+    }
+    bool const interrupted = run.revise_all([&] { return interruption.was_requested(); },
+                                            [&](unsigned long revised, int found) {
+                                                err << "\rCheck... " << revised << " from " << found << " files"
+                                                    << std::flush;
+                                            });
+    run.finish();
+    err << '\r' << std::flush;
+    for (auto const& diff : diffs)
+        out << diff.second;
+    out << std::flush;
+    report_stream << "It's done." << std::string(25, ' ') << '\n' << report << '\n' << std::flush;
+    if (interrupted)
+        return interruption.exit_status();
+    if (run.failed() > 0)
+        return 2;
+    return run.changed() > 0 ? 1 : 0;
+}
+
+std::string label_in_diff_of(QString const& path) {
+    QString const relative = QDir::current().relativeFilePath(path);
+    if (relative.startsWith("../") || QDir::isAbsolutePath(relative))
+        return path.toStdString();
+    return relative.toStdString();
+}

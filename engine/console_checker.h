@@ -1,0 +1,33 @@
+// The command-line check: a revision run that writes no file and no change record, for CI and
+// commit hooks. Progress goes to standard error as in a revision; the files that would change and
+// the counts go to standard output, or, when a diff is asked for, to standard error, so that
+// standard output holds only the diff.
+#ifndef STYLE_TARNEL_ENGINE_CONSOLE_CHECKER_H
+#define STYLE_TARNEL_ENGINE_CONSOLE_CHECKER_H
+
+#include "engine/revision_request.h"
+
+#include <iosfwd>
+
+enum class check_output { report, diff };
+
+class console_checker {
+public:
+    console_checker();
+    // The streams that stand for standard output and standard error.
+    console_checker(std::ostream& out, std::ostream& err) : out(out), err(err) {}
+
+    // 0 when no file would change; 1 when some file would; 2 when the run cannot start or a file
+    // cannot be read or revised; 128 + the number of a SIGINT or SIGTERM that stopped it.
+    int operator()(revision_request request, check_output output);
+
+private:
+    std::ostream& out;
+    std::ostream& err;
+};
+
+// The path a diff shows for `path`: relative to the current directory when it lies below it,
+// otherwise as it is.
+std::string label_in_diff_of(QString const& path);
+
+#endif
