@@ -3,9 +3,11 @@
 #include "core/directory_listing.h"
 #include "core/path_to.h"
 #include "core/style_addon.h"
+#include "engine/plugin_obtainer.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QPluginLoader>
 #include <QStandardPaths>
 
 namespace {
@@ -48,6 +50,23 @@ boost::optional<plugin_description> plugin_of(std::string const& language) {
         if (plugin.language == language)
             return std::move(plugin);
     return boost::none;
+}
+
+bool with_plugin_of(std::string const& language,
+                    std::function<void(interface_to_language_plugin& plugin)> const& use) {
+    auto const description = plugin_of(language);
+    if (!description)
+        return false;
+    QPluginLoader loader;
+    interface_to_language_plugin* plugin = plugin_obtainer(loader)(path_of_plugin(description->file_name));
+    if (plugin == nullptr)
+        return false;
+    try {
+        use(*plugin);
+    } catch (...) {
+        return false;
+    }
+    return true;
 }
 
 addons_pass first_addon_where(

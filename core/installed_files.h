@@ -6,6 +6,7 @@
 
 #include "core/style_description.h"
 #include "engine/plugin_descriptions.h"
+#include "interface_to_language_plugin.h"
 
 #include <boost/optional.hpp>
 
@@ -27,6 +28,12 @@ std::vector<plugin_description> installed_plugins();
 
 // The first installed plugin that reports exactly that language name.
 boost::optional<plugin_description> plugin_of(std::string const& language);
+
+// Loads the first installed plugin of that language and calls `use` with it; the plugin is valid
+// only during that call. False when there is no such plugin, it does not load, or `use` throws
+// (a plugin is code from outside).
+bool with_plugin_of(std::string const& language,
+                    std::function<void(interface_to_language_plugin& plugin)> const& use);
 
 enum class addons_pass { exhausted, found, broken };
 
