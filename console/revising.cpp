@@ -113,8 +113,13 @@ bool project_styles_for(QString const& path, project_styles& styles) {
                                                     what_is_wrong_with(styles.fault)));
         return false;
     }
-    // A file of comments alone names no style either.
-    if (!styles.were_found() || styles.by_language.empty()) {
+    // Without a project file and flags, the words ask for nothing known, as they always did.
+    if (!styles.were_found()) {
+        say(message::not_understood() + message::usage_hint());
+        return false;
+    }
+    // A file of comments alone names no style.
+    if (styles.by_language.empty()) {
         say(message::no_style_for(path.toStdString()));
         return false;
     }
