@@ -60,6 +60,16 @@ look_n_feel_editor::look_n_feel_editor(QWidget* parent, lnf_menu_about_this_stru
     QVariant const size = settings.value(settings_key::size_of_font_in_pt);
     if (size.isValid())
         pimpl->size = size.toInt();
+    // Whoever enables the font entries (the window does, with the rest of the menu), the one that
+    // would pass a bound stays disabled.
+    connect(increase_font->widget_ptr(), &QAction::changed, this, [this] {
+        if (pimpl->size >= largest_font_size && pimpl->increase_font->widget_ptr()->isEnabled())
+            pimpl->increase_font->disable();
+    });
+    connect(decrease_font->widget_ptr(), &QAction::changed, this, [this] {
+        if (pimpl->size <= smallest_font_size && pimpl->decrease_font->widget_ptr()->isEnabled())
+            pimpl->decrease_font->disable();
+    });
 }
 
 look_n_feel_editor::~look_n_feel_editor() = default;
