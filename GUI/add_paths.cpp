@@ -13,10 +13,11 @@ namespace GUI {
 
 namespace {
 
-// A window-modal dialog on the main window, made at its first use and kept between uses, which
+// A window-modal dialog on the main window, titled as its button, made at its first use and kept between uses, which
 // starts in the directory stored under `start_key` or in the home directory.
-QFileDialog* path_dialog_on(QWidget* main_window, QFileDialog::FileMode mode, char const* name) {
-    auto* dialog = new QFileDialog(main_window);
+QFileDialog* path_dialog_on(QWidget* main_window, QFileDialog::FileMode mode, char const* name,
+                            QString const& title) {
+    auto* dialog = new QFileDialog(main_window, title);
     dialog->setObjectName(name);
     dialog->setAccessibleName(name);
     dialog->setOption(QFileDialog::DontUseNativeDialog);
@@ -51,7 +52,8 @@ add_path_to_work_directory::add_path_to_work_directory(QWidget* parent, QWidget*
 
 void add_path_to_work_directory::show_dialog() {
     if (dialog == nullptr) {
-        dialog = path_dialog_on(main_window, QFileDialog::Directory, "add_directories_dialog");
+        dialog = path_dialog_on(main_window, QFileDialog::Directory, "add_directories_dialog",
+                                text().remove('&'));
         connect(dialog, &QFileDialog::filesSelected, this, [this](QStringList const& directories) {
             for (QString const& directory : directories)
                 emit directory_was_choosed(directory);
@@ -69,7 +71,7 @@ add_paths_to_work_files::add_paths_to_work_files(QWidget* parent, QWidget* main_
 
 void add_paths_to_work_files::show_dialog() {
     if (dialog == nullptr) {
-        dialog = path_dialog_on(main_window, QFileDialog::ExistingFiles, "add_files_dialog");
+        dialog = path_dialog_on(main_window, QFileDialog::ExistingFiles, "add_files_dialog", text().remove('&'));
         connect(dialog, &QFileDialog::filesSelected, this, &add_paths_to_work_files::files_was_choosed);
     }
     QString extensions;

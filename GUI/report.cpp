@@ -16,6 +16,8 @@ report::report() : QWidget(nullptr, Qt::Window), browser(new QTextBrowser(this))
     browser->setObjectName("report_text");
     browser->setAccessibleName(tr(text::report_title));
     browser->setContextMenuPolicy(Qt::NoContextMenu);
+    // The report can be selected and copied from the keyboard, too.
+    browser->setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(browser);
