@@ -8,11 +8,12 @@ namespace GUI {
 
 namespace {
 
-QStringList texts_of(std::vector<std::string> const& words) {
-    QStringList texts;
+// Each word as a case-sensitive regular expression of its own.
+QList<QRegExp> expressions_of(std::vector<std::string> const& words) {
+    QList<QRegExp> expressions;
     for (std::string const& word : words)
-        texts << QString::fromStdString(word);
-    return texts;
+        expressions << QRegExp(QString::fromStdString(word), Qt::CaseSensitive, QRegExp::RegExp);
+    return expressions;
 }
 
 }  // namespace
@@ -23,15 +24,14 @@ editor_highlighter::editor_highlighter(QTextDocument* document) : QSyntaxHighlig
 void editor_highlighter::learn_words() {
     QString language;
     emit obtain_programming_language(language);
-    keywords = texts_of(kernel().list_of_keywords_of(language.toStdString()));
-    placeholders = texts_of(kernel().list_of_placeholders());
+    keywords = expressions_of(kernel().list_of_keywords_of(language.toStdString()));
+    placeholders = expressions_of(kernel().list_of_placeholders());
 }
 
 // Every match of each word, searched again from the end of the last one.
-void editor_highlighter::format_every_match_of(QStringList const& words, QString const& text,
+void editor_highlighter::format_every_match_of(QList<QRegExp> const& words, QString const& text,
                                                QTextCharFormat const& format) {
-    for (QString const& word : words) {
-        QRegExp const expression(word, Qt::CaseSensitive, QRegExp::RegExp);
+    for (QRegExp expression : words) {
         for (int at = expression.indexIn(text); at >= 0 && expression.matchedLength() > 0;
              at = expression.indexIn(text, at + expression.matchedLength()))
             setFormat(at, expression.matchedLength(), format);

@@ -3,7 +3,8 @@
 #ifndef STYLE_TARNEL_GUI_EDITOR_HIGHLIGHTER_H
 #define STYLE_TARNEL_GUI_EDITOR_HIGHLIGHTER_H
 
-#include <QStringList>
+#include <QList>
+#include <QRegExp>
 #include <QSyntaxHighlighter>
 
 namespace GUI {
@@ -23,10 +24,11 @@ protected:
     void highlightBlock(QString const& text) override;
 
 private:
-    void format_every_match_of(QStringList const& words, QString const& text, QTextCharFormat const& format);
+    void format_every_match_of(QList<QRegExp> const& words, QString const& text, QTextCharFormat const& format);
 
-    QStringList keywords;
-    QStringList placeholders;
+    // Compiled once per shown form: a block is highlighted on every edit.
+    QList<QRegExp> keywords;
+    QList<QRegExp> placeholders;
 };
 
 }  // namespace GUI

@@ -72,6 +72,7 @@ constexpr char revision_in_progress_please_wait[] = "Revision in progress, pleas
 constexpr char language_structure_caption[] = "Language structure";
 constexpr char look_and_feel_caption[] = "Look and feel";
 constexpr char not_supported[] = "Not supported";
+constexpr char checking_the_form[] = "Checking how a revision writes this form...";
 constexpr char comes_back_as_written[] = "A revision keeps this form as written.";
 constexpr char comes_back_otherwise[] = "A revision writes this form so:";
 constexpr char plugin_refuses_the_form[] =

@@ -103,13 +103,25 @@ show_revise::~show_revise() = default;
 
 QWidget* show_revise::progress_dialog() const { return pimpl->dialog; }
 
-void show_revise::maximum_for_progress(int maximum) { emit set_maximum_for_progress(maximum); }
+// Each call is posted to the GUI thread, where the signal goes out: whoever listens, even through
+// a direct connection, hears it on the GUI thread.
+void show_revise::maximum_for_progress(int maximum) {
+    QMetaObject::invokeMethod(this, [this, maximum] { emit set_maximum_for_progress(maximum); }, Qt::QueuedConnection);
+}
 
-void show_revise::value_for_progress(int value) { emit set_value_for_progress(value); }
+void show_revise::value_for_progress(int value) {
+    QMetaObject::invokeMethod(this, [this, value] { emit set_value_for_progress(value); }, Qt::QueuedConnection);
+}
 
-void show_revise::text(std::string const& status) { emit set_text(QString::fromStdString(status)); }
+void show_revise::text(std::string const& status) {
+    QString const text = QString::fromStdString(status);
+    QMetaObject::invokeMethod(this, [this, text] { emit set_text(text); }, Qt::QueuedConnection);
+}
 
-void show_revise::finished(std::string const& report) { emit revision_is_finished(QString::fromStdString(report)); }
+void show_revise::finished(std::string const& report) {
+    QString const text = QString::fromStdString(report);
+    QMetaObject::invokeMethod(this, [this, text] { emit revision_is_finished(text); }, Qt::QueuedConnection);
+}
 
 void show_revise::view() { view(false, false); }
 

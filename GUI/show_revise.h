@@ -18,8 +18,8 @@ public:
     show_revise(QWidget* parent, QWidget* main_window);
     ~show_revise() override;
 
-    // Callback targets, called from the worker thread: each emits the matching signal, which Qt
-    // queues to the GUI thread.
+    // Callback targets, called from the worker thread: each has the matching signal emitted on
+    // the GUI thread.
     void maximum_for_progress(int maximum);
     void value_for_progress(int value);
     void text(std::string const& status);

@@ -17,6 +17,8 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
+#include <thread>
+
 namespace GUI {
 
 namespace {
@@ -65,6 +67,28 @@ public:
         layout->addWidget(revised);
     }
 
+    // The plugin revises the form on a thread of its own (it reads the whole addon first, which
+    // takes a noticeable time with a large style); one check at a time, the latest form next.
+    void start_check(view_n_edit_language_structure* owner) {
+        if (checking) {
+            check_again = true;
+            return;
+        }
+        checking = true;
+        comes_back->setText(QObject::tr(text::checking_the_form));
+        checker = std::thread([owner, language = language.toStdString(), style = style.toStdString(),
+                               form = last_valid_form] {
+            boost::optional<std::string> const revised = kernel().text_as_revised_under(language, style, form.toStdString());
+            QMetaObject::invokeMethod(owner, [owner, form, revised] { owner->form_came_back(form, revised); },
+                                      Qt::QueuedConnection);
+        });
+    }
+
+    ~implementation() {
+        if (checker.joinable())
+            checker.join();
+    }
+
     void clear_check() {
         comes_back->clear();
         revised->clear();
@@ -82,6 +106,9 @@ public:
     bool structure_is_known = false;
     QString last_valid_form;
     int cursor_position = 0;
+    std::thread checker;
+    bool checking = false;
+    bool check_again = false;
 };
 
 view_n_edit_language_structure::view_n_edit_language_structure(QWidget* parent, style_group_actions const& actions)
@@ -171,8 +198,20 @@ void view_n_edit_language_structure::check_how_the_form_comes_back() {
         p.clear_check();
         return;
     }
-    boost::optional<std::string> const revised = kernel().text_as_revised_under(
-        p.language.toStdString(), p.style.toStdString(), p.last_valid_form.toStdString());
+    p.start_check(this);
+}
+
+void view_n_edit_language_structure::form_came_back(QString const& form, boost::optional<std::string> const& revised) {
+    implementation& p = *pimpl;
+    p.checker.join();
+    p.checking = false;
+    if (p.check_again) {
+        p.check_again = false;
+        check_how_the_form_comes_back();
+        return;
+    }
+    if (form != p.last_valid_form || !p.structure_is_known)
+        return;  // Another form is shown by now; its own check follows.
     if (!revised) {
         p.comes_back->setText(tr(text::plugin_refuses_the_form));
         p.revised->hide();

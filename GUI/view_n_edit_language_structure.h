@@ -10,7 +10,10 @@
 
 #include <QWidget>
 
+#include <boost/optional.hpp>
+
 #include <memory>
+#include <string>
 
 namespace GUI {
 
@@ -41,8 +44,10 @@ public slots:
     void go_to_URL();
     void key_was_pressed();
     void left_button_was_clicked();
-    // Compares the form with what the plugin makes of it and says so under the editor.
+    // Asks the plugin, off the GUI thread, what it makes of the form; form_came_back says it
+    // under the editor.
     void check_how_the_form_comes_back();
+    void form_came_back(QString const& form, boost::optional<std::string> const& revised);
 
 private:
     class implementation;
