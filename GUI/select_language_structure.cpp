@@ -44,11 +44,9 @@ public:
             owner->disable();
             return false;
         }
-        kernel const k;
-        for (auto const& structure : k.info_about_structures_of(language.toStdString()))
-            if (!k.language_structure_form_based_on(language.toStdString(), style.toStdString(), structure.first)
-                     .empty())
-                list->addItem(QString::fromStdString(structure.first));
+        for (std::string const& structure :
+             kernel().structures_with_a_form_in(language.toStdString(), style.toStdString()))
+            list->addItem(QObject::tr(structure.c_str()));
         owner->setEnabled(list->count() > 0);
         return true;
     }

@@ -16,6 +16,21 @@ std::string kernel::language_structure_form_based_on(std::string const& language
     return obtain_structure_form(structure).from(file_name);
 }
 
+std::vector<std::string> kernel::structures_with_a_form_in(std::string const& language,
+                                                          std::string const& style) const {
+    std::vector<std::string> structures;
+    std::string file_name;
+    if (addon_of(style, language, file_name) != addons_pass::found)
+        return structures;
+    boost::optional<std::string> const addon_text = addon_text_of(file_name);
+    if (!addon_text)
+        return structures;
+    for (auto const& structure : info_about_structures_of(language))
+        if (!obtain_structure_form(structure.first).from_already_reading(*addon_text).empty())
+            structures.push_back(structure.first);
+    return structures;
+}
+
 bool kernel::update_language_structure_form(std::string const& language, std::string const& style,
                                             std::string const& structure,
                                             std::string const& form) const {
