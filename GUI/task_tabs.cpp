@@ -66,6 +66,9 @@ public:
     void load_the_task_of(QString const& tab) {
         last_info_for_tab const info(tab);
         shown_tab = tab;
+        // The paths of the task left go first, as they are: a language change clears the list
+        // and forgets the change records of what it holds, which are the other task's records.
+        emit owner->set_these_raw_paths(QString());
         if (!info.was_saved()) {
             emit owner->set_first_programming_language();
             return;

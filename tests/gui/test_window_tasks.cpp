@@ -451,8 +451,9 @@ void test_window_tasks::refuses_bad_tab_names() {
     QCOMPARE(listed(), QStringList({"tree/a.tst"}));
 }
 
-// Faults: a closed tab's record left in the settings, or its files still counted as unchanged, so
-// that the same paths in another task would be skipped.
+// Faults: switching tabs forgetting which files of a task were revised; a closed tab's record left
+// in the settings, or its files still counted as unchanged, so that the same paths in another task
+// would be skipped.
 void test_window_tasks::closing_a_tab_forgets_its_records() {
     write_tree_in(path("tree"));
     open_window();
@@ -461,6 +462,10 @@ void test_window_tasks::closing_a_tab_forgets_its_records() {
     choose_test_language();
     add({"tree"});
     report_of_a_run([&] { action("revise_menu_all")->trigger(); });
+    tab_bar()->setCurrentIndex(0);
+    tab_bar()->setCurrentIndex(1);
+    QCOMPARE(report_of_a_run([&] { action("revise_menu_all")->trigger(); }),
+             QString("2 files was found, no files was revised."));
     tab_bar()->setCurrentIndex(0);
     QVERIFY(QSettings().contains(settings_key::last_info_for_tab("Task 2")));
     emit tab_bar()->tabCloseRequested(1);
