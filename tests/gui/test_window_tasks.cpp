@@ -11,6 +11,7 @@
 #include "tests/harness/built_files.h"
 #include "tests/harness/temporary_bundle.h"
 #include "tests/harness/test_main.h"
+#include "helpers/window_test_helpers.h"
 
 #include <QAction>
 #include <QDir>
@@ -18,6 +19,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QProcess>
 #include <QPushButton>
@@ -26,23 +28,11 @@
 #include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QToolTip>
+#include <QUrl>
 
 #include <memory>
 
 namespace {
-
-void empty_directory(QString const& path) {
-    QDir directory(path);
-    for (QString const& name : directory.entryList(QDir::Files))
-        directory.remove(name);
-}
-
-QStringList texts_of(QListWidget const* list) {
-    QStringList texts;
-    for (int row = 0; row < list->count(); ++row)
-        texts << list->item(row)->text();
-    return texts;
-}
 
 void write(QString const& path, QByteArray const& content) {
     QDir().mkpath(QFileInfo(path).absolutePath());
@@ -127,6 +117,8 @@ private slots:
 
     void takes_each_existing_path_once_data();
     void takes_each_existing_path_once();
+    void takes_only_paths_it_revises_by_dropping_data();
+    void takes_only_paths_it_revises_by_dropping();
     void files_leave_when_their_extension_does();
     void refuses_bad_extensions_data();
     void refuses_bad_extensions();
@@ -181,6 +173,38 @@ void test_window_tasks::takes_each_existing_path_once() {
     QCOMPARE(this->listed(), listed);
     QVERIFY(button("go")->isEnabled());
     QVERIFY(action("revise_menu_all_forcibly")->isEnabled());
+}
+
+void test_window_tasks::takes_only_paths_it_revises_by_dropping_data() {
+    QTest::addColumn<QString>("dropped");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("directory") << "tree" << true;
+    QTest::newRow("file with a listed extension") << "tree/a.tst" << true;
+    QTest::newRow("file with another extension") << "tree/notes.txt" << false;
+    QTest::newRow("file whose complete suffix is not listed") << "x.tar.tst" << false;
+}
+
+// Faults: a dropped file taken that the run would refuse for its extension, a directory refused,
+// or an accepted drop not listed.
+void test_window_tasks::takes_only_paths_it_revises_by_dropping() {
+    QFETCH(QString, dropped);
+    QFETCH(bool, accepted);
+    write_tree_in(path("tree"));
+    write(path("x.tar.tst"), "begin SOME end\n");
+    open_window();
+    choose_test_language();
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path(dropped))});
+    QWidget* target = window->findChild<QListWidget*>("paths")->viewport();
+    QPoint const inside = target->rect().center();
+    QDragEnterEvent enter(inside, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QCOMPARE(enter.isAccepted(), accepted);
+    if (!accepted)
+        return;
+    QDropEvent drop(inside, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+    QCOMPARE(listed(), QStringList({dropped}));
 }
 
 // Faults: a file whose extension was taken away still revised; a directory dropped with it.
