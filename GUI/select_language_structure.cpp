@@ -51,11 +51,17 @@ public:
         return true;
     }
 
-    void select(QString const& name) {
+    // Selects the named structure, or the first; with none listed, the form pane still hears of
+    // it, so that it does not go on showing (and writing) a form of the style before.
+    void select(select_language_structure* owner, QString const& name) {
+        if (list->count() == 0) {
+            emit owner->language_structure_was_selected();
+            return;
+        }
         QList<QListWidgetItem*> const found = list->findItems(name, Qt::MatchExactly);
         if (!found.isEmpty())
             list->setCurrentItem(found.first());
-        else if (list->count() > 0)
+        else
             list->setCurrentRow(0);
     }
 
@@ -84,17 +90,17 @@ void select_language_structure::disable() { setEnabled(false); }
 
 void select_language_structure::show() {
     if (pimpl->just_show(this))
-        pimpl->select(pimpl->last_structure);
+        pimpl->select(this, pimpl->last_structure);
 }
 
 void select_language_structure::show_first() {
-    if (pimpl->just_show(this) && pimpl->list->count() > 0)
-        pimpl->list->setCurrentRow(0);
+    if (pimpl->just_show(this))
+        pimpl->select(this, QString());
 }
 
 void select_language_structure::set_this_language_structure(QString const& structure) {
     if (pimpl->just_show(this))
-        pimpl->select(structure);
+        pimpl->select(this, structure);
 }
 
 void select_language_structure::disable_with_cleanup() {

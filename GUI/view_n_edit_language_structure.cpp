@@ -151,7 +151,11 @@ void view_n_edit_language_structure::show() {
     std::map<std::string, std::string> const structures = k.info_about_structures_of(p.language.toStdString());
     auto const found = structures.find(p.structure.toStdString());
     p.structure_is_known = found != structures.end();
-    p.expression = p.structure_is_known ? found->second : std::string();
+    if (!p.structure_is_known) {
+        disable_with_cleanup();
+        return;
+    }
+    p.expression = found->second;
     p.highlighter->learn_words();
     QString const form = QString::fromStdString(k.language_structure_form_based_on(
         p.language.toStdString(), p.style.toStdString(), p.structure.toStdString()));

@@ -128,6 +128,7 @@ private slots:
     void forced_revisions_revise_unchanged_files();
     void saves_a_matching_form_and_reverts_another_data();
     void saves_a_matching_form_and_reverts_another();
+    void a_style_without_forms_leaves_nothing_to_edit();
     void keeps_the_font_size_within_bounds_data();
     void keeps_the_font_size_within_bounds();
     void tabs_keep_their_tasks_over_a_restart();
@@ -369,6 +370,22 @@ void test_window_tasks::saves_a_matching_form_and_reverts_another() {
     QCOMPARE(revised->isVisible(), comes_back.contains("so:"));
     if (revised->isVisible())
         QCOMPARE(revised->toPlainText(), QString("begin SOME end"));
+}
+
+// Faults: the form of the style shown before still shown, and its edits written into that style,
+// after choosing a style that gives no structure a form.
+void test_window_tasks::a_style_without_forms_leaves_nothing_to_edit() {
+    QFile addon(path_to().addons_directory() + "/Bare[Test].style");
+    QVERIFY(addon.open(QIODevice::WriteOnly));
+    addon.write("NAME=Bare\nLANGUAGE=Test\n\nS_NAME=none\nS_BEG\nS_END\n");
+    addon.close();
+    open_window();
+    choose_test_language();
+    QTRY_COMPARE(editor()->toPlainText(), QString("begin SOME end"));
+    emit window->findChild<GUI::task_tabs*>()->set_this_formatting_style("Bare");
+    QCOMPARE(texts_of(window->findChild<QListWidget*>("structures")), QStringList());
+    QCOMPARE(editor()->toPlainText(), QString());
+    QVERIFY(!editor()->isEnabled() || !editor()->parentWidget()->isEnabled());
 }
 
 void test_window_tasks::keeps_the_font_size_within_bounds_data() {
