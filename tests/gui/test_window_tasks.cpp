@@ -6,6 +6,7 @@
 #include "GUI/show_revise.h"
 #include "GUI/task_tabs.h"
 #include "GUI/task_tabs_itself.h"
+#include "GUI/view_n_edit_language_structure.h"
 #include "core/path_to.h"
 #include "core/settings_keys.h"
 #include "tests/harness/built_files.h"
@@ -26,7 +27,9 @@
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTextBlock>
 #include <QTextBrowser>
+#include <QTextLayout>
 #include <QToolTip>
 #include <QUrl>
 
@@ -50,6 +53,12 @@ void write_tree_in(QString const& directory) {
 }
 
 QString plain_addon() { return path_to().addons_directory() + "/Plain[Test].style"; }
+
+// The test style "Plain" with another form of "block".
+bool plain_addon_has_the_block_form(QByteArray const& block_form) {
+    QFile addon(plain_addon());
+    return addon.open(QIODevice::WriteOnly) && addon.write(addon_text("Plain", "Test", block_form)) > 0;
+}
 
 }  // namespace
 
@@ -129,6 +138,9 @@ private slots:
     void saves_a_matching_form_and_reverts_another_data();
     void saves_a_matching_form_and_reverts_another();
     void a_style_without_forms_leaves_nothing_to_edit();
+    void highlights_keywords_and_placeholders();
+    void structure_manual_addresses_data();
+    void structure_manual_addresses();
     void keeps_the_font_size_within_bounds_data();
     void keeps_the_font_size_within_bounds();
     void tabs_keep_their_tasks_over_a_restart();
@@ -386,6 +398,42 @@ void test_window_tasks::a_style_without_forms_leaves_nothing_to_edit() {
     QCOMPARE(texts_of(window->findChild<QListWidget*>("structures")), QStringList());
     QCOMPARE(editor()->toPlainText(), QString());
     QVERIFY(!editor()->isEnabled() || !editor()->parentWidget()->isEnabled());
+}
+
+// Faults: keywords or placeholders not set off from the rest of a form, or keywords found only as
+// whole words (a keyword inside a longer word is emphasised too).
+void test_window_tasks::highlights_keywords_and_placeholders() {
+    QVERIFY(plain_addon_has_the_block_form("begin SOME end elif"));
+    open_window();
+    choose_test_language();
+    QTRY_COMPARE(editor()->toPlainText(), QString("begin SOME end elif"));
+    QStringList emphasised;
+    for (QTextLayout::FormatRange const& range : editor()->document()->firstBlock().layout()->formats()) {
+        QString const word = editor()->toPlainText().mid(range.start, range.length);
+        if (range.format.fontWeight() == 75)
+            emphasised << "bold " + word;
+        if (range.format.fontItalic())
+            emphasised << "italic " + word;
+    }
+    emphasised.sort();
+    QCOMPARE(emphasised, QStringList({"bold begin", "bold end", "bold if", "italic SOME"}));
+}
+
+void test_window_tasks::structure_manual_addresses_data() {
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("structure");
+    QTest::addColumn<QString>("address");
+    QTest::newRow("one word") << "C" << "for" << "https://style-tarnel.org/direct-definition-manual/c/for";
+    QTest::newRow("words and signs") << "C++" << "Array initializer"
+                                     << "https://style-tarnel.org/direct-definition-manual/c++/array-initializer";
+}
+
+// Fault: "How to change this structure" leading to a page that is not there (upper case, blanks).
+void test_window_tasks::structure_manual_addresses() {
+    QFETCH(QString, language);
+    QFETCH(QString, structure);
+    QFETCH(QString, address);
+    QCOMPARE(GUI::view_n_edit_language_structure::manual_address_of(language, structure), address);
 }
 
 void test_window_tasks::keeps_the_font_size_within_bounds_data() {
