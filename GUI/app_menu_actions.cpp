@@ -25,16 +25,6 @@ namespace GUI {
 lnf_menu_about_this_structure::lnf_menu_about_this_structure(QWidget* parent)
     : one_action(parent, {tr("How to change this structure")}) {
     name_as("lnf_menu_about_this_structure");
-    connect(widget_ptr(), &QAction::triggered, this, &lnf_menu_about_this_structure::go_to_URL);
-}
-
-void lnf_menu_about_this_structure::go_to_URL() {
-    QString structure;
-    emit obtain_language_structure(structure);
-    QString address = text::user_guide_address;
-    if (!structure.isEmpty())
-        address += "#" + QUrl::toPercentEncoding(structure);
-    QDesktopServices::openUrl(QUrl(address));
 }
 
 info_menu_online::info_menu_online(QWidget* parent)

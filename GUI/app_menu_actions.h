@@ -13,10 +13,6 @@ class lnf_menu_about_this_structure : public one_action {
     Q_OBJECT
 public:
     explicit lnf_menu_about_this_structure(QWidget* parent);
-signals:
-    void obtain_language_structure(QString& structure);
-public slots:
-    void go_to_URL();
 };
 
 class info_menu_online : public one_action {

@@ -1,22 +1,27 @@
-// The middle group of the window: the paths to revise and the filename extensions. A frame with
-// the signals and slots the window wires; its lists come with the paths' own work.
+// The middle group of the window: the paths to revise ("Paths to your code:" with the buttons that
+// add and remove them) and the filename extensions that choose the files. It answers the other
+// groups' questions about extensions and paths and enables itself step by step as a language,
+// a style and extensions become available.
 #ifndef STYLE_TARNEL_GUI_CODE_GROUP_H
 #define STYLE_TARNEL_GUI_CODE_GROUP_H
 
-#include <QFrame>
+#include <QWidget>
+
+#include <memory>
 
 namespace GUI {
 
 class revise_menu_it_forcibly;
 class revise_menu_all_forcibly;
 
-class code_group : public QFrame {
+class code_group : public QWidget {
     Q_OBJECT
 public:
+    // `parent` is the main window, over which the dialogs open.
     code_group(QWidget* parent, revise_menu_it_forcibly* it_forcibly, revise_menu_all_forcibly* all_forcibly);
+    ~code_group() override;
 
-    QWidget* widget_ptr() { return this; }
-    void restore_states_of_sliders() {}
+    QWidget* widget_ptr();
 
 signals:
     void obtain_programming_language(QString& language);
@@ -28,12 +33,19 @@ signals:
     void no_paths_anymore();
 
 public slots:
-    void language_n_style_was_selected() {}
-    void set_this_filename_extensions(QString const&) {}
-    void set_these_raw_paths(QString const&) {}
-    void delete_all_raw_paths() {}
-    void show_default_filename_extensions() {}
-    void all_styles_have_been_deleted() {}
+    void language_n_style_was_selected();
+    void all_extensions_have_been_deleted();
+    void extension_have_been_added();
+    void all_styles_have_been_deleted();
+    void delete_all_raw_paths();
+    void set_this_filename_extensions(QString const& extensions);
+    void set_these_raw_paths(QString const& raw_paths);
+    void show_default_filename_extensions();
+    void restore_states_of_sliders();
+
+private:
+    class implementation;
+    std::unique_ptr<implementation> pimpl;
 };
 
 }  // namespace GUI

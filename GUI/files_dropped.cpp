@@ -12,7 +12,7 @@ void files_dropped::enter(QDragEnterEvent* event, std::function<bool(QFileInfo c
     if (event->mimeData()->hasUrls())
         for (QUrl const& url : event->mimeData()->urls()) {
             QFileInfo const file(url.toLocalFile());
-            if (file.isFile() && takes(file))
+            if (takes(file))
                 valid_paths << url.toLocalFile();
         }
     if (valid_paths.isEmpty())

@@ -1,5 +1,5 @@
-// The files of a drag in progress that a list takes: kept when the drag enters, by the list's own
-// rule, and handed over when they are dropped. A drag without such a file is refused at entry.
+// The paths of a drag in progress that a list takes: kept when the drag enters, by the list's own
+// rule, and handed over when they are dropped. A drag without such a path is refused at entry.
 #ifndef STYLE_TARNEL_GUI_FILES_DROPPED_H
 #define STYLE_TARNEL_GUI_FILES_DROPPED_H
 
@@ -16,8 +16,7 @@ namespace GUI {
 
 class files_dropped {
 public:
-    // Keeps the drag's local paths of regular files that `takes` accepts; accepts the drag when
-    // there is one.
+    // Keeps the drag's local paths that `takes` accepts; accepts the drag when there is one.
     void enter(QDragEnterEvent* event, std::function<bool(QFileInfo const& file)> const& takes);
     void move(QDragMoveEvent* event) const;
     // The kept paths, the drop accepted; empty, the drop refused, when none were kept.

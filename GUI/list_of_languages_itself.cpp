@@ -15,7 +15,7 @@ list_of_languages_itself::list_of_languages_itself(QWidget* parent) : QListWidge
 
 void list_of_languages_itself::dragEnterEvent(QDragEnterEvent* event) {
     dropped.enter(event, [](QFileInfo const& file) {
-        return file.fileName().endsWith(text::plugin_suffix, Qt::CaseSensitive) &&
+        return file.isFile() && file.fileName().endsWith(text::plugin_suffix, Qt::CaseSensitive) &&
                kernel().this_is_a_plugin(file.filePath().toStdString());
     });
 }

@@ -30,7 +30,7 @@ QString list_of_styles_itself::current_language() {
 void list_of_styles_itself::dragEnterEvent(QDragEnterEvent* event) {
     std::string const language = current_language().toStdString();
     dropped.enter(event, [&](QFileInfo const& file) {
-        return file.fileName().endsWith(text::addon_suffix, Qt::CaseSensitive) && !language.empty() &&
+        return file.isFile() && file.fileName().endsWith(text::addon_suffix, Qt::CaseSensitive) && !language.empty() &&
                obtain_style_description().from_raw(file.filePath()).language == language;
     });
 }

@@ -48,6 +48,41 @@ constexpr char agreement_text[] =
 constexpr char agreement_accept[] = "I agree";
 constexpr char agreement_decline[] = "Quit";
 
+// The paths and extensions group, and its refusals of extensions, shown as tooltips at the field.
+constexpr char paths_caption[] = "Paths to your code:";
+constexpr char add_directories[] = "Add &directories";
+constexpr char add_files[] = "&Add files";
+constexpr char remove_paths[] = "&Remove";
+constexpr char extensions_caption[] = "Revise files with extensions:";
+constexpr char at_least_one_extension_please[] = "At least one extension, please";
+constexpr char without_dot_please[] = "Without dot, please";
+constexpr char extensions_tooltip[] =
+    "Extensions without dots, separated by spaces: files whose names end with one of them are "
+    "revised, in the directories you add and among the files you add.";
+
+// The revision group, its progress dialog and the report window.
+constexpr char go[] = "&Go!";
+constexpr char view_report[] = "&View report";
+constexpr char report_title[] = "Report";
+constexpr char revise_in_progress[] = "Revise...";
+constexpr char stop[] = "&Stop";
+constexpr char revision_in_progress_please_wait[] = "Revision in progress, please wait...";
+
+// The structure panes and the form editor.
+constexpr char language_structure_caption[] = "Language structure";
+constexpr char look_and_feel_caption[] = "Look and feel";
+constexpr char not_supported[] = "Not supported";
+constexpr char checking_the_form[] = "Checking how a revision writes this form...";
+constexpr char comes_back_as_written[] = "A revision keeps this form as written.";
+constexpr char comes_back_otherwise[] = "A revision writes this form so:";
+constexpr char plugin_refuses_the_form[] =
+    "The language plugin cannot revise this form: a revision would leave such code as it is.";
+
+// Task tabs.
+constexpr char first_task[] = "Task 1";
+constexpr char task_prefix[] = "Task ";
+constexpr char tab_already_exists[] = "Tab with such name already exists";
+
 // Where "Online help" leads.
 constexpr char user_guide_address[] = "https://style-tarnel.org/user-guide";
 

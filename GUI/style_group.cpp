@@ -3,7 +3,8 @@
 #include "GUI/menu_actions.h"
 #include "GUI/select_formatting_style.h"
 #include "GUI/select_programming_language.h"
-#include "GUI/structure_panes.h"
+#include "GUI/select_language_structure.h"
+#include "GUI/view_n_edit_language_structure.h"
 #include "core/settings_keys.h"
 
 #include <QHBoxLayout>
@@ -22,7 +23,7 @@ public:
                                              {actions.style_import, actions.style_export,
                                               actions.style_delete, actions.style_rename})),
           structures(new select_language_structure(splitter)),
-          form(new view_n_edit_language_structure(splitter)) {
+          form(new view_n_edit_language_structure(splitter, actions)) {
         splitter->setObjectName("style_splitter");
         splitter->setChildrenCollapsible(false);
         splitter->addWidget(languages->widget_ptr());

@@ -71,6 +71,16 @@ public:
     bool update_language_structure_form(std::string const& language, std::string const& style,
                                         std::string const& structure,
                                         std::string const& form) const;
+    // The structures of the language to which the style gives a form, in name order: one reading
+    // of the addon for all of them.
+    std::vector<std::string> structures_with_a_form_in(std::string const& language,
+                                                       std::string const& style) const;
+    // What the language's plugin makes of `text` when it revises it with the whole addon of that
+    // style, as a revision would: how a form comes back under the rules the plugin reads from the
+    // addon. Absent when the plugin or the addon is not there or the plugin refuses the text.
+    boost::optional<std::string> text_as_revised_under(std::string const& language,
+                                                       std::string const& style,
+                                                       std::string const& text) const;
 
     // Change records: forgets those of the files at and below the paths, so that the next run
     // revises them whatever they hold.

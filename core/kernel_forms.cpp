@@ -1,9 +1,11 @@
-// kernel: reading and replacing the form of one structure in an installed style.
+// kernel: reading and replacing the form of one structure in an installed style, and how the
+// plugin revises a text under that style.
 #include "core/kernel.h"
 
 #include "core/installed_files.h"
 #include "core/style_addon.h"
 #include "core/style_addon_editing.h"
+#include "engine/plugin_answer.h"
 
 std::string kernel::language_structure_form_based_on(std::string const& language,
                                                      std::string const& style,
@@ -14,10 +16,43 @@ std::string kernel::language_structure_form_based_on(std::string const& language
     return obtain_structure_form(structure).from(file_name);
 }
 
+std::vector<std::string> kernel::structures_with_a_form_in(std::string const& language,
+                                                          std::string const& style) const {
+    std::vector<std::string> structures;
+    std::string file_name;
+    if (addon_of(style, language, file_name) != addons_pass::found)
+        return structures;
+    boost::optional<std::string> const addon_text = addon_text_of(file_name);
+    if (!addon_text)
+        return structures;
+    for (auto const& structure : info_about_structures_of(language))
+        if (!obtain_structure_form(structure.first).from_already_reading(*addon_text).empty())
+            structures.push_back(structure.first);
+    return structures;
+}
+
 bool kernel::update_language_structure_form(std::string const& language, std::string const& style,
                                             std::string const& structure,
                                             std::string const& form) const {
     return with_addon_of(style, language, [&](std::string const& file_name) {
         return update_this(structure, file_name).by(form);
     });
+}
+
+boost::optional<std::string> kernel::text_as_revised_under(std::string const& language,
+                                                           std::string const& style,
+                                                           std::string const& text) const {
+    std::string file_name;
+    if (addon_of(style, language, file_name, stray_files::are_passed_over) != addons_pass::found)
+        return boost::none;
+    boost::optional<std::string> const addon_text = addon_text_of(file_name);
+    if (!addon_text)
+        return boost::none;
+    boost::optional<std::string> revised;
+    with_plugin_of(language, [&](interface_to_language_plugin& plugin) {
+        std::string result;
+        if (ask(plugin, text, *addon_text, result) == plugin_answer::revised)
+            revised = result;
+    });
+    return revised;
 }

@@ -1,10 +1,16 @@
 // Times the window's answers in the bundle it runs in (the script `run` makes one with the shipped
-// plugins and 50 more addons): opening until shown, then each selector action, each repeated and
-// reported as median and worst in milliseconds.
+// plugins and 50 more addons): opening until shown, then each selector action, the form editor's
+// check of a key release on a form of a few kilobytes, the paths, the start of a revision and the
+// task tabs, each repeated and reported as median and worst in milliseconds.
+#include "GUI/list_of_paths.h"
+#include "GUI/look_n_feel_editor.h"
 #include "GUI/main_window.h"
+#include "GUI/show_revise.h"
+#include "GUI/view_n_edit_language_structure.h"
 #include "GUI/select_formatting_style.h"
 #include "GUI/select_programming_language.h"
 #include "app/application_info.h"
+#include "core/kernel.h"
 #include "core/path_to.h"
 
 #include <QAction>
@@ -13,7 +19,10 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLineEdit>
+#include <QLabel>
 #include <QListWidget>
+#include <QSignalSpy>
+#include <QTabBar>
 #include <QTest>
 
 #include <algorithm>
@@ -97,6 +106,87 @@ int main(int argc, char** argv) {
         QFile::copy(path_to().plugins_directory() + "/libc-language-plugin.so", plugin_copy);
         language_import.push_back(milliseconds_of([&] { language_selector->import_languages_factually({plugin_copy}); }));
     }
+    // The form editor, on a copy of GNU whose "array initializer" form is a few kilobytes: its
+    // tokens with long runs of blanks and line breaks between them.
+    QString const big_form = [] {
+        QString form;
+        for (char const* token : {"type", "name", "[", "]", "=", "{", "SOME", ",", "SOME", ",", "SOME", "}", ";"})
+            form += QString(token) + QString(300, ' ') + "\n";
+        return form;
+    }();
+    QFile gnu_file(path_to().addons_directory() + "/GNU[C++].style");
+    gnu_file.open(QIODevice::ReadOnly);
+    QByteArray gnu = gnu_file.readAll();
+    gnu.replace("NAME=GNU\n", "NAME=Big form\n");
+    {
+        QFile file(path_to().addons_directory() + "/Big form[C++].style");
+        file.open(QIODevice::WriteOnly);
+        file.write(gnu);
+    }
+    std::printf("failures before the form editor: %d\n", failures);
+    failures += kernel().update_language_structure_form("C++", "Big form", "array initializer", big_form.toStdString())
+                    ? 0
+                    : 1;
+    languages->setCurrentRow(1);
+    style_selector->show();
+    styles->setCurrentItem(styles->findItems("Big form", Qt::MatchExactly).value(0));
+    auto* structures = window->findChild<QListWidget*>("structures");
+    auto* form_editor = window->findChild<GUI::look_n_feel_editor*>();
+    auto* form_view = window->findChild<GUI::view_n_edit_language_structure*>();
+    std::vector<double> structure, valid_key, refused_key, moving_key, comes_back;
+    int const array_initializer = structures->row(structures->findItems("array initializer", Qt::MatchExactly).value(0));
+    for (int run = 0; run < runs; ++run) {
+        structure.push_back(milliseconds_of([&] { structures->setCurrentRow(run % 2 == 0 ? 0 : array_initializer); }));
+    }
+    structures->setCurrentRow(array_initializer);
+    failures += form_editor->toPlainText().size() > 3000 ? 0 : 1;
+    std::printf("failures before typing: %d\n", failures);
+    for (int run = 0; run < runs; ++run) {
+        QTextCursor cursor = form_editor->textCursor();
+        cursor.setPosition(4 + run % 50);  // among the blanks after "type"
+        form_editor->setTextCursor(cursor);
+        valid_key.push_back(milliseconds_of([&] { QTest::keyClick(form_editor, Qt::Key_Space); }));
+        cursor.setPosition(0);
+        form_editor->setTextCursor(cursor);
+        refused_key.push_back(milliseconds_of([&] { QTest::keyClick(form_editor, Qt::Key_X); }));
+        moving_key.push_back(milliseconds_of([&] { QTest::keyClick(form_editor, Qt::Key_Right); }));
+        // Off the GUI thread: timed until the line under the editor says how the form comes back.
+        auto* line = window->findChild<QLabel*>("comes_back");
+        comes_back.push_back(milliseconds_of([&] {
+            form_view->check_how_the_form_comes_back();
+            while (line->text().startsWith("Checking"))
+                QApplication::processEvents(QEventLoop::AllEvents, 5);
+        }));
+    }
+    failures += kernel().language_structure_form_based_on("C++", "Big form", "array initializer").size() ==
+                        static_cast<std::size_t>(big_form.size() + runs)
+                    ? 0
+                    : 1;
+
+    std::printf("failures after typing: %d\n", failures);
+    // Paths, a revision's start and the task tabs.
+    QString const tree = outside + "/tree";
+    QDir().mkpath(tree);
+    for (int i = 0; i < 20; ++i) {
+        QFile file(tree + QString("/file%1.cpp").arg(i));
+        file.open(QIODevice::WriteOnly);
+        file.write("int main() { return 0; }\n");
+    }
+    auto* paths = window->findChild<GUI::list_of_paths*>();
+    auto* starter = window->findChild<GUI::show_revise*>();
+    auto* tabs = window->findChild<QTabBar*>("task_tabs");
+    std::vector<double> adding, starting, new_tab, switching;
+    for (int run = 0; run < runs; ++run) {
+        adding.push_back(milliseconds_of([&] { paths->show(QStringList{tree, tree + "/file1.cpp"}); }));
+        QSignalSpy finished(starter, &GUI::show_revise::revision_is_finished);
+        starting.push_back(milliseconds_of([&] { starter->view_with_force_revision_of_all(); }));
+        failures += !finished.isEmpty() || finished.wait(60000) ? 0 : 1;
+        new_tab.push_back(milliseconds_of([&] { window->findChild<QAction*>("tab_menu_new")->trigger(); }));
+        switching.push_back(milliseconds_of([&] { tabs->setCurrentIndex(tabs->count() - 1); }));
+        switching.push_back(milliseconds_of([&] { tabs->setCurrentIndex(0); }));
+        window->findChild<QAction*>("tab_menu_close")->trigger();
+    }
+
     report("select a language", language);
     report("select a style", style);
     report("import a style", import);
@@ -104,6 +194,15 @@ int main(int argc, char** argv) {
     report("export a style", exporting);
     report("delete a style", deletion);
     report("import a language (replacing C)", language_import);
+    report("select a structure", structure);
+    report("key release, edit kept (4 KB form)", valid_key);
+    report("key release, edit refused (4 KB form)", refused_key);
+    report("key release, cursor moved (4 KB form)", moving_key);
+    report("how the form comes back (own thread)", comes_back);
+    report("add a directory and a file", adding);
+    report("start a forced revision (Go)", starting);
+    report("new tab", new_tab);
+    report("switch tabs (save and load a task)", switching);
     std::printf("actions that failed: %d\n", failures);
     window.reset();
     QDir(outside).removeRecursively();

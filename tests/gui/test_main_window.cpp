@@ -12,6 +12,7 @@
 #include "tests/harness/built_files.h"
 #include "tests/harness/temporary_bundle.h"
 #include "tests/harness/test_main.h"
+#include "helpers/window_test_helpers.h"
 
 #include <QAccessible>
 #include <QAction>
@@ -62,19 +63,6 @@ void install_style(QString const& style, QString const& language) {
 
 bool style_is_installed(QString const& style, QString const& language) {
     return QFileInfo::exists(path_to().addons_directory() + "/" + style + "[" + language + "].style");
-}
-
-void empty_directory(QString const& path) {
-    QDir directory(path);
-    for (QString const& name : directory.entryList(QDir::Files))
-        directory.remove(name);
-}
-
-QStringList texts_of(QListWidget const* list) {
-    QStringList texts;
-    for (int row = 0; row < list->count(); ++row)
-        texts << list->item(row)->text();
-    return texts;
 }
 
 QString selected_text_of(QListWidget const* list) {

@@ -1,11 +1,15 @@
 #!/usr/bin/env bash
 # The built window on a real X server (Xvfb), driven by xdotool as a user drives it: select a
 # language and a style, import an addon through the dialog, rename it in place and delete it,
-# checking the bundle's styles directory after each step. Runs on a copy of the bundle with its own
-# settings, and stops its Xvfb whatever happens.
-#   window_on_x_server.sh <build directory>
+# checking the bundle's styles directory after each step; then add the examples directory, revise
+# it, read the report, edit one form of a copied style and revise again, checking the files and the
+# report against the command line's on a copy of the same tree. Runs on a copy of the bundle with
+# its own settings, and stops its Xvfb whatever happens.
+#   window_on_x_server.sh <build directory> <clipboard_text helper> <examples directory>
 set -euo pipefail
 build=$1
+clipboard_text=$2
+examples=$3
 for tool in Xvfb xdotool; do
   command -v "$tool" >/dev/null || { echo "$tool is not installed"; exit 1; }
 done
@@ -45,6 +49,8 @@ fail() { echo "FAIL: $*"; echo "styles: $(ls "$styles" | tr '\n' ' ')"; cat "$wo
 expect_file() { for _ in $(seq 100); do [ -f "$styles/$1" ] && return 0; sleep 0.1; done; fail "$2"; }
 expect_no_file() { for _ in $(seq 100); do [ ! -e "$styles/$1" ] && return 0; sleep 0.1; done; fail "$2"; }
 # Pauses let the window answer; a slower build (sanitizers) stretches them by STYLE_TARNEL_SLOWER.
+# With STYLE_TARNEL_SHOTS set to a directory, screenshots of the steps go there (for the docs).
+shot() { if [ -n "${STYLE_TARNEL_SHOTS:-}" ]; then import -window root "$STYLE_TARNEL_SHOTS/$1.png"; fi; }
 pause() { sleep "$(awk -v s="${1:-0.5}" -v f="${STYLE_TARNEL_SLOWER:-1}" 'BEGIN { print s * f }')"; }
 
 timeout 60 xdotool search --sync --onlyvisible --name "^Style Tarnel$" >/dev/null || fail "the window did not open"
@@ -54,7 +60,7 @@ pause 1
 xdotool key Return; pause
 # Without a window manager the window sits at the screen's corner: the second language (C++) and
 # its second style are where the layout puts the lists' second rows.
-row_y=114; language_x=25; style_x=180
+row_y=85; language_x=25; style_x=180
 xdotool mousemove $language_x $row_y click 1; pause
 xdotool mousemove $style_x $row_y click 1; pause
 
@@ -82,4 +88,67 @@ expect_no_file "Smoke[C++].style" "the addon's old name is still in the styles d
 style_menu 3
 expect_no_file "Renamed[C++].style" "the deleted addon is still in the styles directory"
 [ -f "$styles/GNU[C++].style" ] || fail "a style that was not deleted is gone"
+
+# A revision of the examples, from the window and from the command line on a copy.
+cp -r "$examples" "$work/home/examples"
+cp -r "$examples" "$work/home/examples-cli"
+app="$work/bundle/bin/Style Tarnel"
+command_line_report() {  # the report the command line prints for style $1 on the copy
+  "$app" --lang=C++ --style="$1" --path="$work/home/examples-cli" 2>/dev/null | tail -n +2
+}
+same_trees() { diff -r -q "$work/home/examples" "$work/home/examples-cli" >/dev/null; }
+window_report() {  # the report window's text, selected and copied with the keyboard
+  local id
+  id=$(timeout 30 xdotool search --sync --onlyvisible --name "^Report$" | head -1) || fail "no report window"
+  xdotool windowfocus --sync "$id"; pause 0.4
+  xdotool key ctrl+a ctrl+c; pause 0.4
+  "$clipboard_text" 2>/dev/null || true
+}
+revise_and_compare() {  # style $1: revise from the window, then check files and report
+  local expected
+  expected=$(command_line_report "$1")
+  xdotool mousemove $language_x $row_y click 1; pause
+  xdotool key alt+g
+  for _ in $(seq $((100 * ${STYLE_TARNEL_SLOWER:-1}))); do same_trees && break; sleep 0.2; done
+  same_trees || fail "the window and the command line revised the examples differently"
+  pause 1
+  xdotool mousemove $language_x $row_y click 1; pause
+  xdotool key alt+v; pause
+  report=$(window_report)
+  for _ in $(seq 10); do  # the files are written before the run's end reaches the report
+    case "$report" in *"in progress"*) pause 1; report=$(window_report) ;; *) break ;; esac
+  done
+  shot "report-$1"
+  [ "$report" = "$expected" ] || fail "the report window says '$report', the command line '$expected'"
+  case "$expected" in *"was changed"*) ;; *) fail "nothing was revised: $expected" ;; esac
+}
+
+first_style_y=68
+xdotool mousemove $style_x $first_style_y click 1; pause
+xdotool key alt+d; pause
+timeout 30 xdotool search --sync --onlyvisible --name "^Add directories$" >/dev/null || fail "no directory dialog"
+pause
+xdotool type --delay 20 "$work/home/examples"; xdotool key Return; pause 1
+shot task
+revise_and_compare Allman
+
+# A copy of a style, one form edited in the editor: braces of an initializer without blanks.
+sed 's/^NAME=GNU$/NAME=Copied/' "$styles/GNU[C++].style" >"$work/home/Copied[C++].style"
+xdotool mousemove $language_x $row_y click 1; pause
+style_menu 1
+xdotool type --delay 20 "$work/home/Copied[C++].style"; xdotool key Return
+expect_file "Copied[C++].style" "the copied style is not in the styles directory"
+pause 1
+structures_x=400; editor_x=700; editor_y=80
+# The first click after a dialog only brings the window back; the selected style takes it.
+xdotool mousemove $style_x $row_y click 1; pause
+xdotool mousemove $structures_x $row_y click 1; pause   # "array initializer"
+xdotool mousemove $editor_x $editor_y click 1; pause
+shot form-before
+xdotool key ctrl+Home; for _ in $(seq 15); do xdotool key Right; done
+xdotool key Delete End Left Left BackSpace; pause
+shot form-edited
+grep -qxF 'type name[] = {SOME, SOME, SOME};' "$styles/Copied[C++].style" ||
+  fail "the edited form is not in the copied style: $(grep -F 'type name[]' "$styles/Copied[C++].style")"
+revise_and_compare Copied
 echo "PASS"

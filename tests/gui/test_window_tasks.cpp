@@ -1,0 +1,571 @@
+// The window doing the whole job on the test languages in a bundle of its own: paths and
+// extensions, revisions with their progress, Stop and report, the form editor, and task tabs.
+#include "GUI/list_of_paths.h"
+#include "GUI/look_n_feel_editor.h"
+#include "GUI/main_window.h"
+#include "GUI/show_revise.h"
+#include "GUI/task_tabs.h"
+#include "GUI/task_tabs_itself.h"
+#include "GUI/view_n_edit_language_structure.h"
+#include "core/path_to.h"
+#include "core/settings_keys.h"
+#include "tests/harness/built_files.h"
+#include "tests/harness/temporary_bundle.h"
+#include "tests/harness/test_main.h"
+#include "helpers/window_test_helpers.h"
+
+#include <QAction>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMimeData>
+#include <QPlainTextEdit>
+#include <QProcess>
+#include <QPushButton>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTextLayout>
+#include <QToolTip>
+#include <QUrl>
+
+#include <memory>
+
+namespace {
+
+void write(QString const& path, QByteArray const& content) {
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile file(path);
+    file.open(QIODevice::WriteOnly);
+    file.write(content);
+}
+
+// What every revision test revises: a file to change (double spaces), one already right, and one
+// that the extensions do not choose.
+void write_tree_in(QString const& directory) {
+    write(directory + "/a.tst", "begin  SOME  end\n");
+    write(directory + "/b.tst", "begin SOME end\n");
+    write(directory + "/notes.txt", "left  alone\n");
+}
+
+QString plain_addon() { return path_to().addons_directory() + "/Plain[Test].style"; }
+
+// The test style "Plain" with another form of "block".
+bool plain_addon_has_the_block_form(QByteArray const& block_form) {
+    QFile addon(plain_addon());
+    return addon.open(QIODevice::WriteOnly) && addon.write(addon_text("Plain", "Test", block_form)) > 0;
+}
+
+}  // namespace
+
+class test_window_tasks : public QObject {
+    Q_OBJECT
+
+    std::unique_ptr<GUI::main_window> window;
+    std::unique_ptr<QTemporaryDir> work;
+
+    void open_window() {
+        window = std::make_unique<GUI::main_window>();
+        window->resize(1100, 700);
+        window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    }
+    // The test language and its style "Plain", as a user picks them.
+    void choose_test_language() {
+        auto* tabs = window->findChild<GUI::task_tabs*>();
+        emit tabs->set_this_programming_language("Test");
+        emit tabs->set_this_formatting_style("Plain");
+    }
+    // Paths as the dialogs and drops hand them over.
+    void add(QStringList const& relative_paths) {
+        QStringList paths;
+        for (QString const& path : relative_paths)
+            paths << work->path() + "/" + path;
+        window->findChild<GUI::list_of_paths*>()->show(paths);
+    }
+    QString path(QString const& relative) const { return work->path() + "/" + relative; }
+    QStringList listed() const {
+        return texts_of(window->findChild<QListWidget*>("paths")).replaceInStrings(work->path() + "/", "");
+    }
+    QLineEdit* extensions() const { return window->findChild<QLineEdit*>("extensions"); }
+    QAction* action(char const* name) const { return window->findChild<QAction*>(name); }
+    QPushButton* button(char const* name) const { return window->findChild<QPushButton*>(name); }
+    GUI::show_revise* starter() const { return window->findChild<GUI::show_revise*>(); }
+    GUI::look_n_feel_editor* editor() const { return window->findChild<GUI::look_n_feel_editor*>(); }
+    GUI::task_tabs_itself* tab_bar() const { return window->findChild<GUI::task_tabs_itself*>(); }
+
+    // Starts a run with `start` and gives its report, as the report window shows it.
+    QString report_of_a_run(std::function<void()> const& start) {
+        QSignalSpy finished(starter(), &GUI::show_revise::revision_is_finished);
+        start();
+        if (finished.isEmpty() && !finished.wait(60000))
+            return "no report";
+        return finished.first().at(0).toString();
+    }
+    // What the command-line program reports for the same request on a tree of its own.
+    QString report_of_the_command_line_for(QString const& tree) {
+        // Beside this test's own copy, which the bundle names as the program.
+        QString const executable = QCoreApplication::applicationDirPath() + "/command line";
+        if (!QFileInfo::exists(executable))
+            QFile::copy(built::executable(), executable);
+        QProcess program;
+        program.start(executable, {"--lang=Test", "--style=Plain", "--path=" + tree});
+        program.waitForFinished(60000);
+        QStringList lines = QString::fromUtf8(program.readAllStandardOutput()).split('\n');
+        lines.removeFirst();  // "It's done." with the blanks over the progress line
+        return lines.join('\n').trimmed();
+    }
+
+private slots:
+    void init();
+    void cleanup();
+
+    void takes_each_existing_path_once_data();
+    void takes_each_existing_path_once();
+    void takes_only_paths_it_revises_by_dropping_data();
+    void takes_only_paths_it_revises_by_dropping();
+    void files_leave_when_their_extension_does();
+    void refuses_bad_extensions_data();
+    void refuses_bad_extensions();
+    void reports_as_the_command_line_does();
+    void stops_after_the_file_at_hand();
+    void forced_revisions_revise_unchanged_files_data();
+    void forced_revisions_revise_unchanged_files();
+    void saves_a_matching_form_and_reverts_another_data();
+    void saves_a_matching_form_and_reverts_another();
+    void a_style_without_forms_leaves_nothing_to_edit();
+    void highlights_keywords_and_placeholders();
+    void structure_manual_addresses_data();
+    void structure_manual_addresses();
+    void keeps_the_font_size_within_bounds_data();
+    void keeps_the_font_size_within_bounds();
+    void tabs_keep_their_tasks_over_a_restart();
+    void refuses_bad_tab_names_data();
+    void refuses_bad_tab_names();
+    void closing_a_tab_forgets_its_records();
+};
+
+void test_window_tasks::init() {
+    QSettings settings;
+    settings.clear();
+    settings.setValue(settings_key::EULA_was_accepted, true);
+    settings.sync();
+    empty_directory(path_to().plugins_directory());
+    empty_directory(path_to().addons_directory());
+    install_test_languages(path_to().plugins_directory(), path_to().addons_directory());
+    work = std::make_unique<QTemporaryDir>();
+    qunsetenv("TEST_PLUGIN_DELAY_MS");
+}
+
+void test_window_tasks::cleanup() {
+    window.reset();
+    work.reset();
+}
+
+void test_window_tasks::takes_each_existing_path_once_data() {
+    QTest::addColumn<QStringList>("added");
+    QTest::addColumn<QStringList>("listed");
+    QTest::newRow("directory with and without a final slash") << QStringList{"tree/", "tree"} << QStringList{"tree"};
+    QTest::newRow("same file twice") << QStringList{"tree/a.tst", "tree/a.tst"} << QStringList{"tree/a.tst"};
+    QTest::newRow("missing path") << QStringList{"tree/gone.tst", "tree/b.tst"} << QStringList{"tree/b.tst"};
+}
+
+// Faults: a path listed twice (revised and forced twice), a directory listed in two spellings, a
+// path that is not there listed (every run would report it).
+void test_window_tasks::takes_each_existing_path_once() {
+    QFETCH(QStringList, added);
+    QFETCH(QStringList, listed);
+    write_tree_in(path("tree"));
+    open_window();
+    choose_test_language();
+    add(added);
+    QCOMPARE(this->listed(), listed);
+    QVERIFY(button("go")->isEnabled());
+    QVERIFY(action("revise_menu_all_forcibly")->isEnabled());
+}
+
+void test_window_tasks::takes_only_paths_it_revises_by_dropping_data() {
+    QTest::addColumn<QString>("dropped");
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("directory") << "tree" << true;
+    QTest::newRow("file with a listed extension") << "tree/a.tst" << true;
+    QTest::newRow("file with another extension") << "tree/notes.txt" << false;
+    QTest::newRow("file whose complete suffix is not listed") << "x.tar.tst" << false;
+}
+
+// Faults: a dropped file taken that the run would refuse for its extension, a directory refused,
+// or an accepted drop not listed.
+void test_window_tasks::takes_only_paths_it_revises_by_dropping() {
+    QFETCH(QString, dropped);
+    QFETCH(bool, accepted);
+    write_tree_in(path("tree"));
+    write(path("x.tar.tst"), "begin SOME end\n");
+    open_window();
+    choose_test_language();
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(path(dropped))});
+    QWidget* target = window->findChild<QListWidget*>("paths")->viewport();
+    QPoint const inside = target->rect().center();
+    QDragEnterEvent enter(inside, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    QCOMPARE(enter.isAccepted(), accepted);
+    if (!accepted)
+        return;
+    QDropEvent drop(inside, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &drop);
+    QCOMPARE(listed(), QStringList({dropped}));
+}
+
+// Faults: a file whose extension was taken away still revised; a directory dropped with it.
+void test_window_tasks::files_leave_when_their_extension_does() {
+    write_tree_in(path("tree"));
+    write(path("c.test"), "begin SOME end\n");
+    open_window();
+    choose_test_language();
+    QCOMPARE(extensions()->text(), QString("tst test"));
+    add({"tree", "tree/a.tst", "c.test"});
+    extensions()->setFocus();
+    extensions()->end(false);
+    for (int i = 0; i < 5; ++i)
+        QTest::keyClick(extensions(), Qt::Key_Backspace);
+    QCOMPARE(extensions()->text(), QString("tst"));
+    QCOMPARE(listed(), QStringList({"tree", "tree/a.tst"}));
+}
+
+void test_window_tasks::refuses_bad_extensions_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("tooltip");
+    QTest::newRow("dot") << "." << "tst test" << "Without dot, please";
+    QTest::newRow("Cyrillic letter") << QString::fromUtf8("Ж") << "tst test" << "In English, please";
+    QTest::newRow("everything deleted") << "" << "tst test" << "At least one extension, please";
+}
+
+// Faults: an extension the file collection cannot read accepted, or the field left empty (which
+// would choose no file and leave the start enabled).
+void test_window_tasks::refuses_bad_extensions() {
+    QFETCH(QString, typed);
+    QFETCH(QString, text);
+    QFETCH(QString, tooltip);
+    open_window();
+    choose_test_language();
+    extensions()->setFocus();
+    extensions()->end(false);
+    if (typed.isEmpty()) {
+        extensions()->selectAll();
+        QTest::keyClick(extensions(), Qt::Key_Backspace);
+    } else {
+        QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, typed);
+        QApplication::sendEvent(extensions(), &press);
+    }
+    QTRY_COMPARE(QToolTip::text(), tooltip);
+    QCOMPARE(extensions()->text(), text);
+}
+
+// Faults: the window's run reporting other counts than the command line for the same tree (its own
+// task formed wrongly: other extensions, paths, style), or writing other files.
+void test_window_tasks::reports_as_the_command_line_does() {
+    write_tree_in(path("window"));
+    write_tree_in(path("command line"));
+    QString const expected = report_of_the_command_line_for(path("command line"));
+    QCOMPARE(expected, QString("2 files was found, 2 files was revised, 1 file was changed."));
+    open_window();
+    choose_test_language();
+    add({"window"});
+    QVERIFY(!button("view_report")->isEnabled());
+    QCOMPARE(report_of_a_run([&] { QTest::mouseClick(button("go"), Qt::LeftButton); }), expected);
+    QVERIFY(button("view_report")->isEnabled());
+    for (QString const file : {"a.tst", "b.tst", "notes.txt"})
+        QCOMPARE(temporary_bundle::contents_of(path("window/" + file)),
+                 temporary_bundle::contents_of(path("command line/" + file)));
+    QTest::mouseClick(button("view_report"), Qt::LeftButton);
+    QTextBrowser* browser = nullptr;
+    for (QWidget* top : QApplication::topLevelWidgets())
+        if (top->objectName() == "report")
+            browser = top->findChild<QTextBrowser*>("report_text");
+    QVERIFY(browser != nullptr);
+    QTRY_VERIFY(browser->window()->isVisible());
+    QCOMPARE(browser->toPlainText(), expected);
+    QPoint const centre = browser->window()->geometry().center();
+    QVERIFY((centre - window->geometry().center()).manhattanLength() <= 2);
+}
+
+// Faults: Stop not reaching the worker, or the run not saying how far it got; the dialog left on
+// the window.
+void test_window_tasks::stops_after_the_file_at_hand() {
+    for (QString const name : {"1.tst", "2.tst", "3.tst"})
+        write(path("tree/" + name), "begin  SOME end\n");
+    qputenv("TEST_PLUGIN_DELAY_MS", "400");
+    open_window();
+    choose_test_language();
+    add({"tree"});
+    QSignalSpy maximum(starter(), &GUI::show_revise::set_maximum_for_progress);
+    QString const report = report_of_a_run([&] {
+        QTest::mouseClick(button("go"), Qt::LeftButton);
+        QVERIFY(starter()->progress_dialog()->isVisible());
+        // The maximum comes before the first file: a Stop now takes effect after it.
+        QVERIFY(!maximum.isEmpty() || maximum.wait(30000));
+        QTest::mouseClick(starter()->progress_dialog()->findChild<QPushButton*>("stop"), Qt::LeftButton);
+    });
+    QVERIFY2(report.contains("Revision was interrupted by user!"), qPrintable(report));
+    QVERIFY2(report.endsWith("3 files was found, 1 file was revised, 1 file was changed."), qPrintable(report));
+    QVERIFY(!starter()->progress_dialog()->isVisible());
+}
+
+void test_window_tasks::forced_revisions_revise_unchanged_files_data() {
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("report");
+    QTest::newRow("plain revision again") << "revise_menu_all" << "2 files was found, no files was revised.";
+    QTest::newRow("forced revision of the selection")
+        << "revise_menu_it_forcibly" << "2 files was found, 1 file was revised, no files was changed.";
+    QTest::newRow("forced revision of everything")
+        << "revise_menu_all_forcibly" << "2 files was found, 2 files was revised, no files was changed.";
+}
+
+// Faults: a forced revision that still skips unchanged files, or forgets the records of paths
+// that were not chosen.
+void test_window_tasks::forced_revisions_revise_unchanged_files() {
+    QFETCH(QString, action);
+    QFETCH(QString, report);
+    write_tree_in(path("tree"));
+    open_window();
+    choose_test_language();
+    add({"tree/a.tst", "tree/b.tst"});
+    report_of_a_run([&] { this->action("revise_menu_all")->trigger(); });
+    window->findChild<QListWidget*>("paths")->setCurrentRow(1);
+    QCOMPARE(report_of_a_run([&] { this->action(action.toLatin1().constData())->trigger(); }), report);
+}
+
+void test_window_tasks::saves_a_matching_form_and_reverts_another_data() {
+    QTest::addColumn<int>("at");  // where the key goes in "begin SOME end"
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QByteArray>("form");  // in the addon afterwards
+    QTest::addColumn<QString>("tooltip");
+    QTest::addColumn<QString>("comes_back");
+    QTest::newRow("space added") << 5 << " " << QByteArray("begin  SOME end") << ""
+                                 << "A revision writes this form so:";
+    QTest::newRow("line break added") << 5 << "\n" << QByteArray("begin\n SOME end") << ""
+                                      << "A revision keeps this form as written.";
+    QTest::newRow("letter that breaks the structure") << 0 << "x" << QByteArray("begin SOME end")
+                                                      << "Not supported" << "A revision keeps this form as written.";
+}
+
+// Faults: an edit the plugin cannot read written into the style, a valid one not written, or the
+// line under the editor telling the user a form comes back as written when it does not.
+void test_window_tasks::saves_a_matching_form_and_reverts_another() {
+    QFETCH(int, at);
+    QFETCH(QString, key);
+    QFETCH(QByteArray, form);
+    QFETCH(QString, tooltip);
+    QFETCH(QString, comes_back);
+    open_window();
+    choose_test_language();
+    QTRY_COMPARE(editor()->toPlainText(), QString("begin SOME end"));
+    editor()->setFocus();
+    QTextCursor cursor = editor()->textCursor();
+    cursor.setPosition(at);
+    editor()->setTextCursor(cursor);
+    if (key == "\n")
+        QTest::keyClick(editor(), Qt::Key_Return);
+    else
+        QTest::keyClicks(editor(), key);
+    if (!tooltip.isEmpty())
+        QTRY_COMPARE(QToolTip::text(), tooltip);
+    QCOMPARE(temporary_bundle::contents_of(plain_addon()), addon_text("Plain", "Test", form));
+    QCOMPARE(editor()->toPlainText(), QString::fromUtf8(form));
+    QTRY_COMPARE(window->findChild<QLabel*>("comes_back")->text(), comes_back);
+    auto* revised = window->findChild<QPlainTextEdit*>("revised_form");
+    QCOMPARE(revised->isVisible(), comes_back.contains("so:"));
+    if (revised->isVisible())
+        QCOMPARE(revised->toPlainText(), QString("begin SOME end"));
+}
+
+// Faults: the form of the style shown before still shown, and its edits written into that style,
+// after choosing a style that gives no structure a form.
+void test_window_tasks::a_style_without_forms_leaves_nothing_to_edit() {
+    QFile addon(path_to().addons_directory() + "/Bare[Test].style");
+    QVERIFY(addon.open(QIODevice::WriteOnly));
+    addon.write("NAME=Bare\nLANGUAGE=Test\n\nS_NAME=none\nS_BEG\nS_END\n");
+    addon.close();
+    open_window();
+    choose_test_language();
+    QTRY_COMPARE(editor()->toPlainText(), QString("begin SOME end"));
+    emit window->findChild<GUI::task_tabs*>()->set_this_formatting_style("Bare");
+    QCOMPARE(texts_of(window->findChild<QListWidget*>("structures")), QStringList());
+    QCOMPARE(editor()->toPlainText(), QString());
+    QVERIFY(!editor()->isEnabled() || !editor()->parentWidget()->isEnabled());
+}
+
+// Faults: keywords or placeholders not set off from the rest of a form, or keywords found only as
+// whole words (a keyword inside a longer word is emphasised too).
+void test_window_tasks::highlights_keywords_and_placeholders() {
+    QVERIFY(plain_addon_has_the_block_form("begin SOME end elif"));
+    open_window();
+    choose_test_language();
+    QTRY_COMPARE(editor()->toPlainText(), QString("begin SOME end elif"));
+    QStringList emphasised;
+    for (QTextLayout::FormatRange const& range : editor()->document()->firstBlock().layout()->formats()) {
+        QString const word = editor()->toPlainText().mid(range.start, range.length);
+        if (range.format.fontWeight() == 75)
+            emphasised << "bold " + word;
+        if (range.format.fontItalic())
+            emphasised << "italic " + word;
+    }
+    emphasised.sort();
+    QCOMPARE(emphasised, QStringList({"bold begin", "bold end", "bold if", "italic SOME"}));
+}
+
+void test_window_tasks::structure_manual_addresses_data() {
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("structure");
+    QTest::addColumn<QString>("address");
+    QTest::newRow("one word") << "C" << "for" << "https://style-tarnel.org/direct-definition-manual/c/for";
+    QTest::newRow("words and signs") << "C++" << "Array initializer"
+                                     << "https://style-tarnel.org/direct-definition-manual/c++/array-initializer";
+}
+
+// Fault: "How to change this structure" leading to a page that is not there (upper case, blanks).
+void test_window_tasks::structure_manual_addresses() {
+    QFETCH(QString, language);
+    QFETCH(QString, structure);
+    QFETCH(QString, address);
+    QCOMPARE(GUI::view_n_edit_language_structure::manual_address_of(language, structure), address);
+}
+
+void test_window_tasks::keeps_the_font_size_within_bounds_data() {
+    QTest::addColumn<int>("stored");
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<int>("size");
+    QTest::addColumn<QString>("disabled");
+    QTest::newRow("larger at the largest") << 32 << "=" << 32 << "lnf_menu_increase_font";
+    QTest::newRow("smaller at the smallest") << 12 << "-" << 12 << "lnf_menu_decrease_font";
+    QTest::newRow("larger up to the largest") << 31 << "=" << 32 << "lnf_menu_increase_font";
+    QTest::newRow("smaller from the default") << 16 << "-" << 15 << "";
+}
+
+// Faults: a font size past its bounds (unreadable, or a layout that breaks), or the menu entry
+// still offered at a bound; the size not kept for the next start.
+void test_window_tasks::keeps_the_font_size_within_bounds() {
+    QFETCH(int, stored);
+    QFETCH(QString, key);
+    QFETCH(int, size);
+    QFETCH(QString, disabled);
+    QSettings().setValue(settings_key::size_of_font_in_pt, stored);
+    open_window();
+    choose_test_language();
+    editor()->setFocus();
+    QTest::keyClick(editor(), key.at(0).toLatin1(), Qt::ControlModifier);
+    QCOMPARE(editor()->font_size(), size);
+    QCOMPARE(QSettings().value(settings_key::size_of_font_in_pt).toInt(), size);
+    if (!disabled.isEmpty())
+        QVERIFY(!action(disabled.toLatin1().constData())->isEnabled());
+}
+
+// Faults: a tab's task lost when the user leaves it or restarts, the tabs or the current tab not
+// restored, a new tab taking a name that is there.
+void test_window_tasks::tabs_keep_their_tasks_over_a_restart() {
+    write_tree_in(path("tree"));
+    open_window();
+    QVERIFY(!tab_bar()->isVisible());
+    QVERIFY(!action("tab_menu_close")->isEnabled());
+    choose_test_language();
+    add({"tree/a.tst"});
+    action("tab_menu_new")->trigger();
+    QCOMPARE(tab_bar()->count(), 2);
+    QCOMPARE(tab_bar()->tabText(1), QString("Task 2"));
+    QVERIFY(tab_bar()->isVisible());
+    tab_bar()->setCurrentIndex(1);
+    QCOMPARE(listed(), QStringList());
+    emit window->findChild<GUI::task_tabs*>()->set_this_programming_language("Other");
+    add({"tree"});
+    tab_bar()->setCurrentIndex(0);
+    QCOMPARE(listed(), QStringList({"tree/a.tst"}));
+    tab_bar()->setCurrentIndex(1);
+    QCOMPARE(listed(), QStringList({"tree"}));
+    window->close();
+    window.reset();
+
+    open_window();
+    QCOMPARE(tab_bar()->count(), 2);
+    QCOMPARE(tab_bar()->currentIndex(), 1);
+    QCOMPARE(listed(), QStringList({"tree"}));
+    QCOMPARE(window->findChild<QListWidget*>("languages")->currentItem()->text(), QString("Other"));
+    tab_bar()->setCurrentIndex(0);
+    QCOMPARE(listed(), QStringList({"tree/a.tst"}));
+    QCOMPARE(extensions()->text(), QString("tst test"));
+}
+
+void test_window_tasks::refuses_bad_tab_names_data() {
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QString>("tooltip");  // empty: accepted
+    QTest::addColumn<QString>("name");     // of the first tab afterwards
+    QTest::newRow("new name") << "Backend" << "" << "Backend";
+    QTest::newRow("same name") << "Task 1" << "" << "Task 1";
+    QTest::newRow("blanks only") << "   " << "Name cannot be empty" << "Task 1";
+    QTest::newRow("name of the other tab") << "Task 2" << "Tab with such name already exists" << "Task 1";
+    QTest::newRow("dot, which disappears") << "a.b" << "In English, please" << "ab";
+}
+
+// Faults: two tabs of one name (their tasks would share one record), an empty name, or a name the
+// settings store cannot keep; a renamed tab losing its task.
+void test_window_tasks::refuses_bad_tab_names() {
+    QFETCH(QString, typed);
+    QFETCH(QString, tooltip);
+    QFETCH(QString, name);
+    write_tree_in(path("tree"));
+    open_window();
+    choose_test_language();
+    add({"tree/a.tst"});
+    action("tab_menu_new")->trigger();
+    tab_bar()->setCurrentIndex(1);
+    tab_bar()->setCurrentIndex(0);
+    action("tab_menu_rename")->trigger();
+    QLineEdit* renamer = tab_bar()->renamer();
+    QVERIFY(renamer->isVisible());
+    renamer->selectAll();
+    QTest::keyClick(renamer, Qt::Key_Backspace);
+    QTest::keyClicks(renamer, typed);
+    if (tooltip == "In English, please")
+        QTRY_COMPARE(QToolTip::text(), tooltip);
+    QTest::keyClick(renamer, Qt::Key_Return);
+    if (!tooltip.isEmpty())
+        QTRY_COMPARE(QToolTip::text(), tooltip);
+    QCOMPARE(tab_bar()->tabText(0), name);
+    tab_bar()->setCurrentIndex(1);
+    tab_bar()->setCurrentIndex(0);
+    QCOMPARE(listed(), QStringList({"tree/a.tst"}));
+}
+
+// Faults: switching tabs forgetting which files of a task were revised; a closed tab's record left
+// in the settings, or its files still counted as unchanged, so that the same paths in another task
+// would be skipped.
+void test_window_tasks::closing_a_tab_forgets_its_records() {
+    write_tree_in(path("tree"));
+    open_window();
+    action("tab_menu_new")->trigger();
+    tab_bar()->setCurrentIndex(1);
+    choose_test_language();
+    add({"tree"});
+    report_of_a_run([&] { action("revise_menu_all")->trigger(); });
+    tab_bar()->setCurrentIndex(0);
+    tab_bar()->setCurrentIndex(1);
+    QCOMPARE(report_of_a_run([&] { action("revise_menu_all")->trigger(); }),
+             QString("2 files was found, no files was revised."));
+    tab_bar()->setCurrentIndex(0);
+    QVERIFY(QSettings().contains(settings_key::last_info_for_tab("Task 2")));
+    emit tab_bar()->tabCloseRequested(1);
+    QVERIFY(!QSettings().contains(settings_key::last_info_for_tab("Task 2")));
+    QVERIFY(!tab_bar()->isVisible());
+    QVERIFY(!action("tab_menu_close")->isEnabled());
+    choose_test_language();
+    add({"tree"});
+    QCOMPARE(report_of_a_run([&] { action("revise_menu_all")->trigger(); }),
+             QString("2 files was found, 2 files was revised, no files was changed."));
+}
+
+STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(test_window_tasks)
+#include "test_window_tasks.moc"
