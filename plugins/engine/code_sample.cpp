@@ -9,18 +9,6 @@ namespace tarnel_engine {
 
 namespace {
 
-std::vector<std::string> lines_of(std::string const& text) {
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
-    std::string line;
-    while (std::getline(stream, line)) {
-        if (!line.empty() && line.back() == '\r')
-            line.pop_back();
-        lines.push_back(line);
-    }
-    return lines;
-}
-
 bool blank(std::string const& line) { return line.find_first_not_of(" \t\f\v") == std::string::npos; }
 
 std::string trimmed(std::string const& line) {
@@ -124,6 +112,18 @@ std::string piece_of(std::vector<std::string> const& lines, std::vector<std::siz
 }
 
 }  // namespace
+
+std::vector<std::string> lines_of(std::string const& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    std::string line;
+    while (std::getline(stream, line)) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        lines.push_back(line);
+    }
+    return lines;
+}
 
 std::vector<std::string> take_sample::of(std::vector<std::string> const& texts) const {
     std::vector<std::string> pieces;

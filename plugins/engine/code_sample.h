@@ -30,6 +30,9 @@ private:
     sample_bounds bounds;
 };
 
+// The lines of a text, without their line feeds and carriage returns.
+std::vector<std::string> lines_of(std::string const& text);
+
 }  // namespace tarnel_engine
 
 #endif

@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <map>
 #include <regex>
-#include <sstream>
 
 namespace tarnel_engine {
 
@@ -25,18 +24,6 @@ namespace {
 long const formatting_budget = 2500;
 // Rewrites of the addon with the forms as they come back, until every form is a fixed point.
 int const rounds_to_fixed_points = 3;
-
-std::vector<std::string> lines_of(std::string const& text) {
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
-    std::string line;
-    while (std::getline(stream, line)) {
-        if (!line.empty() && line.back() == '\r')
-            line.pop_back();
-        lines.push_back(line);
-    }
-    return lines;
-}
 
 std::string trimmed(std::string const& line) {
     std::size_t const begin = line.find_first_not_of(" \t");
