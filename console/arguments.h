@@ -15,7 +15,7 @@ namespace console {
 
 using argument_list = std::vector<pair>;
 
-// The nineteen names the program knows, short and long forms apart.
+// The twenty names the program knows, short and long forms apart.
 std::vector<std::string> const& known_names();
 
 }  // namespace console

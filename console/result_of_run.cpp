@@ -30,6 +30,8 @@ int result_of_run::do_what_user_want_based_on(argument_list const& arguments) co
     }
     if (user.want_to_revise())
         return revise_based_on(arguments);
+    if (user.want_to_learn_style())
+        return learn_style_based_on(arguments);
     if (user.want_to_export_style())
         return export_style_based_on(arguments);
     if (user.want_to_rename_style())

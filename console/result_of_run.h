@@ -19,6 +19,7 @@ public:
     int import_something_based_on(argument_list const& arguments) const;
     int delete_something_based_on(argument_list const& arguments) const;
     int update_app_based_on(argument_list const& arguments) const;
+    int learn_style_based_on(argument_list const& arguments) const;
 };
 
 // The last value given under either name; empty when neither was given.
