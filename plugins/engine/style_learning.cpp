@@ -12,8 +12,12 @@
 #include <clang/Format/Format.h>
 
 #include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <future>
 #include <map>
 #include <regex>
+#include <thread>
 
 namespace tarnel_engine {
 
@@ -301,16 +305,43 @@ learned_style learn_style_of::from(std::vector<std::string> const& sources, std:
         if (addon.empty())
             return learned;
 
+        // The count revises the files on every core, as a revision run does; `going_on` is asked
+        // on this thread only.
         reviser revisions(language);
-        for (std::size_t i = 0; i < used.size(); ++i) {
-            if (going_on && !going_on(static_cast<unsigned long>(formatting_budget) + i, whole))
-                return learned;
-            std::string const& source = sources[used[i]];
-            std::string const revised = revisions.revise(source, addon, traits_of_8_bit(source));
-            learned.lines += lines_of(source).size();
-            learned.lines_left += revised == STYLE_TARNEL_SYNTAX_ERROR_TEXT ? lines_of(source).size()
-                                                                           : lines_left_between(source, revised);
-        }
+        std::atomic<std::size_t> next{0};
+        std::atomic<std::size_t> done{0};
+        std::atomic<bool> stop{false};
+        std::atomic<unsigned long> lines{0};
+        std::atomic<unsigned long> lines_left{0};
+        auto const count = [&] {
+            try {
+                for (std::size_t i = next++; i < used.size() && !stop; i = next++) {
+                    std::string const& source = sources[used[i]];
+                    std::string const revised = revisions.revise(source, addon, traits_of_8_bit(source));
+                    unsigned long const of_source = lines_of(source).size();
+                    lines += of_source;
+                    lines_left +=
+                        revised == STYLE_TARNEL_SYNTAX_ERROR_TEXT ? of_source : lines_left_between(source, revised);
+                    ++done;
+                }
+            } catch (...) {
+                stop = true;
+            }
+        };
+        std::vector<std::thread> workers;
+        unsigned const cores = std::max(1U, std::thread::hardware_concurrency());
+        for (unsigned worker = 1; worker < cores && worker < used.size(); ++worker)
+            workers.emplace_back(count);
+        auto const report = std::async(std::launch::async, count);
+        while (report.wait_for(std::chrono::milliseconds(50)) != std::future_status::ready)
+            if (going_on && !going_on(static_cast<unsigned long>(formatting_budget) + done, whole))
+                stop = true;
+        for (std::thread& worker : workers)
+            worker.join();
+        if (stop || done != used.size())
+            return learned_style();
+        learned.lines = lines;
+        learned.lines_left = lines_left;
         learned.addon = addon;
         return learned;
     } catch (...) {
