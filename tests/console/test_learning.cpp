@@ -74,6 +74,7 @@ private slots:
         learning_bundle bundle;
         run_options options;
         options.working_directory = bundle.work_directory();
+        options.timeout_ms = 600000;  // the search's whole bound, under the sanitizers too
         run_result const result = bundle.run({"-l=C", "--learn=House", "-p=proj", "--exts=c,h"}, options);
         QCOMPARE(QString::fromUtf8(result.err), QString());
         QCOMPARE(result.status, 0);
