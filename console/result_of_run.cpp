@@ -42,6 +42,9 @@ int result_of_run::do_what_user_want_based_on(argument_list const& arguments) co
         show_version()();
         return 0;
     }
+    // Before a revision, which takes --lang and --path too and ignores other names.
+    if (user.want_to_learn_style())
+        return learn_style_based_on(arguments);
     if (user.want_to_revise())
         return revise_based_on(arguments);
     if (user.want_to_export_style())

@@ -51,6 +51,13 @@ bool true_if_user::want_to_revise(argument_list const& arguments) const {
            quantity_of("--assume-filename").in(arguments) <= 1;
 }
 
+bool true_if_user::want_to_learn_style(argument_list const& arguments) const {
+    std::size_t const paths = quantity_of("--path", "-p").in(arguments);
+    std::size_t const extensions = quantity_of("--exts").in(arguments);
+    return quantity_of("--learn").in(arguments) == 1 && languages(arguments) == 1 && paths >= 1 && extensions <= 1 &&
+           arguments.size() == 2 + paths + extensions;
+}
+
 bool true_if_user::want_to_export_style(argument_list const& arguments) const {
     return one_style_with("--export", arguments);
 }

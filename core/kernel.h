@@ -9,6 +9,7 @@
 
 #include "core/style_description.h"
 #include "core/revision_task.h"
+#include "core/style_learning_outcome.h"
 
 #include <boost/optional.hpp>
 
@@ -115,6 +116,16 @@ public:
     // The languages (in the order of the plugins) whose filename extensions hold the extension
     // of `file_name` (compared exactly).
     std::vector<std::string> languages_of_file_named(std::string const& file_name) const;
+    // Learning a style from the files of `task.paths` with `task.extensions` (the language's own
+    // when empty), installed as the style `task.style` of `task.language`; nothing is installed
+    // unless it ends as learned. `progress` gets the work done and the whole work now and then. On
+    // the calling thread, where SIGINT and SIGTERM stop it; or where `stop`, read now and then,
+    // does.
+    style_learning_outcome learn_style(revision_task const& task,
+                                       std::function<void(unsigned long, unsigned long)> const& progress) const;
+    style_learning_outcome learn_style(revision_task const& task,
+                                       std::function<void(unsigned long, unsigned long)> const& progress,
+                                       std::atomic<bool> const& stop) const;
 
     // Self-update.
     bool apply(std::string const& path_to_new_executable) const;

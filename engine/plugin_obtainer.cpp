@@ -19,6 +19,12 @@ interface_to_language_plugin* plugin_obtainer::operator()(QString const& path) c
     return qobject_cast<interface_to_language_plugin*>(root);
 }
 
+interface_to_style_learning* plugin_obtainer::style_learning() const {
+    if (!loader.isLoaded())
+        return nullptr;
+    return qobject_cast<interface_to_style_learning*>(loader.instance());
+}
+
 bool plugin_obtainer::this_is_a_plugin(std::string const& path) const {
     loader.setFileName(QString::fromStdString(path));
     return loader.instance() != nullptr;

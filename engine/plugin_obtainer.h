@@ -18,6 +18,10 @@ public:
     // version of the plugin interface, or its root object is no language plugin.
     interface_to_language_plugin* operator()(QString const& path) const;
 
+    // The learning interface of the plugin that operator() loaded last, or null when the plugin
+    // has none (it is optional) or nothing is loaded.
+    interface_to_style_learning* style_learning() const;
+
     // Whether the file at `path` loads as any Qt plugin; the interface is not checked.
     bool this_is_a_plugin(std::string const& path) const;
 

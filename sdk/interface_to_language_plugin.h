@@ -18,6 +18,7 @@
 
 #include <QtPlugin>
 
+#include <functional>
 #include <map>
 #include <string>
 #include <vector>
@@ -71,5 +72,40 @@ public:
 #define STYLE_TARNEL_INTERFACE_VERSION "1.0"
 #define STYLE_TARNEL_INTERFACE_ID STYLE_TARNEL_INTERFACE_NAME "/" STYLE_TARNEL_INTERFACE_VERSION
 Q_DECLARE_INTERFACE(interface_to_language_plugin, STYLE_TARNEL_INTERFACE_ID)
+
+// What a plugin learned from a project's files: the addon, and how many lines of the files the
+// addon leaves as they are when they are revised in it.
+struct learned_style {
+    // The whole text of a style addon of the plugin's language, every form a fixed point of the
+    // rules the plugin reads from it; empty when nothing could be learned or learning was stopped.
+    std::string addon;
+    unsigned long lines = 0;
+    unsigned long lines_left = 0;
+};
+
+// Optional: a plugin that can learn a style from code also derives its root object from this
+// class and names both interfaces, Q_INTERFACES(interface_to_language_plugin
+// interface_to_style_learning). The host finds it with qobject_cast on the root object; a plugin
+// without it keeps working, and its language only cannot learn styles. Called from one thread at a
+// time, never during a revision run.
+class interface_to_style_learning {
+public:
+    virtual ~interface_to_style_learning() = default;
+
+    // Learns the style that `sources` (the raw bytes of a project's files, as on disk, in a fixed
+    // order) are written in and returns it as an addon named `style_name`. The same sources give
+    // the same addon. `going_on` is called now and then with the work done and the whole work (in
+    // any unit, done <= whole); when it returns false the plugin stops soon and returns an empty
+    // addon. A plugin may learn from a sample of large projects.
+    virtual learned_style learn_style(std::vector<std::string> const& sources, std::string const& style_name,
+                                      std::function<bool(unsigned long done, unsigned long whole)> const& going_on) = 0;
+};
+
+// The learning interface's identifier, versioned as the first one is.
+#define STYLE_TARNEL_LEARNING_INTERFACE_NAME "org.style-tarnel.interface_to_style_learning"
+#define STYLE_TARNEL_LEARNING_INTERFACE_VERSION "1.0"
+#define STYLE_TARNEL_LEARNING_INTERFACE_ID \
+    STYLE_TARNEL_LEARNING_INTERFACE_NAME "/" STYLE_TARNEL_LEARNING_INTERFACE_VERSION
+Q_DECLARE_INTERFACE(interface_to_style_learning, STYLE_TARNEL_LEARNING_INTERFACE_ID)
 
 #endif

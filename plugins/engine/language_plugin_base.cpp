@@ -1,6 +1,8 @@
 // Nothing may leave the plugin as an exception: every member answers even when it fails.
 #include "language_plugin_base.h"
 
+#include "style_learning.h"
+
 namespace tarnel_engine {
 
 language_plugin_base::language_plugin_base(language_description const& language)
@@ -26,5 +28,10 @@ std::string language_plugin_base::revise(std::string const& source, std::string 
 }
 
 void language_plugin_base::end_of_revision() { revisions.forget_the_run(); }
+
+learned_style language_plugin_base::learn_style(std::vector<std::string> const& sources, std::string const& style_name,
+                                                std::function<bool(unsigned long, unsigned long)> const& going_on) {
+    return learn_style_of(language).from(sources, style_name, going_on);
+}
 
 }  // namespace tarnel_engine

@@ -25,7 +25,6 @@ std::string const boundary = "/* style tarnel: form boundary */";
 // call on a few forms costs little more than those forms): enough for the addons of the
 // benchmark, small enough for its time goals.
 std::size_t const beam_width = 3;
-long const formatting_budget = 30000;
 
 unsigned long total_of(std::vector<unsigned long> const& distances) {
     return std::accumulate(distances.begin(), distances.end(), 0UL);
@@ -56,8 +55,9 @@ bool names(form_case const& form, std::string const& group) {
 
 class option_search {
 public:
-    option_search(std::vector<form_case> const& forms, std::vector<std::string> const& excluded)
-        : forms(forms), excluded(excluded) {}
+    option_search(std::vector<form_case> const& forms, std::vector<std::string> const& excluded, long budget,
+                  infer_options::going_on_check const& going_on)
+        : forms(forms), excluded(excluded), budget(budget), going_on(going_on) {}
 
     // Lets the search reach the values it kept away from so far.
     void exclude_nothing() { excluded.clear(); }
@@ -84,12 +84,19 @@ public:
         }
     }
 
-    bool within_budget() const { return formatted < formatting_budget; }
+    bool within_budget() {
+        if (going_on && !stopped)
+            stopped = !going_on(static_cast<unsigned long>(std::min(formatted, budget)), static_cast<unsigned long>(budget));
+        return formatted < budget && !stopped;
+    }
 
 private:
     std::vector<form_case> const& forms;
     // Values no move may reach.
     std::vector<std::string> excluded;
+    long const budget;
+    infer_options::going_on_check const& going_on;
+    bool stopped = false;
     long formatted = 0;
     std::vector<std::string> kept;
     // The moves (one group, or two) that did not improve, with the distances of the forms that
@@ -235,10 +242,13 @@ std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, cla
 }
 
 clang::format::FormatStyle infer_options::from(std::vector<form_case> const& forms) const {
+    return from(forms, readings_of(forms));
+}
+
+clang::format::FormatStyle infer_options::from(std::vector<form_case> const& forms, form_readings const& readings) const {
     if (forms.empty())
         return token_safe_predefined_style(names_of_predefined_styles().front());
-    form_readings const readings = readings_of(forms);
-    option_search search(forms, readings.ruled_out);
+    option_search search(forms, readings.ruled_out, formatting_budget, going_on);
 
     // A style that is a predefined one keeps all its rules, Google's "the file's majority decides
     // where * leans" included.

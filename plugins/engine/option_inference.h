@@ -4,9 +4,11 @@
 #define TARNEL_ENGINE_OPTION_INFERENCE_H
 
 #include "form_case.h"
+#include "form_readings.h"
 
 #include <clang/Format/Format.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -22,7 +24,22 @@ namespace tarnel_engine {
 // is bounded by a count of forms formatted, never by time.
 class infer_options {
 public:
+    // Told the forms formatted so far and the bound; the search stops at once when it says false.
+    using going_on_check = std::function<bool(unsigned long done, unsigned long whole)>;
+
+    // The bound that the forms of an addon need.
+    infer_options() = default;
+    // Another bound (forms much longer than an addon's need a lower one), with a way to stop.
+    infer_options(long formatting_budget, going_on_check going_on)
+        : formatting_budget(formatting_budget), going_on(std::move(going_on)) {}
+
     clang::format::FormatStyle from(std::vector<form_case> const& forms) const;
+    // With readings taken otherwise than from the forms of an addon.
+    clang::format::FormatStyle from(std::vector<form_case> const& forms, form_readings const& readings) const;
+
+private:
+    long formatting_budget = 30000;
+    going_on_check going_on;
 };
 
 // How far each form is from its formatted result under a style; all forms are formatted in one

@@ -141,6 +141,11 @@ std::string addon_written_in(std::string const& options, std::string const& styl
         std::string const code = with_instances(form_as_code(each.tokens));
         forms[each.name] = form_as_code(without_instances(format_with(style).the_code(code + "\n").text));
     }
+    return addon_of_forms(forms, style_name, language);
+}
+
+std::string addon_of_forms(std::map<std::string, std::string> const& forms, std::string const& style_name,
+                           language_description const& language) {
     std::string addon = "NAME=" + style_name + "\nLANGUAGE=" + language.name + "\n";
     for (auto const& [name, form] : forms)
         addon += "\nS_NAME=" + name + "\nS_BEG\n" + form + "\nS_END\n";

@@ -51,6 +51,10 @@ std::map<std::string, std::string> forms_formatted_by_inferred_options(std::stri
 // Empty when the options cannot be read.
 std::string addon_written_in(std::string const& options, std::string const& style_name, language_description const& language);
 
+// An addon of the language holding these forms (structure name -> form), in the order of the names.
+std::string addon_of_forms(std::map<std::string, std::string> const& forms, std::string const& style_name,
+                           language_description const& language);
+
 }  // namespace tarnel_engine
 
 #endif

@@ -36,8 +36,10 @@ QString cpp_plugin_file() { return "libcpp-language-plugin.so"; }
 QString plugin_file_of(std::string const& language) { return language == "C" ? c_plugin_file() : cpp_plugin_file(); }
 
 loaded_plugin::loaded_plugin(QString const& file_name) : loader(std::make_unique<QPluginLoader>(plugin_path(file_name))) {
-    if (QObject* root = loader->instance())
+    if (QObject* root = loader->instance()) {
         plugin = qobject_cast<interface_to_language_plugin*>(root);
+        learner = qobject_cast<interface_to_style_learning*>(root);
+    }
 }
 
 loaded_plugin::~loaded_plugin() { loader->unload(); }

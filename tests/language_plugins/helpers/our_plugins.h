@@ -31,10 +31,13 @@ public:
     ~loaded_plugin();
     interface_to_language_plugin* get() const { return plugin; }
     interface_to_language_plugin* operator->() const { return plugin; }
+    // The plugin's learning interface, found as the host finds it.
+    interface_to_style_learning* learning() const { return learner; }
 
 private:
     std::unique_ptr<QPluginLoader> loader;
     interface_to_language_plugin* plugin = nullptr;
+    interface_to_style_learning* learner = nullptr;
 };
 
 // The shipped addons (file names in plugins/styles).

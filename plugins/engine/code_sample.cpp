@@ -1,0 +1,167 @@
+// Cuts files at blank lines outside every brace but those of namespaces and extern blocks, outside
+// comments, strings and macros; neighbouring cuts of one context make a piece.
+#include "code_sample.h"
+
+#include <cctype>
+#include <sstream>
+
+namespace tarnel_engine {
+
+namespace {
+
+bool blank(std::string const& line) { return line.find_first_not_of(" \t\f\v") == std::string::npos; }
+
+std::string trimmed(std::string const& line) {
+    std::size_t const begin = line.find_first_not_of(" \t");
+    return begin == std::string::npos ? std::string() : line.substr(begin);
+}
+
+// A brace that opens a namespace or an extern block: its contents are cut as at the top level.
+bool opens_a_container(std::vector<std::string> const& lines, std::size_t line) {
+    for (std::size_t at = line + 1; at-- > 0 && at + 2 > line;) {
+        std::string const text = trimmed(lines[at]);
+        if (text.compare(0, 9, "namespace") == 0 || text.compare(0, 16, "inline namespace") == 0 ||
+            text.compare(0, 6, "extern") == 0)
+            return true;
+        if (at < line && !text.empty() && text != "{")
+            return false;
+    }
+    return false;
+}
+
+// The state at the end of every line: whether a cut may follow it, and the lines that open the
+// containers around it.
+struct line_state {
+    bool cut_allowed = false;
+    std::vector<std::size_t> containers;
+};
+
+std::vector<line_state> states_of(std::vector<std::string> const& lines) {
+    std::vector<line_state> states(lines.size());
+    bool block_comment = false;
+    bool continued_directive = false;
+    // Each open brace: the line it stands on, or npos for one that is no container.
+    std::vector<std::size_t> open;
+    bool broken = false;
+    for (std::size_t l = 0; l < lines.size() && !broken; ++l) {
+        std::string const& line = lines[l];
+        bool const directive = continued_directive || (!block_comment && trimmed(line).compare(0, 1, "#") == 0);
+        continued_directive = directive && !line.empty() && line.back() == '\\';
+        char quote = 0;
+        for (std::size_t i = 0; i < line.size(); ++i) {
+            char const c = line[i];
+            char const next = i + 1 < line.size() ? line[i + 1] : '\0';
+            if (block_comment) {
+                if (c == '*' && next == '/') {
+                    block_comment = false;
+                    ++i;
+                }
+            } else if (quote) {
+                if (c == '\\')
+                    ++i;
+                else if (c == quote)
+                    quote = 0;
+            } else if (c == '/' && next == '/') {
+                break;
+            } else if (c == '/' && next == '*') {
+                block_comment = true;
+                ++i;
+            } else if (c == '"' || c == '\'') {
+                // A digit separator is no quote; a raw string is too rare to cut around.
+                if (c == '\'' && i > 0 && std::isalnum(static_cast<unsigned char>(line[i - 1])))
+                    continue;
+                quote = c;
+            } else if (!directive && c == '{') {
+                open.push_back(opens_a_container(lines, l) ? l : std::string::npos);
+            } else if (!directive && c == '}') {
+                if (open.empty())
+                    broken = true;
+                else
+                    open.pop_back();
+            }
+        }
+        line_state& state = states[l];
+        state.cut_allowed = !block_comment && !continued_directive && !quote && !broken;
+        for (std::size_t brace : open) {
+            state.cut_allowed = state.cut_allowed && brace != std::string::npos;
+            state.containers.push_back(brace);
+        }
+    }
+    if (broken || !open.empty() || block_comment)
+        for (line_state& state : states)
+            state.cut_allowed = false;
+    return states;
+}
+
+std::string piece_of(std::vector<std::string> const& lines, std::vector<std::size_t> const& containers,
+                     std::size_t begin, std::size_t end) {
+    std::string piece;
+    for (std::size_t opener : containers) {
+        // The head of a namespace whose brace stands on a line of its own comes with it.
+        if (trimmed(lines[opener]) == "{" && opener > 0)
+            piece += lines[opener - 1] + "\n";
+        piece += lines[opener] + "\n";
+    }
+    for (std::size_t l = begin; l < end; ++l)
+        piece += lines[l] + "\n";
+    for (std::size_t i = containers.size(); i-- > 0;) {
+        std::string const& opener = lines[containers[i]];
+        piece += opener.substr(0, opener.find_first_not_of(" \t")) + "}\n";
+    }
+    return piece;
+}
+
+}  // namespace
+
+std::vector<std::string> lines_of(std::string const& text) {
+    std::vector<std::string> lines;
+    std::istringstream stream(text);
+    std::string line;
+    while (std::getline(stream, line)) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        lines.push_back(line);
+    }
+    return lines;
+}
+
+std::vector<std::string> take_sample::of(std::vector<std::string> const& texts) const {
+    std::vector<std::string> pieces;
+    if (texts.empty())
+        return pieces;
+    std::size_t const step = (texts.size() + bounds.files - 1) / bounds.files;
+    std::size_t taken = 0;
+    for (std::size_t f = 0; f < texts.size() && taken < bounds.lines; f += step) {
+        std::vector<std::string> const lines = lines_of(texts[f]);
+        std::vector<line_state> const states = states_of(lines);
+        // Cuts: blank lines after which a cut is allowed; each run between two cuts is a segment.
+        std::size_t begin = 0;
+        std::size_t of_this_file = 0;
+        for (std::size_t l = 0; l <= lines.size() && of_this_file < bounds.lines_of_a_file; ++l) {
+            bool const cut = l == lines.size() || (blank(lines[l]) && l > 0 && states[l - 1].cut_allowed &&
+                                                   states[l].containers == states[l - 1].containers);
+            if (!cut)
+                continue;
+            std::size_t const length = l - begin;
+            if (length == 0)
+                continue;
+            std::vector<std::size_t> const before = begin == 0 ? std::vector<std::size_t>() : states[begin - 1].containers;
+            line_state const& last = states[l - 1];
+            bool const whole = before == last.containers && last.cut_allowed;
+            if (whole && length < bounds.lines_of_a_piece / 2 && l < lines.size())
+                continue;  // too short yet: the next segment joins it
+            if (whole && length <= bounds.lines_of_a_file) {
+                std::string const piece = piece_of(lines, before, begin, l);
+                if (!blank(piece)) {
+                    pieces.push_back(piece);
+                    of_this_file += length;
+                    taken += length;
+                }
+            }
+            begin = l;
+        }
+    }
+    return pieces;
+}
+
+}  // namespace tarnel_engine

@@ -1,0 +1,352 @@
+// Sample, readings, search, addon, fixed points, count: each step bounded by the sample, not by the
+// size of the project, except the last count, which revises every source once.
+#include "style_learning.h"
+
+#include "bracket_balance.h"
+#include "code_sample.h"
+#include "form_conflicts.h"
+#include "option_inference.h"
+#include "revision.h"
+#include "white_space.h"
+
+#include <clang/Format/Format.h>
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <future>
+#include <map>
+#include <regex>
+#include <thread>
+
+namespace tarnel_engine {
+
+namespace {
+
+// The forms the search may format, in pieces of the sample: about 20 s on one core for a sample of
+// 2,400 lines (bench/learning), leaving time to revise 400 files for the count.
+long const formatting_budget = 20000;
+// Rewrites of the addon with the forms as they come back, until every form is a fixed point.
+int const rounds_to_fixed_points = 3;
+
+std::string trimmed(std::string const& line) {
+    std::size_t const begin = line.find_first_not_of(" \t");
+    if (begin == std::string::npos)
+        return std::string();
+    return line.substr(begin, line.find_last_not_of(" \t") - begin + 1);
+}
+
+bool ends_with(std::string const& text, std::string const& end) {
+    return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
+}
+
+bool starts_with(std::string const& text, std::string const& prefix) { return text.compare(0, prefix.size(), prefix) == 0; }
+
+// Traits as the host gives them for 8-bit text: the first line break, and a blank.
+line_ending_traits traits_of_8_bit(std::string const& source) {
+    std::size_t const at = source.find_first_of("\r\n");
+    if (at == std::string::npos)
+        return {};
+    if (source[at] == '\n')
+        return {"\n", " "};
+    return {at + 1 < source.size() && source[at + 1] == '\n' ? "\r\n" : "\r", " "};
+}
+
+// The smallest usual limit that nearly every line fits in (a few long strings and URLs go over any
+// limit), or none; with the width of a tab under which nearly all lines come closest to that limit
+// (indentation by tabs alone does not show it), or 0 when no line begins with a tab.
+struct column_reading {
+    std::string limit;
+    int tab_width = 0;
+};
+
+column_reading column_limit_read_from(std::vector<std::string> const& pieces) {
+    bool tabs = false;
+    for (std::string const& piece : pieces)
+        tabs = tabs || piece[0] == '\t' || piece.find("\n\t") != std::string::npos;
+    column_reading best;
+    std::size_t best_slack = 0;
+    for (int tab_width : {8, 4, 2}) {
+        std::vector<std::size_t> widths;
+        for (std::string const& piece : pieces)
+            for (std::string const& line : lines_of(piece)) {
+                std::size_t width = 0;
+                for (char c : line)
+                    width += c == '\t' ? tab_width - width % tab_width : 1;
+                if (width > 0)
+                    widths.push_back(width);
+            }
+        if (widths.empty())
+            return best;
+        std::sort(widths.begin(), widths.end());
+        std::size_t const nearly_all = widths[(widths.size() - 1) * 995 / 1000];
+        column_reading reading{"{ColumnLimit: 0}", tabs ? tab_width : 0};
+        std::size_t slack = 1000;
+        for (int limit : {80, 100, 120})
+            if (nearly_all <= static_cast<std::size_t>(limit)) {
+                reading.limit = "{ColumnLimit: " + std::to_string(limit) + "}";
+                slack = static_cast<std::size_t>(limit) - nearly_all;
+                break;
+            }
+        if (best.limit.empty() || slack < best_slack) {
+            best = reading;
+            best_slack = slack;
+        }
+        if (!tabs)
+            break;
+    }
+    return best;
+}
+
+// The side `*` and `&` lean to in declarations, where one side clearly outnumbers the other.
+std::string pointers_read_from(std::vector<std::string> const& pieces) {
+    static std::regex const left(R"([A-Za-z0-9_>][*&]+ [A-Za-z_])");
+    static std::regex const right(R"([A-Za-z0-9_>] [*&]+[A-Za-z_])");
+    long lean_left = 0;
+    long lean_right = 0;
+    for (std::string const& piece : pieces)
+        for (std::string const& line : lines_of(piece)) {
+            std::string const text = trimmed(line);
+            if (starts_with(text, "//") || starts_with(text, "*") || starts_with(text, "/*") || starts_with(text, "#"))
+                continue;
+            lean_left += std::distance(std::sregex_iterator(text.begin(), text.end(), left), std::sregex_iterator());
+            lean_right += std::distance(std::sregex_iterator(text.begin(), text.end(), right), std::sregex_iterator());
+        }
+    if (lean_left > 2 * lean_right && lean_left >= 3)
+        return "{DerivePointerAlignment: false, PointerAlignment: Left, ReferenceAlignment: Pointer}";
+    if (lean_right > 2 * lean_left && lean_right >= 3)
+        return "{DerivePointerAlignment: false, PointerAlignment: Right, ReferenceAlignment: Pointer}";
+    return std::string();
+}
+
+// Per construct, whether the opening brace mostly stands on a line of its own; constructs the
+// sample does not show are left to the search.
+std::string braces_read_from(std::vector<std::string> const& pieces) {
+    // Construct -> lines with the brace at the end of the head, lines with it alone after the head.
+    std::map<std::string, std::pair<long, long>> seen;
+    auto construct_of = [](std::string const& head, bool at_top) -> std::string {
+        for (char const* keyword : {"if ", "if(", "for ", "for(", "while ", "while(", "switch ", "switch("})
+            if (starts_with(head, keyword))
+                return "AfterControlStatement";
+        if (starts_with(head, "class ") || starts_with(head, "template"))
+            return "AfterClass";
+        if (starts_with(head, "struct "))
+            return "AfterStruct";
+        if (starts_with(head, "enum "))
+            return "AfterEnum";
+        if (starts_with(head, "union "))
+            return "AfterUnion";
+        if (starts_with(head, "namespace "))
+            return "AfterNamespace";
+        if (at_top && ends_with(head, ")"))
+            return "AfterFunction";
+        return std::string();
+    };
+    for (std::string const& piece : pieces) {
+        std::vector<std::string> const lines = lines_of(piece);
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            std::string const text = trimmed(lines[i]);
+            bool const at_top = !lines[i].empty() && lines[i][0] != ' ' && lines[i][0] != '\t';
+            if (text == "{" && i > 0) {
+                std::string const construct = construct_of(trimmed(lines[i - 1]), lines[i - 1].find_first_not_of(" \t") == 0);
+                if (!construct.empty())
+                    ++seen[construct].second;
+            } else if (ends_with(text, " {") || ends_with(text, "){")) {
+                std::string const head = trimmed(text.substr(0, text.size() - 1));
+                std::string const construct = construct_of(head, at_top);
+                if (!construct.empty())
+                    ++seen[construct].first;
+            }
+            if (starts_with(text, "} else"))
+                ++seen["BeforeElse"].first;
+            else if (starts_with(text, "else") && i > 0 && trimmed(lines[i - 1]) == "}")
+                ++seen["BeforeElse"].second;
+        }
+    }
+    std::string wrapping;
+    for (auto const& [name, counts] : seen) {
+        if (counts.first + counts.second < 2)
+            continue;
+        bool const own_line = counts.second > counts.first;
+        std::string const value = name == "AfterControlStatement" ? (own_line ? "Always" : "Never") : own_line ? "true" : "false";
+        wrapping += (wrapping.empty() ? "" : ", ") + name + ": " + value;
+    }
+    return wrapping.empty() ? wrapping : "{BreakBeforeBraces: Custom, BraceWrapping: {" + wrapping + "}}";
+}
+
+// Whether the first declaration inside a namespace stands further in than the namespace, where one
+// way clearly outnumbers the other.
+std::string namespace_indentation_read_from(std::vector<std::string> const& pieces) {
+    long indented = 0;
+    long flush = 0;
+    for (std::string const& piece : pieces) {
+        std::vector<std::string> const lines = lines_of(piece);
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            std::string const text = trimmed(lines[i]);
+            bool const head = starts_with(text, "namespace") || starts_with(text, "inline namespace");
+            if (!head || (!ends_with(text, "{") && (i + 1 == lines.size() || trimmed(lines[i + 1]) != "{")))
+                continue;
+            std::size_t const opener = ends_with(text, "{") ? i : i + 1;
+            for (std::size_t next = opener + 1; next < lines.size(); ++next) {
+                std::string const inside = trimmed(lines[next]);
+                if (inside.empty() || inside[0] == '#' || starts_with(inside, "//") || starts_with(inside, "/*") ||
+                    starts_with(inside, "*") || starts_with(inside, "namespace"))
+                    continue;
+                bool const further = lines[next].find_first_not_of(" \t") > lines[i].find_first_not_of(" \t");
+                (further ? indented : flush) += 1;
+                break;
+            }
+        }
+    }
+    if (indented > 2 * flush && indented >= 2)
+        return "{NamespaceIndentation: All}";
+    if (flush > 2 * indented && flush >= 2)
+        return "{NamespaceIndentation: None}";
+    return std::string();
+}
+
+form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<std::string> const& pieces) {
+    form_readings readings = readings_of(forms);
+    readings.layout.erase(std::remove_if(readings.layout.begin(), readings.layout.end(),
+                                         [](std::string const& reading) {
+                                             return reading.find("ColumnLimit") != std::string::npos;
+                                         }),
+                          readings.layout.end());
+    readings.certain.clear();
+    readings.ruled_out.clear();
+    // Under no limit the engine keeps every line break as it finds it, which any sample favours, and
+    // the forms of the addon would then show the catalogue's breaks rather than the project's: a
+    // limit that nearly every line keeps to holds.
+    column_reading const columns = column_limit_read_from(pieces);
+    std::string const limit = columns.limit;
+    if (!limit.empty() && limit != "{ColumnLimit: 0}")
+        readings.certain.push_back(limit);
+    std::string const tab_width = columns.tab_width ? "{TabWidth: " + std::to_string(columns.tab_width) + "}" : "";
+    for (std::string const& reading :
+         {limit, tab_width, pointers_read_from(pieces), namespace_indentation_read_from(pieces)})
+        if (!reading.empty())
+            readings.layout.push_back(reading);
+    readings.braces = braces_read_from(pieces);
+    return readings;
+}
+
+// Code of our languages ends most of its lines with `;`, `{` or `}`, or begins them with `#`;
+// text of other languages (Python, shell, prose) hardly ever does.
+bool code_of_the_language_in(std::vector<std::string> const& pieces) {
+    long lines = 0;
+    long like_code = 0;
+    for (std::string const& piece : pieces)
+        for (std::string const& line : lines_of(piece)) {
+            std::string const text = trimmed(line);
+            if (text.empty())
+                continue;
+            ++lines;
+            char const last = text.back();
+            like_code += last == ';' || last == '{' || last == '}' || text[0] == '#';
+        }
+    return lines > 0 && like_code * 4 >= lines;
+}
+
+// The addon with each form replaced by what it comes back as, until every form comes back.
+std::string with_fixed_points(std::string addon, std::string const& style_name, language_description const& language) {
+    for (int round = 0; round < rounds_to_fixed_points && !forms_not_coming_back(addon, language).empty(); ++round)
+        addon = addon_of_forms(forms_formatted_by_inferred_options(addon, language), style_name, language);
+    return addon;
+}
+
+}  // namespace
+
+unsigned long lines_left_between(std::string const& before, std::string const& after) {
+    std::map<std::string, long> unmatched;
+    for (std::string const& line : lines_of(after))
+        ++unmatched[line];
+    unsigned long left = 0;
+    for (std::string const& line : lines_of(before)) {
+        auto const found = unmatched.find(line);
+        if (found != unmatched.end() && found->second > 0) {
+            --found->second;
+            ++left;
+        }
+    }
+    return left;
+}
+
+learned_style learn_style_of::from(std::vector<std::string> const& sources, std::string const& style_name,
+                                   going_on_check const& going_on) const {
+    learned_style learned;
+    try {
+        std::vector<std::string> texts;
+        std::vector<std::size_t> used;
+        for (std::size_t i = 0; i < sources.size(); ++i)
+            if (sources[i].find('\0') == std::string::npos && brackets_are_balanced_in(sources[i])) {
+                texts.push_back(sources[i]);
+                used.push_back(i);
+            }
+        std::vector<std::string> const pieces = take_sample().of(texts);
+        if (!code_of_the_language_in(pieces))
+            return learned;
+        std::vector<form_case> forms;
+        for (std::string const& piece : pieces)
+            forms.push_back({"sample", form_as_code(piece), {}});
+
+        unsigned long const whole = static_cast<unsigned long>(formatting_budget) + used.size();
+        bool stopped = false;
+        auto const searching = [&](unsigned long done, unsigned long) {
+            stopped = stopped || (going_on && !going_on(done, whole));
+            return !stopped;
+        };
+        clang::format::FormatStyle const style =
+            infer_options(formatting_budget, searching).from(forms, readings_of_code(forms, pieces));
+        if (stopped)
+            return learned;
+        std::string const addon =
+            with_fixed_points(addon_written_in(clang::format::configurationAsText(style), style_name, language),
+                              style_name, language);
+        if (addon.empty())
+            return learned;
+
+        // The count revises the files on every core, as a revision run does; `going_on` is asked
+        // on this thread only.
+        reviser revisions(language);
+        std::atomic<std::size_t> next{0};
+        std::atomic<std::size_t> done{0};
+        std::atomic<bool> stop{false};
+        std::atomic<unsigned long> lines{0};
+        std::atomic<unsigned long> lines_left{0};
+        auto const count = [&] {
+            try {
+                for (std::size_t i = next++; i < used.size() && !stop; i = next++) {
+                    std::string const& source = sources[used[i]];
+                    std::string const revised = revisions.revise(source, addon, traits_of_8_bit(source));
+                    unsigned long const of_source = lines_of(source).size();
+                    lines += of_source;
+                    lines_left +=
+                        revised == STYLE_TARNEL_SYNTAX_ERROR_TEXT ? of_source : lines_left_between(source, revised);
+                    ++done;
+                }
+            } catch (...) {
+                stop = true;
+            }
+        };
+        std::vector<std::thread> workers;
+        unsigned const cores = std::max(1U, std::thread::hardware_concurrency());
+        for (unsigned worker = 1; worker < cores && worker < used.size(); ++worker)
+            workers.emplace_back(count);
+        auto const report = std::async(std::launch::async, count);
+        while (report.wait_for(std::chrono::milliseconds(50)) != std::future_status::ready)
+            if (going_on && !going_on(static_cast<unsigned long>(formatting_budget) + done, whole))
+                stop = true;
+        for (std::thread& worker : workers)
+            worker.join();
+        if (stop || done != used.size())
+            return learned_style();
+        learned.lines = lines;
+        learned.lines_left = lines_left;
+        learned.addon = addon;
+        return learned;
+    } catch (...) {
+        return learned_style();
+    }
+}
+
+}  // namespace tarnel_engine

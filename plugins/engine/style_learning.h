@@ -1,0 +1,41 @@
+// Learning a style from a project's own code: what a language plugin's learn_style() does
+// (internal to the engine library).
+#ifndef TARNEL_ENGINE_STYLE_LEARNING_H
+#define TARNEL_ENGINE_STYLE_LEARNING_H
+
+#include "interface_to_language_plugin.h"
+#include "language.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace tarnel_engine {
+
+class learn_style_of {
+public:
+    using going_on_check = std::function<bool(unsigned long done, unsigned long whole)>;
+
+    // The description must outlive the learner.
+    explicit learn_style_of(language_description const& language) : language(language) {}
+
+    // Reads what a fixed sample of the sources shows directly (indentation, column limit, brace
+    // placement, where `*` and `&` lean), then searches the option table for the options under
+    // which the sample changes least, writes them as an addon and revises every source in it to
+    // count the lines it leaves as they are. Sources in UTF-16 or UTF-32, or whose brackets do not
+    // pair up, are neither learned from nor counted. Nothing learned (no source to learn from, or
+    // stopped): an empty addon.
+    learned_style from(std::vector<std::string> const& sources, std::string const& style_name,
+                       going_on_check const& going_on) const;
+
+private:
+    language_description const& language;
+};
+
+// How many lines of `before` stand unchanged in `after`, a revision of it: the lines common to both
+// (their multisets), line endings left out.
+unsigned long lines_left_between(std::string const& before, std::string const& after);
+
+}  // namespace tarnel_engine
+
+#endif

@@ -1,0 +1,126 @@
+// Learning a style through the plugins' learning interface: a small project written in a known
+// option set comes back as a style that leaves nearly all its lines as they are, with every form a
+// fixed point and the figures the plugin reports true; no sources, text of another language and a
+// stop give no style.
+#include "helpers/our_plugins.h"
+
+#include "c_language.h"
+#include "cpp_language.h"
+#include "form_conflicts.h"
+#include "revision.h"
+#include "style_learning.h"
+#include "tests/harness/built_files.h"
+
+#include <QDir>
+#include <QtTest>
+
+using namespace our_plugins;
+
+namespace {
+
+tarnel_engine::language_description const& description_of(QString const& language) {
+    return language == "C" ? c_language() : cpp_language();
+}
+
+// The golden inputs and the examples of the language: code written in many ways.
+std::vector<std::string> sources_of(QString const& language) {
+    std::vector<std::string> sources;
+    for (QString const& golden_case : golden_cases())
+        if (golden_case.startsWith(language + "/"))
+            sources.push_back(golden_file(golden_case, "input"));
+    QDir const examples(built::source_dir() + "/examples/" + (language == "C" ? "c" : "cpp"));
+    for (QString const& file : examples.entryList(QDir::Files, QDir::Name))
+        sources.push_back(contents_of(examples.filePath(file)));
+    return sources;
+}
+
+std::string const python = "import os\n\ndef walk(top):\n    for name in os.listdir(top):\n        if name:\n"
+                           "            print(name)\n    return top\n\nclass Tree:\n    def __init__(self):\n"
+                           "        self.nodes = []\n";
+
+}  // namespace
+
+class test_style_learning : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { use_private_cache(); }
+
+    // Option sets far from each other and from the predefined styles: the learning must read the
+    // indentation, tabs, braces and where `*` leans, and search the rest.
+    void learns_back_a_known_style_data() {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("options");
+        QTest::newRow("C++ LLVM, indent 3, Allman braces, * on the type, limit 100")
+            << "C++" << "{BasedOnStyle: LLVM, IndentWidth: 3, BreakBeforeBraces: Allman, PointerAlignment: Left, "
+                        "DerivePointerAlignment: false, ColumnLimit: 100}";
+        QTest::newRow("C++ Google, tabs of 4, blank before every (, access specifiers at the class")
+            << "C++" << "{BasedOnStyle: Google, IndentWidth: 4, TabWidth: 4, UseTab: ForIndentation, "
+                        "SpaceBeforeParens: Always, AccessModifierOffset: -4}";
+        QTest::newRow("C GNU") << "C" << "{BasedOnStyle: GNU}";
+        QTest::newRow("C indent 8 with tabs, Linux braces, limit 80")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, BreakBeforeBraces: Linux, "
+                      "AllowShortIfStatementsOnASingleLine: Never, PointerAlignment: Right, ColumnLimit: 80}";
+    }
+    void learns_back_a_known_style() {
+        QFETCH(QString, language);
+        QFETCH(QString, options);
+        auto const& description = description_of(language);
+        std::string const known = tarnel_engine::addon_written_in(options.toStdString(), "Known", description);
+        QVERIFY(!known.empty());
+        loaded_plugin plugin(plugin_file_of(language.toStdString()));
+        QVERIFY(plugin.learning());
+        std::vector<std::string> project;
+        for (std::string const& source : sources_of(language)) {
+            std::string const written = plugin->revise(source, known, traits_of(source));
+            if (written != STYLE_TARNEL_SYNTAX_ERROR_TEXT)
+                project.push_back(written);
+        }
+        QVERIFY(project.size() >= 5);
+
+        learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
+        QVERIFY(!learned.addon.empty());
+        QVERIFY(tarnel_engine::forms_not_coming_back(learned.addon, description).empty());
+        unsigned long lines = 0;
+        unsigned long left = 0;
+        for (std::string const& source : project) {
+            std::string const revised = plugin->revise(source, learned.addon, traits_of(source));
+            QVERIFY(revised != STYLE_TARNEL_SYNTAX_ERROR_TEXT);
+            lines += static_cast<unsigned long>(std::count(source.begin(), source.end(), '\n'));
+            left += tarnel_engine::lines_left_between(source, revised);
+        }
+        QCOMPARE(learned.lines, lines);
+        QCOMPARE(learned.lines_left, left);
+        QVERIFY2(left * 1000 >= lines * 995, qPrintable(QString("%1 of %2 lines left").arg(left).arg(lines)));
+    }
+
+    void learns_nothing_data() {
+        QTest::addColumn<int>("sources");
+        QTest::addColumn<bool>("stopped");
+        QTest::newRow("no sources") << 0 << false;
+        QTest::newRow("text of another language") << 1 << false;
+        QTest::newRow("stopped at the first report") << 2 << true;
+    }
+    void learns_nothing() {
+        QFETCH(int, sources);
+        QFETCH(bool, stopped);
+        std::vector<std::string> project;
+        if (sources == 1)
+            project = {python, python, python};
+        else if (sources == 2)
+            project = sources_of("C++");
+        loaded_plugin plugin(cpp_plugin_file());
+        QVERIFY(plugin.learning());
+        int reports = 0;
+        learned_style const learned =
+            plugin.learning()->learn_style(project, "Learned", [&](unsigned long, unsigned long) {
+                ++reports;
+                return !stopped;
+            });
+        QVERIFY(learned.addon.empty());
+        QVERIFY(!stopped || reports == 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(test_style_learning)
+#include "test_style_learning.moc"
