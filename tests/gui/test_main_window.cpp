@@ -141,12 +141,7 @@ private slots:
 
 
 void test_main_window::init() {
-    QSettings settings;
-    settings.clear();
-    settings.setValue(settings_key::EULA_was_accepted, true);
-    settings.sync();
-    empty_directory(path_to().plugins_directory());
-    empty_directory(path_to().addons_directory());
+    start_from_an_empty_bundle();
 }
 
 void test_main_window::cleanup() { window.reset(); }

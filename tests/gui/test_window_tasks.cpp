@@ -150,12 +150,7 @@ private slots:
 };
 
 void test_window_tasks::init() {
-    QSettings settings;
-    settings.clear();
-    settings.setValue(settings_key::EULA_was_accepted, true);
-    settings.sync();
-    empty_directory(path_to().plugins_directory());
-    empty_directory(path_to().addons_directory());
+    start_from_an_empty_bundle();
     install_test_languages(path_to().plugins_directory(), path_to().addons_directory());
     work = std::make_unique<QTemporaryDir>();
     qunsetenv("TEST_PLUGIN_DELAY_MS");
