@@ -42,9 +42,6 @@ public:
     bool revise_all(std::function<bool()> const& stop_requested,
                     std::function<void(unsigned long revised, int found)> const& reached);
 
-    // How many workers revise_all uses.
-    int workers() const { return worker_count; }
-
     // Tells the plugin the run is over, writes the counts in the report, saves the records.
     void finish();
 
