@@ -3,6 +3,9 @@
 #include "match_in_full.h"
 #include "style_addon_forms.h"
 
+#include <utility>
+#include <vector>
+
 format_check format_of_this::based_on(interface_to_language_plugin* plugin,
                                       std::string& bad_structure) const {
     std::map<std::string, std::string> forms;
@@ -11,14 +14,18 @@ format_check format_of_this::based_on(interface_to_language_plugin* plugin,
     } catch (...) {
         return format_check::plugin_failed;
     }
+    std::vector<std::string> structures;
+    std::vector<std::pair<std::string, std::string>> checks;
     for (auto const& [structure, expression] : forms) {
-        std::string const form = style_tarnel::form_of_structure(structure, addon_text);
+        std::string form = style_tarnel::form_of_structure(structure, addon_text);
         if (form.empty())
             continue;  // A missing section is no error.
-        if (!style_tarnel::match_in_full(expression).of(form)) {
-            bad_structure = structure;
-            return format_check::invalid_form;
-        }
+        structures.push_back(structure);
+        checks.emplace_back(expression, std::move(form));
+    }
+    if (std::size_t const bad = style_tarnel::match_in_full::first_mismatch_among(checks); bad < checks.size()) {
+        bad_structure = structures[bad];
+        return format_check::invalid_form;
     }
     return format_check::valid;
 }

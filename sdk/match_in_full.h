@@ -8,8 +8,11 @@
 
 #include <boost/xpressive/xpressive.hpp>
 
+#include <algorithm>
 #include <pthread.h>
 #include <string>
+#include <utility>
+#include <vector>
 #include <unistd.h>
 
 namespace style_tarnel {
@@ -21,34 +24,50 @@ public:
     // False also when the expression does not compile, or when no thread with a large enough
     // stack can be had.
     bool of(std::string const& text) const {
-        job work{expression, text};
+        std::vector<std::pair<std::string, std::string>> const one{{expression, text}};
+        return first_mismatch_among(one) == one.size();
+    }
+
+    // The index of the first (expression, text) pair whose text does not match its expression
+    // in full, or the number of pairs when every one matches. All on one thread, so that many
+    // forms cost one thread, not one each.
+    static std::size_t first_mismatch_among(std::vector<std::pair<std::string, std::string>> const& pairs) {
+        if (pairs.empty())
+            return 0;
+        std::size_t longest = 0;
+        for (auto const& pair : pairs)
+            longest = std::max(longest, pair.second.size());
+        job work{pairs, 0};
         pthread_attr_t attributes;
         if (::pthread_attr_init(&attributes) != 0)
-            return false;
+            return 0;
         pthread_t thread;
-        bool const started = ::pthread_attr_setstacksize(&attributes, stack_size_for(text.size())) == 0 &&
+        bool const started = ::pthread_attr_setstacksize(&attributes, stack_size_for(longest)) == 0 &&
                              ::pthread_create(&thread, &attributes, run, &work) == 0;
         ::pthread_attr_destroy(&attributes);
         if (!started)
-            return false;
+            return 0;
         ::pthread_join(thread, nullptr);
-        return work.matches;
+        return work.first_mismatch;
     }
 
 private:
     struct job {
-        std::string const& expression;
-        std::string const& text;
-        bool matches = false;
+        std::vector<std::pair<std::string, std::string>> const& pairs;
+        std::size_t first_mismatch;
     };
 
     static void* run(void* argument) {
         namespace xp = boost::xpressive;
         auto& work = *static_cast<job*>(argument);
-        try {
-            work.matches = xp::regex_match(work.text, xp::sregex::compile(work.expression));
-        } catch (...) {
-            work.matches = false;  // An expression that does not compile accepts no text.
+        for (; work.first_mismatch < work.pairs.size(); ++work.first_mismatch) {
+            auto const& [expression, text] = work.pairs[work.first_mismatch];
+            try {
+                if (!xp::regex_match(text, xp::sregex::compile(expression)))
+                    break;
+            } catch (...) {
+                break;  // An expression that does not compile accepts no text.
+            }
         }
         return nullptr;
     }
