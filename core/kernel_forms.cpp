@@ -5,7 +5,6 @@
 #include "core/installed_files.h"
 #include "core/style_addon.h"
 #include "core/style_addon_editing.h"
-#include "engine/plugin_answer.h"
 
 std::string kernel::language_structure_form_based_on(std::string const& language,
                                                      std::string const& style,
@@ -42,17 +41,13 @@ bool kernel::update_language_structure_form(std::string const& language, std::st
 boost::optional<std::string> kernel::text_as_revised_under(std::string const& language,
                                                            std::string const& style,
                                                            std::string const& text) const {
-    std::string file_name;
-    if (addon_of(style, language, file_name, stray_files::are_passed_over) != addons_pass::found)
+    // The same path as an editor's buffer takes: the addon checked and read, the plugin asked.
+    revision_task task;
+    task.language = language;
+    task.style = style;
+    std::string revised;
+    std::string report;
+    if (revise_text(task, std::string(), text, revised, report) != text_outcome_status::revised)
         return boost::none;
-    boost::optional<std::string> const addon_text = addon_text_of(file_name);
-    if (!addon_text)
-        return boost::none;
-    boost::optional<std::string> revised;
-    with_plugin_of(language, [&](interface_to_language_plugin& plugin) {
-        std::string result;
-        if (ask(plugin, text, *addon_text, result) == plugin_answer::revised)
-            revised = result;
-    });
     return revised;
 }
