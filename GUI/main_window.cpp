@@ -79,8 +79,6 @@ main_window::main_window(QWidget* parent) : QMainWindow(parent) {
     QVariant const geometry = QSettings().value(settings_key::main_window_geometry);
     if (geometry.isValid())
         restoreGeometry(geometry.toByteArray());
-    else
-        resize(1000, 680);
     setWindowTitle(tr(product::title));
     setAccessibleName(tr(product::title));
 
