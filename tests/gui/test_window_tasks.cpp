@@ -1,8 +1,10 @@
 // The window doing the whole job on the test languages in a bundle of its own: paths and
 // extensions, revisions with their progress, Stop and report, the form editor, and task tabs.
+#include "GUI/learn_from_code.h"
 #include "GUI/list_of_paths.h"
 #include "GUI/look_n_feel_editor.h"
 #include "GUI/main_window.h"
+#include "GUI/new_style_name.h"
 #include "GUI/show_revise.h"
 #include "GUI/task_tabs.h"
 #include "GUI/task_tabs_itself.h"
@@ -150,6 +152,8 @@ private slots:
     void refuses_bad_tab_names_data();
     void refuses_bad_tab_names();
     void closing_a_tab_forgets_its_records();
+    void learns_a_style_from_the_task_data();
+    void learns_a_style_from_the_task();
 };
 
 void test_window_tasks::init() {
@@ -609,6 +613,92 @@ void test_window_tasks::closing_a_tab_forgets_its_records() {
     add({"tree"});
     QCOMPARE(report_of_a_run([&] { action("revise_menu_all")->trigger(); }),
              QString("2 files was found, 2 files was revised, no files was changed."));
+}
+
+void test_window_tasks::learns_a_style_from_the_task_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("copies");      // of the C++ examples in the task's directory
+    QTest::addColumn<bool>("stop");       // Stop pressed as soon as the learning starts
+    QTest::addColumn<QString>("message");  // "": the style is learned and selected
+    QTest::addColumn<bool>("refused");    // the name dialog stays, with the message
+    QTest::newRow("learned") << "House" << 1 << false << "" << false;
+    QTest::newRow("stopped") << "House" << 40 << true
+                             << "Learning was interrupted by user, no style was installed." << false;
+    QTest::newRow("no files of the extensions") << "House" << 0 << false
+                                                << "No files was found, no style was learned." << false;
+    QTest::newRow("name of a style that exists") << "GNU" << 1 << false
+                                                 << "Invalid name of style 'GNU', such style already exists." << true;
+    QTest::newRow("name not in English") << QString::fromUtf8("Haus\u00e9") << 1 << false
+                                         << QString::fromUtf8("Invalid name of style 'Haus\u00e9', it must be in English.")
+                                         << true;
+    QTest::newRow("empty name") << "" << 1 << false << "Invalid name of style '', name cannot be empty." << true;
+}
+
+// Faults: a learned style left unselected or not installed; a stopped learning, or one under a
+// refused name, installing a style all the same; an end without a style that says nothing.
+void test_window_tasks::learns_a_style_from_the_task() {
+    QFETCH(QString, name);
+    QFETCH(int, copies);
+    QFETCH(bool, stop);
+    QFETCH(QString, message);
+    QFETCH(bool, refused);
+    QString const shipped = built::build_dir() + "/PlugIns";
+    QVERIFY(QFile::copy(shipped + "/languages/libcpp-language-plugin.so",
+                        path_to().plugins_directory() + "/libcpp-language-plugin.so"));
+    QVERIFY(QFile::copy(shipped + "/styles/GNU[C++].style", path_to().addons_directory() + "/GNU[C++].style"));
+    QDir const examples(built::source_dir() + "/examples/cpp");
+    for (int copy = 0; copy < copies; ++copy)
+        for (QString const& file : examples.entryList(QDir::Files, QDir::Name)) {
+            QFile source(examples.filePath(file));
+            QVERIFY(source.open(QIODevice::ReadOnly));
+            write(path(QString("proj/%1/%2").arg(copy).arg(file)), source.readAll());
+        }
+    write(path("proj/notes.txt"), "no code\n");
+    open_window();
+    auto* tabs = window->findChild<GUI::task_tabs*>();
+    emit tabs->set_this_programming_language("C++");
+    emit tabs->set_this_formatting_style("GNU");
+    QVERIFY(!action("style_menu_learn")->isEnabled());
+    add({"proj"});
+    QVERIFY(action("style_menu_learn")->isEnabled());
+
+    auto installed_addons = [] {
+        QStringList names = QDir(path_to().addons_directory()).entryList(QDir::Files);
+        names.sort();
+        return names;
+    };
+    QStringList const addons_before = installed_addons();
+    auto* learner = window->findChild<GUI::learn_from_code*>();
+    QSignalSpy finished(learner, &GUI::learn_from_code::learning_is_finished);
+    action("style_menu_learn")->trigger();
+    GUI::new_style_name* dialog = learner->name_dialog();
+    QVERIFY(dialog->isVisible());
+    dialog->field()->setText(name);
+    QTest::keyClick(dialog->field(), Qt::Key_Return);
+    if (stop) {
+        QVERIFY(learner->progress_dialog()->isVisible());
+        QTest::mouseClick(learner->progress_dialog()->findChild<QPushButton*>("stop"), Qt::LeftButton);
+    }
+    QString const addon = path_to().addons_directory() + "/" + name + "[C++].style";
+    if (refused) {
+        QVERIFY(dialog->isVisible());
+        QCOMPARE(dialog->findChild<QLabel*>("refusal")->text(), message);
+        QVERIFY(!learner->progress_dialog()->isVisible());
+        QCOMPARE(installed_addons(), addons_before);
+        return;
+    }
+    QVERIFY(!dialog->isVisible());
+    QVERIFY(finished.wait(240000));
+    QCOMPARE(finished.first().at(0).toString(), message);
+    QVERIFY(!learner->progress_dialog()->isVisible());
+    QStringList installed = addons_before;
+    if (message.isEmpty())
+        installed << QFileInfo(addon).fileName();
+    installed.sort();
+    QCOMPARE(installed_addons(), installed);
+    QCOMPARE(window->findChild<QListWidget*>("styles")->currentItem()->text(), message.isEmpty() ? name : QString("GNU"));
+    if (!message.isEmpty())
+        QCOMPARE(window->findChild<QMessageBox*>("critical_alert")->text(), message);
 }
 
 STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(test_window_tasks)
