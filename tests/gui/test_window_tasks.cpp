@@ -16,6 +16,7 @@
 #include "tests/harness/test_main.h"
 #include "helpers/window_test_helpers.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QDir>
 #include <QFile>
@@ -635,7 +636,8 @@ void test_window_tasks::learns_a_style_from_the_task_data() {
 }
 
 // Faults: a learned style left unselected or not installed; a stopped learning, or one under a
-// refused name, installing a style all the same; an end without a style that says nothing.
+// refused name, installing a style all the same; an end without a style that says nothing; a
+// control of the name or progress dialog that a screen reader announces without a name.
 void test_window_tasks::learns_a_style_from_the_task() {
     QFETCH(QString, name);
     QFETCH(int, copies);
@@ -673,10 +675,18 @@ void test_window_tasks::learns_a_style_from_the_task() {
     action("style_menu_learn")->trigger();
     GUI::new_style_name* dialog = learner->name_dialog();
     QVERIFY(dialog->isVisible());
+    auto every_control_is_named = [](QWidget* window) {
+        for (QWidget* widget : window->findChildren<QWidget*>())
+            if (widget->isVisible() && widget->focusPolicy() != Qt::NoFocus)
+                QVERIFY2(!QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name).isEmpty(),
+                         qPrintable(widget->metaObject()->className() + (" " + widget->objectName())));
+    };
+    every_control_is_named(dialog);
     dialog->field()->setText(name);
     QTest::keyClick(dialog->field(), Qt::Key_Return);
     if (stop) {
         QVERIFY(learner->progress_dialog()->isVisible());
+        every_control_is_named(learner->progress_dialog());
         QTest::mouseClick(learner->progress_dialog()->findChild<QPushButton*>("stop"), Qt::LeftButton);
     }
     QString const addon = path_to().addons_directory() + "/" + name + "[C++].style";
