@@ -4,7 +4,7 @@
 # checking the bundle's styles directory after each step; then add the examples directory, revise
 # it, read the report, edit one form of a copied style and revise again, checking the files and the
 # report against the command line's on a copy of the same tree; open a second task tab and rename
-# the first in place. Runs on a copy of the bundle with
+# the first in place; learn a style from the examples. Runs on a copy of the bundle with
 # its own settings, and stops its Xvfb whatever happens.
 #   window_on_x_server.sh <build directory> <clipboard_text helper> <examples directory>
 set -euo pipefail
@@ -166,4 +166,13 @@ xdotool key ctrl+a; xdotool type --delay 20 "Backend"; xdotool key Return; pause
 shot tab-renamed
 grep -q '^Backend__last=' "$XDG_CONFIG_HOME/Style Tarnel/Style Tarnel.conf" ||
   fail "the renamed tab's task is not under its new name: $(grep -F '__last' "$XDG_CONFIG_HOME/Style Tarnel/Style Tarnel.conf")"
+
+# A style learned from the task's examples, named in the window's dialog.
+style_menu 5
+timeout 30 xdotool search --sync --onlyvisible --name "^Learn a style from your code$" >/dev/null ||
+  fail "no dialog asks for the new style's name"
+xdotool type --delay 20 "Learned"; shot learn-name; xdotool key Return
+for _ in $(seq $((300 * ${STYLE_TARNEL_SLOWER:-1}))); do [ -f "$styles/Learned[C++].style" ] && break; sleep 0.2; done
+expect_file "Learned[C++].style" "the learned style is not in the styles directory"
+pause 1; shot learned
 echo "PASS"
