@@ -1,11 +1,10 @@
 #include "GUI/bundle_directory_alert.h"
 
+#include "GUI/critical_alert.h"
 #include "GUI/messages.h"
-#include "core/product.h"
 
 #include <QFileInfo>
-#include <QMessageBox>
-#include <QWidget>
+#include <QObject>
 
 namespace GUI {
 
@@ -16,15 +15,9 @@ bool this_directory_is_usable(QString const& path) {
 
 void show_report_about_problems_with(QString const& directory, char const* message,
                                      QWidget* main_window) {
-    auto* box = new QMessageBox(QMessageBox::Critical, product::title, QObject::tr(message),
-                                QMessageBox::Close, main_window);
-    box->setInformativeText(QObject::tr(text::please_make_sure_this_directory) + directory +
-                            QObject::tr(text::exists_and_you_can_write_in_it));
-    box->setObjectName("critical_alert");
-    box->setAccessibleName(QObject::tr(message));
-    box->setWindowModality(Qt::WindowModal);
-    box->setAttribute(Qt::WA_DeleteOnClose);
-    box->open();
+    show_critical_alert(QObject::tr(message), QObject::tr(text::please_make_sure_this_directory) + directory +
+                                                  QObject::tr(text::exists_and_you_can_write_in_it),
+                        main_window);
 }
 
 }  // namespace GUI

@@ -117,15 +117,9 @@ code_group::~code_group() = default;
 
 QWidget* code_group::widget_ptr() { return this; }
 
-// A language change has already filled in its default extensions; another style of the same
-// language keeps the extensions the user gave.
+// Any choice of a style, of the same language or not, shows the language's default extensions.
 void code_group::language_n_style_was_selected() {
-    QString extensions;
-    pimpl->extensions->obtain_filename_extensions(extensions);
-    if (extensions.isEmpty())
-        pimpl->extensions->enable_n_show();
-    else
-        pimpl->extensions->enable();
+    pimpl->extensions->enable_n_show();
     pimpl->enable_paths(true);
 }
 

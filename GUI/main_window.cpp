@@ -2,6 +2,7 @@
 
 #include "GUI/app_menu_actions.h"
 #include "GUI/code_group.h"
+#include "GUI/learn_from_code.h"
 #include "GUI/menu_actions.h"
 #include "GUI/revise_group.h"
 #include "GUI/style_group.h"
@@ -26,7 +27,7 @@ class main_window::implementation {
 public:
     explicit implementation(main_window* window)
         : language_import(window), language_delete(window),
-          style_import(window), style_export(window), style_delete(window), style_rename(window),
+          style_import(window), style_export(window), style_delete(window), style_rename(window), style_learn(window),
           about_this_structure(window), undo(window), redo(window), copy(window), select_all(window),
           increase_font(window), decrease_font(window), non_print(window),
           online(window), about(window),
@@ -40,7 +41,8 @@ public:
           code(new code_group(window, &revise_it_forcibly, &revise_all_forcibly)),
           revise(new revise_group(window, &revise_all)),
           agreement(kernel().this_is_first_start_of_app() ? new agreement_dialog(window) : nullptr),
-          tabs(new task_tabs(window, &tab_new, &tab_close, &tab_rename)) {}
+          tabs(new task_tabs(window, &tab_new, &tab_close, &tab_rename)),
+          learning(new learn_from_code(window, window, &style_learn)) {}
 
     language_menu_import language_import;
     language_menu_delete language_delete;
@@ -48,6 +50,7 @@ public:
     style_menu_export style_export;
     style_menu_delete style_delete;
     style_menu_rename style_rename;
+    style_menu_learn style_learn;
     lnf_menu_about_this_structure about_this_structure;
     lnf_menu_undo undo;
     lnf_menu_redo redo;
@@ -71,6 +74,7 @@ public:
     revise_group* revise;
     agreement_dialog* agreement;
     task_tabs* tabs;
+    learn_from_code* learning;
 };
 
 main_window::main_window(QWidget* parent) : QMainWindow(parent) {
@@ -79,8 +83,6 @@ main_window::main_window(QWidget* parent) : QMainWindow(parent) {
     QVariant const geometry = QSettings().value(settings_key::main_window_geometry);
     if (geometry.isValid())
         restoreGeometry(geometry.toByteArray());
-    else
-        resize(1000, 680);
     setWindowTitle(tr(product::title));
     setAccessibleName(tr(product::title));
 
@@ -127,6 +129,7 @@ main_window::~main_window() {
     settings.sync();
     // The groups go before the actions they use (a renaming still open refills its list as it
     // closes); each saves its own state as it goes.
+    delete pimpl->learning;
     delete pimpl->tabs;
     delete pimpl->revise;
     delete pimpl->code;
@@ -151,7 +154,8 @@ void main_window::build_menus() {
     implementation& p = *pimpl;
     add_menu(tr("&Tab"), "tab_menu", {&p.tab_new, &p.tab_close, &p.tab_rename});
     add_menu(tr("&Language"), "language_menu", {&p.language_import, &p.language_delete});
-    add_menu(tr("&Style"), "style_menu", {&p.style_import, &p.style_export, &p.style_delete, &p.style_rename});
+    add_menu(tr("&Style"), "style_menu",
+             {&p.style_import, &p.style_export, &p.style_delete, &p.style_rename, nullptr, &p.style_learn});
     add_menu(tr("Look and f&eel"), "lnf_menu",
              {&p.about_this_structure, nullptr, &p.undo, &p.redo, nullptr, &p.copy, &p.select_all, nullptr,
               &p.increase_font, &p.decrease_font, nullptr, &p.non_print});
@@ -166,6 +170,7 @@ void main_window::connect_groups() {
     code_group* C = pimpl->code;
     revise_group* R = pimpl->revise;
     task_tabs* T = pimpl->tabs;
+    learn_from_code* L = pimpl->learning;
 
     connect(R, &revise_group::obtain_programming_language, S, &style_group::obtain_programming_language);
     connect(R, &revise_group::obtain_formatting_style, S, &style_group::obtain_formatting_style);
@@ -203,6 +208,12 @@ void main_window::connect_groups() {
     connect(S, &style_group::show_default_filename_extensions, C, &code_group::show_default_filename_extensions);
     connect(S, &style_group::all_styles_have_been_deleted, C, &code_group::all_styles_have_been_deleted);
     connect(S, &style_group::all_styles_have_been_deleted, R, &revise_group::all_styles_have_been_deleted);
+    connect(L, &learn_from_code::obtain_programming_language, S, &style_group::obtain_programming_language);
+    connect(L, &learn_from_code::obtain_filename_extensions, C, &code_group::obtain_filename_extensions);
+    connect(L, &learn_from_code::obtain_raw_paths_to_revising_files, C, &code_group::obtain_raw_paths_to_revising_files);
+    connect(C, &code_group::at_least_one_path_was_added, L, &learn_from_code::there_are_paths);
+    connect(C, &code_group::no_paths_anymore, L, &learn_from_code::no_paths_anymore);
+    connect(L, &learn_from_code::style_was_learned, S, &style_group::set_this_formatting_style);
 }
 
 void main_window::obtain_geometry_of_main_window(QRect& geometry) { geometry = this->geometry(); }
@@ -214,6 +225,7 @@ void main_window::disable_style_menu() {
     pimpl->style_export.disable();
     pimpl->style_delete.disable();
     pimpl->style_rename.disable();
+    pimpl->style_learn.disable();
 }
 
 void main_window::disable_lnf_menu() {

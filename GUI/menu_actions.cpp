@@ -1,5 +1,7 @@
 #include "GUI/menu_actions.h"
 
+#include "GUI/messages.h"
+
 namespace GUI {
 
 tab_menu_new::tab_menu_new(QWidget* parent)
@@ -28,6 +30,10 @@ style_menu_delete::style_menu_delete(QWidget* parent)
 
 style_menu_rename::style_menu_rename(QWidget* parent)
     : one_action(parent, {tr("Rename"), QKeySequence(), true, false}) { name_as("style_menu_rename"); }
+
+// Enabled while the task has paths to learn from.
+style_menu_learn::style_menu_learn(QWidget* parent)
+    : one_action(parent, {tr(text::learn_from_code), QKeySequence(), false, false}) { name_as("style_menu_learn"); }
 
 lnf_menu_undo::lnf_menu_undo(QWidget* parent)
     : one_action(parent, {tr("Undo"), QKeySequence(QKeySequence::Undo), true, false}) { name_as("lnf_menu_undo"); }

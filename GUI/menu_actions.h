@@ -60,6 +60,12 @@ public:
     explicit style_menu_rename(QWidget* parent);
 };
 
+class style_menu_learn : public one_action {
+    Q_OBJECT
+public:
+    explicit style_menu_learn(QWidget* parent);
+};
+
 class lnf_menu_undo : public one_action {
     Q_OBJECT
 public:

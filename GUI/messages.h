@@ -75,8 +75,31 @@ constexpr char not_supported[] = "Not supported";
 constexpr char checking_the_form[] = "Checking how a revision writes this form...";
 constexpr char comes_back_as_written[] = "A revision keeps this form as written.";
 constexpr char comes_back_otherwise[] = "A revision writes this form so:";
+constexpr char form_not_saved[] = "The edited form could not be saved into the style";
+constexpr char please_make_sure_this_file[] = "Please make sure this style file\n";
 constexpr char plugin_refuses_the_form[] =
     "The language plugin cannot revise this form: a revision would leave such code as it is.";
+
+// Learning a style from the task's code: the menu entry, the name asked, the progress, and the
+// ends other than a learned style (the words of the command line where it has them).
+constexpr char learn_from_code[] = "Learn from code...";
+constexpr char learn_a_style_title[] = "Learn a style from your code";
+constexpr char name_of_the_new_style[] = "Name of the new style:";
+constexpr char learning[] = "Learning...";
+constexpr char style_name_prefix[] = "Invalid name of style '";
+constexpr char style_name_must_be_in_English[] = "', it must be in English.";
+constexpr char style_name_cannot_be_empty[] = "Invalid name of style '', name cannot be empty.";
+constexpr char style_name_is_taken[] = "', such style already exists.";
+constexpr char there_is_no_language[] = "There is no language '";
+constexpr char language_prefix[] = "Language '";
+constexpr char cannot_learn_styles[] = "' cannot learn styles.";
+constexpr char no_files_to_learn_from[] = "No files was found, no style was learned.";
+constexpr char nothing_learned[] = "No style was learned: the files found are no code of language '";
+constexpr char learning_interrupted[] = "Learning was interrupted by user, no style was installed.";
+constexpr char cannot_install_style[] = "I cannot install style '";
+constexpr char addons_directory_hint[] =
+    "'. Please make sure the addons directory exists and you can write in it.";
+constexpr char quote_and_dot[] = "'.";
 
 // Task tabs.
 constexpr char first_task[] = "Task 1";

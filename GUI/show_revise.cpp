@@ -1,102 +1,41 @@
 #include "GUI/show_revise.h"
 
 #include "GUI/messages.h"
+#include "GUI/progress_dialog.h"
 #include "GUI/top_window.h"
+#include "GUI/worker_link.h"
 #include "core/kernel.h"
-
-#include <QDialog>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QVBoxLayout>
-
-#include <atomic>
-#include <mutex>
 
 namespace GUI {
 
-namespace {
-
-// What the worker thread shares with the window: the stop flag, and the object its callbacks
-// reach, which the window clears when it goes. The worker's callbacks hold it, so it lives until
-// the run's last callback is gone, whatever becomes of the window.
-struct run_link {
-    std::atomic<bool> stop{false};
-    std::mutex guard;
-    show_revise* receiver;
-
-    explicit run_link(show_revise* receiver) : receiver(receiver) {}
-
-    template <typename call>
-    void reach(call const& it) {
-        std::lock_guard<std::mutex> const lock(guard);
-        if (receiver != nullptr)
-            it(*receiver);
-    }
-};
-
-}  // namespace
-
 class show_revise::implementation {
 public:
-    implementation(QWidget* main_window)
-        : main_window(main_window), dialog(new QDialog(main_window, Qt::Dialog)),
-          text(new QLabel(dialog)), progress(new QProgressBar(dialog)),
-          stop(new QPushButton(QObject::tr(text::stop), dialog)) {
+    explicit implementation(QWidget* main_window)
+        : main_window(main_window), dialog(new GUI::progress_dialog(main_window, QObject::tr(text::revise_in_progress))) {
         dialog->setObjectName("progress_dialog");
-        dialog->setWindowTitle(QObject::tr(text::revise_in_progress));
-        dialog->setAccessibleName(QObject::tr(text::revise_in_progress));
-        dialog->setWindowModality(Qt::WindowModal);
-        text->setObjectName("progress_text");
-        progress->setObjectName("progress_bar");
-        progress->setAccessibleName(QObject::tr(text::revise_in_progress));
-        progress->setMinimumWidth(300);
-        progress->setMinimum(0);
-        stop->setObjectName("stop");
-        stop->setAccessibleName(stop->text().remove('&'));
-        stop->setDefault(true);
-        auto* row = new QHBoxLayout;
-        row->setContentsMargins(0, 0, 0, 0);
-        row->addWidget(progress);
-        row->addWidget(stop);
-        auto* layout = new QVBoxLayout(dialog);
-        layout->setContentsMargins(14, 12, 10, 14);
-        layout->setSpacing(6);
-        layout->addWidget(new QLabel(QObject::tr(text::revise_in_progress), dialog));
-        layout->addWidget(text);
-        layout->addLayout(row);
-        dialog->hide();
     }
 
     ~implementation() { forget_the_run(); }
 
     void forget_the_run() {
-        if (!link)
-            return;
-        link->stop = true;
-        std::lock_guard<std::mutex> const lock(link->guard);
-        link->receiver = nullptr;
+        if (link)
+            link->cut();
     }
 
     QWidget* main_window;
-    QDialog* dialog;
-    QLabel* text;
-    QProgressBar* progress;
-    QPushButton* stop;
-    std::shared_ptr<run_link> link;
+    GUI::progress_dialog* dialog;
+    std::shared_ptr<worker_link<show_revise>> link;
 };
 
 show_revise::show_revise(QWidget* parent, QWidget* main_window)
     : QWidget(parent), pimpl(std::make_unique<implementation>(main_window)) {
     QWidget::hide();
-    connect(pimpl->stop, &QPushButton::clicked, this, &show_revise::stop_revision);
-    connect(this, &show_revise::set_maximum_for_progress, pimpl->progress, &QProgressBar::setMaximum);
-    connect(this, &show_revise::set_value_for_progress, pimpl->progress, &QProgressBar::setValue);
-    connect(this, &show_revise::set_text, pimpl->text, &QLabel::setText);
-    connect(this, &show_revise::revision_is_finished, pimpl->dialog, &QWidget::hide);
-    // A dialog closed by its window's button or Escape stops the run as Stop does.
-    connect(pimpl->dialog, &QDialog::rejected, this, &show_revise::stop_revision);
+    GUI::progress_dialog* const D = pimpl->dialog;
+    connect(D, &GUI::progress_dialog::stop_requested, this, &show_revise::stop_revision);
+    connect(this, &show_revise::set_maximum_for_progress, D, &GUI::progress_dialog::set_maximum);
+    connect(this, &show_revise::set_value_for_progress, D, &GUI::progress_dialog::set_value);
+    connect(this, &show_revise::set_text, D, &GUI::progress_dialog::set_status);
+    connect(this, &show_revise::revision_is_finished, D, &QWidget::hide);
 }
 
 show_revise::~show_revise() = default;
@@ -155,14 +94,11 @@ void show_revise::view(bool force_it, bool force_all) {
     task.extensions = extensions.toStdString();
     emit obtain_raw_paths_to_revising_files(task.paths);
 
-    pimpl->text->clear();
-    pimpl->progress->reset();
-    pimpl->progress->setMaximum(0);
-    pimpl->dialog->show();
+    pimpl->dialog->start();
     emit revision_begin();
     // A run still under way from before keeps its own link, now cut from the window.
     pimpl->forget_the_run();
-    auto const link = std::make_shared<run_link>(this);
+    auto const link = std::make_shared<worker_link<show_revise>>(this);
     pimpl->link = link;
     kernel().start_revise(
         task, [link](int maximum) { link->reach([&](show_revise& to) { to.maximum_for_progress(maximum); }); },

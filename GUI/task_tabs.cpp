@@ -162,15 +162,20 @@ void task_tabs::tab_was_renamed(QString const& old_name) {
     old_info.remove();
 }
 
-// The press that may switch tabs: the save happens when the switch does (another_tab_clicked_finally),
-// so that a press on the current tab changes nothing.
-void task_tabs::another_tab_clicked() {}
+// A left-button press on the bar, before the bar handles it: the task still shown is saved under
+// its own tab's name, whether or not the press goes on to switch tabs.
+void task_tabs::another_tab_clicked() {
+    if (!pimpl->shown_tab.isEmpty())
+        pimpl->save_the_shown_task_as(pimpl->shown_tab);
+}
 
+// The bar's current tab changed: the task of the tab entered is loaded. A switch by the mouse was
+// saved by the press; one by the keyboard is saved here, still under the name of the tab left.
 void task_tabs::another_tab_clicked_finally() {
     QString const entered = pimpl->bar->tabText(pimpl->bar->currentIndex());
     if (entered == pimpl->shown_tab)
         return;
-    if (!pimpl->shown_tab.isEmpty())
+    if (!pimpl->shown_tab.isEmpty() && !pimpl->bar->a_press_is_being_handled())
         pimpl->save_the_shown_task_as(pimpl->shown_tab);
     pimpl->load_the_task_of(entered);
 }

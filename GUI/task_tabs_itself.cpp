@@ -9,7 +9,9 @@
 
 namespace GUI {
 
+// A frameless window of its own, placed over the tab while a name is typed; the bar owns it.
 tab_renamer::tab_renamer(QWidget* parent) : QLineEdit(parent) {
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
     setObjectName("tab_renamer");
     setAccessibleName(QObject::tr("New name of the task"));
     hide();
@@ -17,10 +19,17 @@ tab_renamer::tab_renamer(QWidget* parent) : QLineEdit(parent) {
 
 void tab_renamer::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape) {
-        hide();
+        put_away();
         return;
     }
     QLineEdit::keyPressEvent(event);
+}
+
+// Hidden, with the keyboard back to the window of the bar.
+void tab_renamer::put_away() {
+    hide();
+    if (parentWidget() != nullptr)
+        parentWidget()->activateWindow();
 }
 
 void tab_renamer::focusOutEvent(QFocusEvent* event) {
@@ -52,9 +61,11 @@ void task_tabs_itself::rename_current_tab() {
     QRect const tab = tabRect(currentIndex());
     the_renamer->setText(tabText(currentIndex()));
     the_renamer->setMinimumSize(tab.size());
-    the_renamer->setGeometry(tab);
+    the_renamer->resize(tab.size());
+    the_renamer->move(mapToGlobal(tab.topLeft()));
     the_renamer->show();
     the_renamer->raise();
+    the_renamer->activateWindow();
     the_renamer->setFocus();
     the_renamer->selectAll();
 }
@@ -72,7 +83,7 @@ void task_tabs_itself::renaming_finished_by_ENTER() {
     QString const old_name = tabText(currentIndex());
     QPoint const below = the_renamer->mapToGlobal(QPoint(0, the_renamer->height()));
     if (new_name == old_name) {
-        the_renamer->hide();
+        the_renamer->put_away();
         return;
     }
     if (new_name.isEmpty()) {
@@ -84,14 +95,19 @@ void task_tabs_itself::renaming_finished_by_ENTER() {
         return;
     }
     setTabText(currentIndex(), new_name);
-    the_renamer->hide();
+    the_renamer->put_away();
     emit tab_was_renamed(old_name);
 }
 
 void task_tabs_itself::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton)
-        emit another_tab_clicked();
+    if (event->button() != Qt::LeftButton) {
+        QTabBar::mousePressEvent(event);
+        return;
+    }
+    emit another_tab_clicked();
+    handling_a_press = true;
     QTabBar::mousePressEvent(event);
+    handling_a_press = false;
 }
 
 void task_tabs_itself::mouseDoubleClickEvent(QMouseEvent* event) {

@@ -1,6 +1,7 @@
 // The bar of task tabs and its in-place renamer: a press on the bar first asks for the shown task
-// to be saved, the wheel does not switch tabs, a double click or "Rename" opens the renamer over
-// the tab, which takes only names a style could have and none that another tab has.
+// to be saved, the wheel does not switch tabs, a double click or "Rename" opens the renamer (a
+// frameless window of its own) over the tab, which takes only names a style could have and none
+// that another tab has.
 #ifndef STYLE_TARNEL_GUI_TASK_TABS_ITSELF_H
 #define STYLE_TARNEL_GUI_TASK_TABS_ITSELF_H
 
@@ -13,6 +14,7 @@ class tab_renamer : public QLineEdit {
     Q_OBJECT
 public:
     explicit tab_renamer(QWidget* parent);
+    void put_away();
 
 protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -27,6 +29,9 @@ public:
     bool this_is_unique(QString const& name) const;
     bool this_is_not_unique(QString const& name) const { return !this_is_unique(name); }
     tab_renamer* renamer() const { return the_renamer; }
+    // True while the bar handles a left-button press, after another_tab_clicked() was emitted for
+    // it: a change of the current tab then comes from that press.
+    bool a_press_is_being_handled() const { return handling_a_press; }
 
 signals:
     void another_tab_clicked();
@@ -44,6 +49,7 @@ protected:
 
 private:
     tab_renamer* the_renamer;
+    bool handling_a_press = false;
 };
 
 }  // namespace GUI

@@ -1,6 +1,7 @@
 #include "GUI/view_n_edit_language_structure.h"
 
 #include "GUI/app_menu_actions.h"
+#include "GUI/critical_alert.h"
 #include "GUI/editor_highlighter.h"
 #include "GUI/look_n_feel_editor.h"
 #include "GUI/messages.h"
@@ -101,8 +102,6 @@ public:
     QPlainTextEdit* revised;
     QTimer* check_later;
     QString language, style, structure;
-    // The shown structure's expression, read when the form is shown: a key release only matches.
-    std::string expression;
     bool structure_is_known = false;
     QString last_valid_form;
     int cursor_position = 0;
@@ -155,7 +154,6 @@ void view_n_edit_language_structure::show() {
         disable_with_cleanup();
         return;
     }
-    p.expression = found->second;
     p.highlighter->learn_words();
     QString const form = QString::fromStdString(k.language_structure_form_based_on(
         p.language.toStdString(), p.style.toStdString(), p.structure.toStdString()));
@@ -174,26 +172,51 @@ void view_n_edit_language_structure::disable_with_cleanup() {
     disable();
 }
 
+// Every key release: the structure's expression is asked for again (the plugin's description
+// comes from the cache, no plugin is loaded), the whole text matched against it, and a matching
+// text that differs from the last one written into the style.
 void view_n_edit_language_structure::form_was_changed() {
     implementation& p = *pimpl;
     if (!p.structure_is_known)
         return;
+    QString language, style, structure;
+    emit obtain_programming_language(language);
+    emit obtain_formatting_style(style);
+    emit obtain_language_structure(structure);
+    std::map<std::string, std::string> const structures = kernel().info_about_structures_of(language.toStdString());
+    auto const found = structures.find(structure.toStdString());
+    if (found == structures.end())
+        return;
     QString const form = p.editor->toPlainText();
-    if (form == p.last_valid_form)
-        return;  // A key that moved the cursor only: nothing to check or write.
-    if (style_tarnel::match_in_full(p.expression).of(form.toStdString())) {
+    if (style_tarnel::match_in_full(found->second).of(form.toStdString())) {
+        if (form == p.last_valid_form)
+            return;  // A key that moved the cursor only: nothing to write.
+        if (!kernel().update_language_structure_form(language.toStdString(), style.toStdString(),
+                                                     structure.toStdString(), form.toStdString())) {
+            put_back_the_form_saved_last();
+            QString const addon = QString::fromStdString(
+                kernel().full_path_to_style_addon_by(style.toStdString(), language.toStdString()));
+            show_critical_alert(tr(text::form_not_saved),
+                                tr(text::please_make_sure_this_file) + addon + tr(text::exists_and_you_can_write_in_it),
+                                this);
+            return;
+        }
         p.last_valid_form = form;
-        kernel().update_language_structure_form(p.language.toStdString(), p.style.toStdString(),
-                                                p.structure.toStdString(), form.toStdString());
         p.check_later->start();
         return;
     }
+    put_back_the_form_saved_last();
+    QToolTip::showText(p.editor->mapToGlobal(p.editor->cursorRect().bottomRight()), tr(text::not_supported),
+                       p.editor);
+}
+
+// The form as the style holds it, with the cursor where the last key press or click left it.
+void view_n_edit_language_structure::put_back_the_form_saved_last() {
+    implementation& p = *pimpl;
     p.editor->setPlainText(p.last_valid_form);
     QTextCursor cursor = p.editor->textCursor();
     cursor.setPosition(std::min(p.cursor_position, p.last_valid_form.size()));
     p.editor->setTextCursor(cursor);
-    QToolTip::showText(p.editor->mapToGlobal(p.editor->cursorRect().bottomRight()), tr(text::not_supported),
-                       p.editor);
 }
 
 void view_n_edit_language_structure::check_how_the_form_comes_back() {

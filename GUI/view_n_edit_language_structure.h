@@ -50,6 +50,8 @@ public slots:
     void form_came_back(QString const& form, boost::optional<std::string> const& revised);
 
 private:
+    void put_back_the_form_saved_last();
+
     class implementation;
     std::unique_ptr<implementation> pimpl;
 };

@@ -199,7 +199,7 @@ void test_main_window::actions_follow_the_languages_and_styles() {
     QStringList const all{"language_menu_import", "language_menu_delete", "style_menu_import", "style_menu_export",
                           "style_menu_delete", "style_menu_rename", "lnf_menu_about_this_structure",
                           "lnf_menu_select_all", "lnf_menu_increase_font", "lnf_menu_decrease_font",
-                          "lnf_menu_non_print"};
+                          "lnf_menu_non_print", "style_menu_learn"};
     QCOMPARE(enabled_actions(all), enabled);
 }
 

@@ -1,8 +1,10 @@
 // The window doing the whole job on the test languages in a bundle of its own: paths and
 // extensions, revisions with their progress, Stop and report, the form editor, and task tabs.
+#include "GUI/learn_from_code.h"
 #include "GUI/list_of_paths.h"
 #include "GUI/look_n_feel_editor.h"
 #include "GUI/main_window.h"
+#include "GUI/new_style_name.h"
 #include "GUI/show_revise.h"
 #include "GUI/task_tabs.h"
 #include "GUI/task_tabs_itself.h"
@@ -14,12 +16,14 @@
 #include "tests/harness/test_main.h"
 #include "helpers/window_test_helpers.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QDir>
 #include <QFile>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QProcess>
@@ -128,6 +132,7 @@ private slots:
     void takes_each_existing_path_once();
     void takes_only_paths_it_revises_by_dropping_data();
     void takes_only_paths_it_revises_by_dropping();
+    void files_leave_when_their_extension_does_data();
     void files_leave_when_their_extension_does();
     void refuses_bad_extensions_data();
     void refuses_bad_extensions();
@@ -143,10 +148,13 @@ private slots:
     void structure_manual_addresses();
     void keeps_the_font_size_within_bounds_data();
     void keeps_the_font_size_within_bounds();
+    void tabs_keep_their_tasks_over_a_restart_data();
     void tabs_keep_their_tasks_over_a_restart();
     void refuses_bad_tab_names_data();
     void refuses_bad_tab_names();
     void closing_a_tab_forgets_its_records();
+    void learns_a_style_from_the_task_data();
+    void learns_a_style_from_the_task();
 };
 
 void test_window_tasks::init() {
@@ -215,19 +223,33 @@ void test_window_tasks::takes_only_paths_it_revises_by_dropping() {
     QCOMPARE(listed(), QStringList({dropped}));
 }
 
-// Faults: a file whose extension was taken away still revised; a directory dropped with it.
+void test_window_tasks::files_leave_when_their_extension_does_data() {
+    QTest::addColumn<QString>("style");  // chosen afterwards, if any
+    QTest::addColumn<QString>("extensions");
+    QTest::newRow("extension deleted by the user") << "" << "tst";
+    QTest::newRow("another style of the same language afterwards") << "Wide" << "tst test";
+}
+
+// Faults: a file whose extension was taken away still revised; a directory dropped with it; the
+// extensions the user typed for one style left in place when another style is chosen, instead of
+// the language's own.
 void test_window_tasks::files_leave_when_their_extension_does() {
+    QFETCH(QString, style);
+    QFETCH(QString, extensions);
     write_tree_in(path("tree"));
     write(path("c.test"), "begin SOME end\n");
     open_window();
     choose_test_language();
-    QCOMPARE(extensions()->text(), QString("tst test"));
+    QCOMPARE(this->extensions()->text(), QString("tst test"));
     add({"tree", "tree/a.tst", "c.test"});
-    extensions()->setFocus();
-    extensions()->end(false);
+    this->extensions()->setFocus();
+    this->extensions()->end(false);
     for (int i = 0; i < 5; ++i)
-        QTest::keyClick(extensions(), Qt::Key_Backspace);
-    QCOMPARE(extensions()->text(), QString("tst"));
+        QTest::keyClick(this->extensions(), Qt::Key_Backspace);
+    QCOMPARE(this->extensions()->text(), QString("tst"));
+    if (!style.isEmpty())
+        emit window->findChild<GUI::task_tabs*>()->set_this_formatting_style(style);
+    QCOMPARE(this->extensions()->text(), extensions);
     QCOMPARE(listed(), QStringList({"tree", "tree/a.tst"}));
 }
 
@@ -341,25 +363,35 @@ void test_window_tasks::saves_a_matching_form_and_reverts_another_data() {
     QTest::addColumn<QByteArray>("form");  // in the addon afterwards
     QTest::addColumn<QString>("tooltip");
     QTest::addColumn<QString>("comes_back");
+    // The form's section taken out of the style's file behind the window's back, before the key.
+    QTest::addColumn<bool>("section_gone");
     QTest::newRow("space added") << 5 << " " << QByteArray("begin  SOME end") << ""
-                                 << "A revision writes this form so:";
+                                 << "A revision writes this form so:" << false;
     QTest::newRow("line break added") << 5 << "\n" << QByteArray("begin\n SOME end") << ""
-                                      << "A revision keeps this form as written.";
+                                      << "A revision keeps this form as written." << false;
     QTest::newRow("letter that breaks the structure") << 0 << "x" << QByteArray("begin SOME end")
-                                                      << "Not supported" << "A revision keeps this form as written.";
+                                                      << "Not supported" << "A revision keeps this form as written."
+                                                      << false;
+    QTest::newRow("space added, section gone from the file") << 5 << " " << QByteArray("begin SOME end") << "" << ""
+                                                             << true;
 }
 
 // Faults: an edit the plugin cannot read written into the style, a valid one not written, or the
-// line under the editor telling the user a form comes back as written when it does not.
+// line under the editor telling the user a form comes back as written when it does not; an edit
+// that could not be written left in the editor as if saved, without a word to the user.
 void test_window_tasks::saves_a_matching_form_and_reverts_another() {
     QFETCH(int, at);
     QFETCH(QString, key);
     QFETCH(QByteArray, form);
     QFETCH(QString, tooltip);
     QFETCH(QString, comes_back);
+    QFETCH(bool, section_gone);
     open_window();
     choose_test_language();
     QTRY_COMPARE(editor()->toPlainText(), QString("begin SOME end"));
+    QByteArray const without_the_section = "NAME=Plain\nLANGUAGE=Test\n\n";
+    if (section_gone)
+        write(plain_addon(), without_the_section);
     editor()->setFocus();
     QTextCursor cursor = editor()->textCursor();
     cursor.setPosition(at);
@@ -370,8 +402,15 @@ void test_window_tasks::saves_a_matching_form_and_reverts_another() {
         QTest::keyClicks(editor(), key);
     if (!tooltip.isEmpty())
         QTRY_COMPARE(QToolTip::text(), tooltip);
-    QCOMPARE(temporary_bundle::contents_of(plain_addon()), addon_text("Plain", "Test", form));
     QCOMPARE(editor()->toPlainText(), QString::fromUtf8(form));
+    if (section_gone) {
+        QMessageBox* alert = nullptr;
+        QTRY_VERIFY((alert = window->findChild<QMessageBox*>("critical_alert")) != nullptr);
+        QCOMPARE(alert->text(), QString("The edited form could not be saved into the style"));
+        QCOMPARE(temporary_bundle::contents_of(plain_addon()), without_the_section);
+        return;
+    }
+    QCOMPARE(temporary_bundle::contents_of(plain_addon()), addon_text("Plain", "Test", form));
     QTRY_COMPARE(window->findChild<QLabel*>("comes_back")->text(), comes_back);
     auto* revised = window->findChild<QPlainTextEdit*>("revised_form");
     QCOMPARE(revised->isVisible(), comes_back.contains("so:"));
@@ -460,9 +499,24 @@ void test_window_tasks::keeps_the_font_size_within_bounds() {
         QVERIFY(!action(disabled.toLatin1().constData())->isEnabled());
 }
 
-// Faults: a tab's task lost when the user leaves it or restarts, the tabs or the current tab not
-// restored, a new tab taking a name that is there.
+void test_window_tasks::tabs_keep_their_tasks_over_a_restart_data() {
+    QTest::addColumn<QString>("by");
+    QTest::newRow("switched with the mouse") << "mouse";
+    QTest::newRow("switched with the keyboard") << "keyboard";
+}
+
+// Faults: a tab's task lost when the user leaves it (by a click or by the keyboard) or restarts,
+// or saved under the name of the tab entered; the tabs or the current tab not restored; a new tab
+// taking a name that is there.
 void test_window_tasks::tabs_keep_their_tasks_over_a_restart() {
+    QFETCH(QString, by);
+    auto enter_tab = [&](int index) {
+        if (by == "mouse")
+            QTest::mouseClick(tab_bar(), Qt::LeftButton, Qt::NoModifier, tab_bar()->tabRect(index).center());
+        else
+            QTest::keyClick(tab_bar(), index > tab_bar()->currentIndex() ? Qt::Key_Right : Qt::Key_Left);
+        QCOMPARE(tab_bar()->currentIndex(), index);
+    };
     write_tree_in(path("tree"));
     open_window();
     QVERIFY(!tab_bar()->isVisible());
@@ -473,13 +527,13 @@ void test_window_tasks::tabs_keep_their_tasks_over_a_restart() {
     QCOMPARE(tab_bar()->count(), 2);
     QCOMPARE(tab_bar()->tabText(1), QString("Task 2"));
     QVERIFY(tab_bar()->isVisible());
-    tab_bar()->setCurrentIndex(1);
+    enter_tab(1);
     QCOMPARE(listed(), QStringList());
     emit window->findChild<GUI::task_tabs*>()->set_this_programming_language("Other");
     add({"tree"});
-    tab_bar()->setCurrentIndex(0);
+    enter_tab(0);
     QCOMPARE(listed(), QStringList({"tree/a.tst"}));
-    tab_bar()->setCurrentIndex(1);
+    enter_tab(1);
     QCOMPARE(listed(), QStringList({"tree"}));
     window->close();
     window.reset();
@@ -489,7 +543,7 @@ void test_window_tasks::tabs_keep_their_tasks_over_a_restart() {
     QCOMPARE(tab_bar()->currentIndex(), 1);
     QCOMPARE(listed(), QStringList({"tree"}));
     QCOMPARE(window->findChild<QListWidget*>("languages")->currentItem()->text(), QString("Other"));
-    tab_bar()->setCurrentIndex(0);
+    enter_tab(0);
     QCOMPARE(listed(), QStringList({"tree/a.tst"}));
     QCOMPARE(extensions()->text(), QString("tst test"));
 }
@@ -560,6 +614,101 @@ void test_window_tasks::closing_a_tab_forgets_its_records() {
     add({"tree"});
     QCOMPARE(report_of_a_run([&] { action("revise_menu_all")->trigger(); }),
              QString("2 files was found, 2 files was revised, no files was changed."));
+}
+
+void test_window_tasks::learns_a_style_from_the_task_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<int>("copies");      // of the C++ examples in the task's directory
+    QTest::addColumn<bool>("stop");       // Stop pressed as soon as the learning starts
+    QTest::addColumn<QString>("message");  // "": the style is learned and selected
+    QTest::addColumn<bool>("refused");    // the name dialog stays, with the message
+    QTest::newRow("learned") << "House" << 1 << false << "" << false;
+    QTest::newRow("stopped") << "House" << 40 << true
+                             << "Learning was interrupted by user, no style was installed." << false;
+    QTest::newRow("no files of the extensions") << "House" << 0 << false
+                                                << "No files was found, no style was learned." << false;
+    QTest::newRow("name of a style that exists") << "GNU" << 1 << false
+                                                 << "Invalid name of style 'GNU', such style already exists." << true;
+    QTest::newRow("name not in English") << QString::fromUtf8("Haus\u00e9") << 1 << false
+                                         << QString::fromUtf8("Invalid name of style 'Haus\u00e9', it must be in English.")
+                                         << true;
+    QTest::newRow("empty name") << "" << 1 << false << "Invalid name of style '', name cannot be empty." << true;
+}
+
+// Faults: a learned style left unselected or not installed; a stopped learning, or one under a
+// refused name, installing a style all the same; an end without a style that says nothing; a
+// control of the name or progress dialog that a screen reader announces without a name.
+void test_window_tasks::learns_a_style_from_the_task() {
+    QFETCH(QString, name);
+    QFETCH(int, copies);
+    QFETCH(bool, stop);
+    QFETCH(QString, message);
+    QFETCH(bool, refused);
+    QString const shipped = built::build_dir() + "/PlugIns";
+    QVERIFY(QFile::copy(shipped + "/languages/libcpp-language-plugin.so",
+                        path_to().plugins_directory() + "/libcpp-language-plugin.so"));
+    QVERIFY(QFile::copy(shipped + "/styles/GNU[C++].style", path_to().addons_directory() + "/GNU[C++].style"));
+    QDir const examples(built::source_dir() + "/examples/cpp");
+    for (int copy = 0; copy < copies; ++copy)
+        for (QString const& file : examples.entryList(QDir::Files, QDir::Name)) {
+            QFile source(examples.filePath(file));
+            QVERIFY(source.open(QIODevice::ReadOnly));
+            write(path(QString("proj/%1/%2").arg(copy).arg(file)), source.readAll());
+        }
+    write(path("proj/notes.txt"), "no code\n");
+    open_window();
+    auto* tabs = window->findChild<GUI::task_tabs*>();
+    emit tabs->set_this_programming_language("C++");
+    emit tabs->set_this_formatting_style("GNU");
+    QVERIFY(!action("style_menu_learn")->isEnabled());
+    add({"proj"});
+    QVERIFY(action("style_menu_learn")->isEnabled());
+
+    auto installed_addons = [] {
+        QStringList names = QDir(path_to().addons_directory()).entryList(QDir::Files);
+        names.sort();
+        return names;
+    };
+    QStringList const addons_before = installed_addons();
+    auto* learner = window->findChild<GUI::learn_from_code*>();
+    QSignalSpy finished(learner, &GUI::learn_from_code::learning_is_finished);
+    action("style_menu_learn")->trigger();
+    GUI::new_style_name* dialog = learner->name_dialog();
+    QVERIFY(dialog->isVisible());
+    auto every_control_is_named = [](QWidget* window) {
+        for (QWidget* widget : window->findChildren<QWidget*>())
+            if (widget->isVisible() && widget->focusPolicy() != Qt::NoFocus)
+                QVERIFY2(!QAccessible::queryAccessibleInterface(widget)->text(QAccessible::Name).isEmpty(),
+                         qPrintable(widget->metaObject()->className() + (" " + widget->objectName())));
+    };
+    every_control_is_named(dialog);
+    dialog->field()->setText(name);
+    QTest::keyClick(dialog->field(), Qt::Key_Return);
+    if (stop) {
+        QVERIFY(learner->progress_dialog()->isVisible());
+        every_control_is_named(learner->progress_dialog());
+        QTest::mouseClick(learner->progress_dialog()->findChild<QPushButton*>("stop"), Qt::LeftButton);
+    }
+    QString const addon = path_to().addons_directory() + "/" + name + "[C++].style";
+    if (refused) {
+        QVERIFY(dialog->isVisible());
+        QCOMPARE(dialog->findChild<QLabel*>("refusal")->text(), message);
+        QVERIFY(!learner->progress_dialog()->isVisible());
+        QCOMPARE(installed_addons(), addons_before);
+        return;
+    }
+    QVERIFY(!dialog->isVisible());
+    QVERIFY(finished.wait(240000));
+    QCOMPARE(finished.first().at(0).toString(), message);
+    QVERIFY(!learner->progress_dialog()->isVisible());
+    QStringList installed = addons_before;
+    if (message.isEmpty())
+        installed << QFileInfo(addon).fileName();
+    installed.sort();
+    QCOMPARE(installed_addons(), installed);
+    QCOMPARE(window->findChild<QListWidget*>("styles")->currentItem()->text(), message.isEmpty() ? name : QString("GNU"));
+    if (!message.isEmpty())
+        QCOMPARE(window->findChild<QMessageBox*>("critical_alert")->text(), message);
 }
 
 STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(test_window_tasks)

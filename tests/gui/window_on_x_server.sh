@@ -3,7 +3,8 @@
 # language and a style, import an addon through the dialog, rename it in place and delete it,
 # checking the bundle's styles directory after each step; then add the examples directory, revise
 # it, read the report, edit one form of a copied style and revise again, checking the files and the
-# report against the command line's on a copy of the same tree. Runs on a copy of the bundle with
+# report against the command line's on a copy of the same tree; open a second task tab and rename
+# the first in place; learn a style from the examples. Runs on a copy of the bundle with
 # its own settings, and stops its Xvfb whatever happens.
 #   window_on_x_server.sh <build directory> <clipboard_text helper> <examples directory>
 set -euo pipefail
@@ -151,4 +152,27 @@ shot form-edited
 grep -qxF 'type name[] = {SOME, SOME, SOME};' "$styles/Copied[C++].style" ||
   fail "the edited form is not in the copied style: $(grep -F 'type name[]' "$styles/Copied[C++].style")"
 revise_and_compare Copied
+
+# A second task tab, each tab entered with a click (which saves the task left), then the first
+# renamed in place: its task is kept under the new name.
+xdotool mousemove $language_x $row_y click 1; pause
+xdotool key ctrl+t; pause
+tab_y=42; first_tab_x=40; second_tab_x=120
+xdotool mousemove $second_tab_x $tab_y click 1; pause
+xdotool mousemove $first_tab_x $tab_y click 1; pause
+xdotool key alt+t; pause 0.4; xdotool key Down Down Return; pause
+shot tab-renamer
+xdotool key ctrl+a; xdotool type --delay 20 "Backend"; xdotool key Return; pause 1
+shot tab-renamed
+grep -q '^Backend__last=' "$XDG_CONFIG_HOME/Style Tarnel/Style Tarnel.conf" ||
+  fail "the renamed tab's task is not under its new name: $(grep -F '__last' "$XDG_CONFIG_HOME/Style Tarnel/Style Tarnel.conf")"
+
+# A style learned from the task's examples, named in the window's dialog.
+style_menu 5
+timeout 30 xdotool search --sync --onlyvisible --name "^Learn a style from your code$" >/dev/null ||
+  fail "no dialog asks for the new style's name"
+xdotool type --delay 20 "Learned"; shot learn-name; xdotool key Return
+for _ in $(seq $((300 * ${STYLE_TARNEL_SLOWER:-1}))); do [ -f "$styles/Learned[C++].style" ] && break; sleep 0.2; done
+expect_file "Learned[C++].style" "the learned style is not in the styles directory"
+pause 1; shot learned
 echo "PASS"

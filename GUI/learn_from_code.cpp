@@ -1,0 +1,175 @@
+#include "GUI/learn_from_code.h"
+
+#include "GUI/critical_alert.h"
+#include "GUI/menu_actions.h"
+#include "GUI/messages.h"
+#include "GUI/new_style_name.h"
+#include "GUI/progress_dialog.h"
+#include "GUI/top_window.h"
+#include "GUI/worker_link.h"
+#include "core/kernel.h"
+#include "core/style_addon.h"
+
+#include <QAction>
+
+#include <thread>
+
+namespace GUI {
+
+namespace {
+
+// The refusals of a name, in the command line's words.
+QString refusal_of_a_bad(QString const& name) {
+    return name.isEmpty() ? QObject::tr(text::style_name_cannot_be_empty)
+                          : QObject::tr(text::style_name_prefix) + name + QObject::tr(text::style_name_must_be_in_English);
+}
+
+QString refusal_of_a_taken(QString const& name) {
+    return QObject::tr(text::style_name_prefix) + name + QObject::tr(text::style_name_is_taken);
+}
+
+}  // namespace
+
+class learn_from_code::implementation {
+public:
+    implementation(learn_from_code* owner, QWidget* main_window, style_menu_learn* learn)
+        : main_window(main_window), learn(learn),
+          names(new new_style_name(main_window, [owner](QString const& name) { return owner->refusal_of(name); })),
+          dialog(new GUI::progress_dialog(main_window, QObject::tr(text::learning))) {
+        dialog->setObjectName("learning_dialog");
+    }
+
+    // The worker is asked to stop and waited for: it reads the stop flag while the plugin learns.
+    ~implementation() {
+        if (link)
+            link->cut();
+        if (worker.joinable())
+            worker.join();
+    }
+
+    QWidget* main_window;
+    style_menu_learn* learn;
+    new_style_name* names;
+    GUI::progress_dialog* dialog;
+    std::shared_ptr<worker_link<learn_from_code>> link;
+    std::thread worker;
+};
+
+learn_from_code::learn_from_code(QWidget* parent, QWidget* main_window, style_menu_learn* learn)
+    : QWidget(parent), pimpl(std::make_unique<implementation>(this, main_window, learn)) {
+    QWidget::hide();
+    connect(learn->widget_ptr(), &QAction::triggered, this, &learn_from_code::ask_for_a_name);
+    connect(pimpl->names, &new_style_name::name_was_given, this, &learn_from_code::learn_as);
+    connect(pimpl->dialog, &GUI::progress_dialog::stop_requested, this, &learn_from_code::stop_learning);
+}
+
+learn_from_code::~learn_from_code() = default;
+
+new_style_name* learn_from_code::name_dialog() const { return pimpl->names; }
+
+QWidget* learn_from_code::progress_dialog() const { return pimpl->dialog; }
+
+void learn_from_code::there_are_paths() { pimpl->learn->enable(); }
+
+void learn_from_code::no_paths_anymore() { pimpl->learn->disable(); }
+
+QString learn_from_code::refusal_of(QString const& name) {
+    if (name.isEmpty() || !this_is_a_style_name(name.toStdString()))
+        return refusal_of_a_bad(name);
+    QString language;
+    emit obtain_programming_language(language);
+    auto const styles = kernel().supported_formatting_styles_for(language.toStdString());
+    if (styles)
+        for (style_description const& style : *styles)
+            if (QString::fromStdString(style.style) == name)
+                return refusal_of_a_taken(name);
+    return QString();
+}
+
+void learn_from_code::ask_for_a_name() { pimpl->names->ask(); }
+
+void learn_from_code::learn_as(QString const& name) {
+    if (pimpl->worker.joinable() || !refusal_of(name).isEmpty())
+        return;
+    QString language, extensions;
+    emit obtain_programming_language(language);
+    emit obtain_filename_extensions(extensions);
+    revision_task task;
+    task.language = language.toStdString();
+    task.style = name.toStdString();
+    task.extensions = extensions.toStdString();
+    emit obtain_raw_paths_to_revising_files(task.paths);
+
+    pimpl->dialog->start();
+    pimpl->dialog->set_maximum(100);
+    auto const link = std::make_shared<worker_link<learn_from_code>>(this);
+    pimpl->link = link;
+    pimpl->worker = std::thread([link, task, name, language] {
+        style_learning_outcome const outcome = kernel().learn_style(
+            task,
+            [&link](unsigned long done, unsigned long whole) {
+                int const percent = whole == 0 ? 0 : static_cast<int>(100ULL * std::min(done, whole) / whole);
+                link->reach([percent](learn_from_code& to) {
+                    QMetaObject::invokeMethod(&to, [&to, percent] { to.pimpl->dialog->set_value(percent); },
+                                              Qt::QueuedConnection);
+                });
+            },
+            link->stop);
+        link->reach([&](learn_from_code& to) {
+            QMetaObject::invokeMethod(
+                &to, [&to, name, language, outcome] { to.learning_ended(name, language, outcome); },
+                Qt::QueuedConnection);
+        });
+    });
+}
+
+void learn_from_code::stop_learning() {
+    pimpl->dialog->hide();
+    show_main_window_as_top_window(pimpl->main_window);
+    if (pimpl->link)
+        pimpl->link->stop = true;
+}
+
+// On the GUI thread, once the worker has nothing more to do.
+void learn_from_code::learning_ended(QString const& style, QString const& language,
+                                     style_learning_outcome const& outcome) {
+    pimpl->worker.join();
+    pimpl->link.reset();
+    pimpl->dialog->hide();
+    using end = style_learning_outcome::end;
+    QString message;
+    switch (outcome.how) {
+    case end::learned:
+        emit style_was_learned(style);
+        emit learning_is_finished(QString());
+        return;
+    case end::no_such_language:
+        message = tr(text::there_is_no_language) + language + tr(text::quote_and_dot);
+        break;
+    case end::language_cannot_learn:
+        message = tr(text::language_prefix) + language + tr(text::cannot_learn_styles);
+        break;
+    case end::bad_style_name:
+        message = refusal_of_a_bad(style);
+        break;
+    case end::style_exists:
+        message = refusal_of_a_taken(style);
+        break;
+    case end::no_files:
+        message = tr(text::no_files_to_learn_from);
+        break;
+    case end::nothing_learned:
+        message = tr(text::nothing_learned) + language + tr(text::quote_and_dot);
+        break;
+    case end::stopped:
+        message = tr(text::learning_interrupted);
+        break;
+    case end::not_installed:
+        message = tr(text::cannot_install_style) + style + tr(text::addons_directory_hint);
+        break;
+    }
+    show_critical_alert(message, QString(), pimpl->main_window);
+    emit learning_is_finished(message);
+}
+
+}  // namespace GUI
