@@ -2,6 +2,9 @@
 // comments, strings and macros; neighbouring cuts of one context make a piece.
 #include "code_sample.h"
 
+#include "bracket_balance.h"
+
+#include <algorithm>
 #include <cctype>
 #include <sstream>
 
@@ -96,11 +99,15 @@ std::vector<line_state> states_of(std::vector<std::string> const& lines) {
 std::string piece_of(std::vector<std::string> const& lines, std::vector<std::size_t> const& containers,
                      std::size_t begin, std::size_t end) {
     std::string piece;
+    // Each opening line once, however many containers it opens (`namespace a { namespace b {`),
+    // so that the piece's braces pair up.
+    std::size_t written_to = 0;
     for (std::size_t opener : containers) {
         // The head of a namespace whose brace stands on a line of its own comes with it.
-        if (trimmed(lines[opener]) == "{" && opener > 0)
-            piece += lines[opener - 1] + "\n";
-        piece += lines[opener] + "\n";
+        std::size_t from = trimmed(lines[opener]) == "{" && opener > 0 ? opener - 1 : opener;
+        for (from = std::max(from, written_to); from <= opener; ++from)
+            piece += lines[from] + "\n";
+        written_to = std::max(written_to, opener + 1);
     }
     for (std::size_t l = begin; l < end; ++l)
         piece += lines[l] + "\n";
@@ -152,7 +159,9 @@ std::vector<std::string> take_sample::of(std::vector<std::string> const& texts) 
                 continue;  // too short yet: the next segment joins it
             if (whole && length <= bounds.lines_of_a_file) {
                 std::string const piece = piece_of(lines, before, begin, l);
-                if (!blank(piece)) {
+                // A piece whose brackets do not pair up (a macro that opens a block, a brace in a
+                // conditional branch) can keep the engine busy for minutes under some styles.
+                if (!blank(piece) && brackets_are_balanced_in(piece)) {
                     pieces.push_back(piece);
                     of_this_file += length;
                     taken += length;

@@ -1,10 +1,12 @@
 // Learning a style through the plugins' learning interface: a small project written in a known
 // option set comes back as a style that leaves nearly all its lines as they are, with every form a
 // fixed point and the figures the plugin reports true; no sources, text of another language and a
-// stop give no style.
+// stop give no style; the sample's pieces are code the engine can format alone.
 #include "helpers/our_plugins.h"
 
+#include "bracket_balance.h"
 #include "c_language.h"
+#include "code_sample.h"
 #include "cpp_language.h"
 #include "form_conflicts.h"
 #include "revision.h"
@@ -119,6 +121,30 @@ private slots:
             });
         QVERIFY(learned.addon.empty());
         QVERIFY(!stopped || reports == 1);
+    }
+
+    // A piece whose braces do not pair up kept one engine call of the search busy for minutes (and
+    // a gigabyte) under Whitesmiths braces: the containers around a piece must be opened once each.
+    void sample_pieces_pair_their_brackets_data() {
+        QTest::addColumn<QString>("opening");
+        QTest::addColumn<QString>("closing");
+        QTest::newRow("three namespaces opened on one line")
+            << "namespace a { namespace b { namespace c {\n" << "}}}\n";
+        QTest::newRow("two namespaces, the second brace on a line of its own")
+            << "namespace a { namespace b\n{\n" << "}\n}\n";
+    }
+    void sample_pieces_pair_their_brackets() {
+        QFETCH(QString, opening);
+        QFETCH(QString, closing);
+        std::string file = opening.toStdString();
+        for (int record = 0; record < 40; ++record)
+            file += "\nstruct record_" + std::to_string(record) + " {\n    int field;\n    void run();\n};\n";
+        file += closing.toStdString();
+        QVERIFY(tarnel_engine::brackets_are_balanced_in(file));
+        std::vector<std::string> const pieces = tarnel_engine::take_sample().of({file});
+        QVERIFY(pieces.size() >= 2);
+        for (std::string const& piece : pieces)
+            QVERIFY2(tarnel_engine::brackets_are_balanced_in(piece), piece.c_str());
     }
 };
 
