@@ -3,6 +3,7 @@
 #include "code_sample.h"
 
 #include "bracket_balance.h"
+#include "conditional_passes.h"
 
 #include <algorithm>
 #include <cctype>
@@ -160,8 +161,10 @@ std::vector<std::string> take_sample::of(std::vector<std::string> const& texts) 
             if (whole && length <= bounds.lines_of_a_file) {
                 std::string const piece = piece_of(lines, before, begin, l);
                 // A piece whose brackets do not pair up (a macro that opens a block, a brace in a
-                // conditional branch) can keep the engine busy for minutes under some styles.
-                if (!blank(piece) && brackets_are_balanced_in(piece)) {
+                // conditional branch) can keep the engine busy for minutes under some styles, and
+                // one of many nested conditionals makes it read the piece hundreds of times.
+                if (!blank(piece) && brackets_are_balanced_in(piece) &&
+                    engine_reads_at_most_a_bounded_amount_of(piece)) {
                     pieces.push_back(piece);
                     of_this_file += length;
                     taken += length;

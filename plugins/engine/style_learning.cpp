@@ -4,6 +4,7 @@
 
 #include "bracket_balance.h"
 #include "code_sample.h"
+#include "conditional_passes.h"
 #include "form_conflicts.h"
 #include "option_inference.h"
 #include "revision.h"
@@ -278,7 +279,8 @@ learned_style learn_style_of::from(std::vector<std::string> const& sources, std:
         std::vector<std::string> texts;
         std::vector<std::size_t> used;
         for (std::size_t i = 0; i < sources.size(); ++i)
-            if (sources[i].find('\0') == std::string::npos && brackets_are_balanced_in(sources[i])) {
+            if (sources[i].find('\0') == std::string::npos && brackets_are_balanced_in(sources[i]) &&
+                engine_reads_at_most_a_bounded_amount_of(sources[i])) {
                 texts.push_back(sources[i]);
                 used.push_back(i);
             }

@@ -1,7 +1,8 @@
 // Learning a style through the plugins' learning interface: a small project written in a known
 // option set comes back as a style that leaves nearly all its lines as they are, with every form a
 // fixed point and the figures the plugin reports true; no sources, text of another language and a
-// stop give no style; the sample's pieces are code the engine can format alone.
+// stop give no style; the sample's pieces, and the sources counted, are code the engine can format
+// in bounded time.
 #include "helpers/our_plugins.h"
 
 #include "bracket_balance.h"
@@ -121,6 +122,37 @@ private slots:
             });
         QVERIFY(learned.addon.empty());
         QVERIFY(!stopped || reports == 1);
+    }
+
+    // Sources the engine cannot format in bounded time and memory are neither learned from nor
+    // counted, and the others still are: one Qt header of long #elif chains nested five deep made
+    // the engine read it thousands of times (37 s, 1 GB) in the count.
+    void learns_around_sources_it_keeps_out_data() {
+        QTest::addColumn<QString>("kept_out");
+        std::string conditionals;
+        for (int level = 0; level < 3; ++level) {
+            conditionals += "#if defined(LEVEL_" + std::to_string(level) + "_0)\n";
+            for (int branch = 1; branch < 16; ++branch)
+                conditionals += "#  define LEVEL_" + std::to_string(level) + " " + std::to_string(branch) +
+                                "\n#elif defined(LEVEL_" + std::to_string(level) + "_" + std::to_string(branch) + ")\n";
+        }
+        conditionals += "int deepest;\n";
+        for (int level = 0; level < 3; ++level)
+            conditionals += "#endif\n";
+        QTest::newRow("conditionals of 16 branches nested 3 deep") << QString::fromStdString(conditionals);
+        QTest::newRow("a brace left open") << "struct open {\n    int field;\n";
+    }
+    void learns_around_sources_it_keeps_out() {
+        QFETCH(QString, kept_out);
+        std::vector<std::string> project = sources_of("C++");
+        unsigned long lines = 0;
+        for (std::string const& source : project)
+            lines += static_cast<unsigned long>(tarnel_engine::lines_of(source).size());
+        project.insert(project.begin() + static_cast<long>(project.size() / 2), kept_out.toStdString());
+        loaded_plugin plugin(cpp_plugin_file());
+        learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
+        QVERIFY(!learned.addon.empty());
+        QCOMPARE(learned.lines, lines);
     }
 
     // A piece whose braces do not pair up kept one engine call of the search busy for minutes (and
