@@ -253,11 +253,14 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
     // A style that is a predefined one keeps all its rules, Google's "the file's majority decides
     // where * leans" included.
     std::vector<clang::format::FormatStyle> bases;
+    scored_style best_base;
     for (std::string const& name : names_of_predefined_styles()) {
         bases.push_back(token_safe_predefined_style(name));
-        scored_style const base = search.scored(bases.back());
+        scored_style base = search.scored(bases.back());
         if (base.total == 0)
             return base.style;
+        if (bases.size() == 1 || base.total < best_base.total)
+            best_base = std::move(base);
     }
 
     // Any other style shows where * and & lean in its forms (the readings say so), and those
@@ -276,7 +279,8 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         }
     std::stable_sort(starts.begin(), starts.end(), [](auto const& a, auto const& b) { return a.total < b.total; });
 
-    scored_style best = starts.front();
+    // A predefined style as it stands is a result too: the search never ends further from the forms.
+    scored_style best = best_base.total < starts.front().total ? best_base : starts.front();
     std::vector<clang::format::FormatStyle> descended;
     for (scored_style& start : starts) {
         if (best.total == 0 || descended.size() == beam_width || !search.within_budget())
