@@ -13,6 +13,9 @@ namespace tarnel_engine {
 
 namespace {
 
+// The passes the engine may make over the whole sample because of its conditionals.
+unsigned long const most_passes = 8;
+
 bool blank(std::string const& line) { return line.find_first_not_of(" \t\f\v") == std::string::npos; }
 
 std::string trimmed(std::string const& line) {
@@ -138,18 +141,31 @@ std::vector<std::string> take_sample::of(std::vector<std::string> const& texts) 
     if (texts.empty())
         return pieces;
     std::size_t const step = (texts.size() + bounds.files - 1) / bounds.files;
+    // Each file's share of the lines, so that the sample reaches the last file as well as the first
+    // (a few long files would otherwise fill it).
+    std::size_t const files = (texts.size() + step - 1) / step;
+    std::size_t const share = std::min(bounds.lines_of_a_file, std::max(bounds.lines_of_a_piece, bounds.lines / files));
     std::size_t taken = 0;
+    // The search formats all pieces in one engine call, which reads them all once per pass.
+    conditional_branches sampled;
     for (std::size_t f = 0; f < texts.size() && taken < bounds.lines; f += step) {
         std::vector<std::string> const lines = lines_of(texts[f]);
         std::vector<line_state> const states = states_of(lines);
         // Cuts: blank lines after which a cut is allowed; each run between two cuts is a segment.
+        // A long file's share is taken from its second third: past the licence, the includes and
+        // the declarations every file opens with, in the code that shows the most layout.
+        std::size_t const from = lines.size() > 3 * share ? lines.size() / 3 : 0;
         std::size_t begin = 0;
         std::size_t of_this_file = 0;
-        for (std::size_t l = 0; l <= lines.size() && of_this_file < bounds.lines_of_a_file; ++l) {
+        for (std::size_t l = 0; l <= lines.size() && of_this_file < share; ++l) {
             bool const cut = l == lines.size() || (blank(lines[l]) && l > 0 && states[l - 1].cut_allowed &&
                                                    states[l].containers == states[l - 1].containers);
             if (!cut)
                 continue;
+            if (l < from) {
+                begin = l;
+                continue;
+            }
             std::size_t const length = l - begin;
             if (length == 0)
                 continue;
@@ -162,9 +178,10 @@ std::vector<std::string> take_sample::of(std::vector<std::string> const& texts) 
                 std::string const piece = piece_of(lines, before, begin, l);
                 // A piece whose brackets do not pair up (a macro that opens a block, a brace in a
                 // conditional branch) can keep the engine busy for minutes under some styles, and
-                // one of many nested conditionals makes it read the piece hundreds of times.
-                if (!blank(piece) && brackets_are_balanced_in(piece) &&
-                    engine_reads_at_most_a_bounded_amount_of(piece)) {
+                // nested conditionals of many branches make it read the whole sample many times.
+                conditional_branches const with_piece = sampled.joined_with(conditional_branches_of(piece));
+                if (!blank(piece) && brackets_are_balanced_in(piece) && with_piece.passes() <= most_passes) {
+                    sampled = with_piece;
                     pieces.push_back(piece);
                     of_this_file += length;
                     taken += length;

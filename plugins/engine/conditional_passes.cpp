@@ -3,13 +3,12 @@
 
 #include <algorithm>
 #include <sstream>
-#include <vector>
 
 namespace tarnel_engine {
 
 namespace {
 
-unsigned long const most_lines_read = 100000;
+unsigned long const most_passes_counted = 1000001;
 
 // The directive's name after `#` and blanks, or nothing for a line that is no directive.
 std::string directive_of(std::string const& line) {
@@ -23,41 +22,47 @@ std::string directive_of(std::string const& line) {
     return line.substr(at, end == std::string::npos ? std::string::npos : end - at);
 }
 
-unsigned long passes_and_lines(std::string const& code, unsigned long& lines) {
-    std::vector<unsigned long> most_at_level;
+}  // namespace
+
+unsigned long conditional_branches::passes() const {
+    unsigned long passes = 1;
+    for (unsigned long most : most_at_level)
+        passes = std::min(passes * most, most_passes_counted);
+    return passes;
+}
+
+conditional_branches conditional_branches::joined_with(conditional_branches const& other) const {
+    conditional_branches joined = *this;
+    joined.lines += other.lines;
+    joined.most_at_level.resize(std::max(most_at_level.size(), other.most_at_level.size()), 1);
+    for (std::size_t level = 0; level < other.most_at_level.size(); ++level)
+        joined.most_at_level[level] = std::max(joined.most_at_level[level], other.most_at_level[level]);
+    return joined;
+}
+
+conditional_branches conditional_branches_of(std::string const& code) {
+    conditional_branches branches;
     std::vector<unsigned long> open_chains;
     std::istringstream stream(code);
     std::string line;
-    lines = 0;
     while (std::getline(stream, line)) {
-        ++lines;
+        ++branches.lines;
         std::string const directive = directive_of(line);
         if (directive.empty())
             continue;
         if (directive.compare(0, 2, "if") == 0) {
             open_chains.push_back(1);
-            if (most_at_level.size() < open_chains.size())
-                most_at_level.push_back(1);
+            if (branches.most_at_level.size() < open_chains.size())
+                branches.most_at_level.push_back(1);
         } else if ((directive.compare(0, 4, "elif") == 0 || directive == "else") && !open_chains.empty()) {
             ++open_chains.back();
         } else if (directive == "endif" && !open_chains.empty()) {
-            unsigned long& most = most_at_level[open_chains.size() - 1];
+            unsigned long& most = branches.most_at_level[open_chains.size() - 1];
             most = std::max(most, open_chains.back());
             open_chains.pop_back();
         }
     }
-    unsigned long passes = 1;
-    for (unsigned long most : most_at_level)
-        passes = std::min(passes * most, most_lines_read + 1);
-    return passes;
-}
-
-}  // namespace
-
-bool engine_reads_at_most_a_bounded_amount_of(std::string const& code) {
-    unsigned long lines = 0;
-    unsigned long const passes = passes_and_lines(code, lines);
-    return passes * lines <= most_lines_read;
+    return branches;
 }
 
 }  // namespace tarnel_engine

@@ -1,19 +1,31 @@
-// How many times the engine reads a source because of its preprocessor conditionals: it formats
+// How many times the engine reads a source because of its preprocessor conditionals: it parses
 // every branch of a conditional, in one pass over the whole source per combination of branch
-// indices across nesting levels, so a file of long `#elif` chains nested a few levels deep costs
-// hundreds of passes (internal to the engine library).
+// indices across nesting levels, and keeps what each pass read, so a file of long `#elif` chains
+// nested a few levels deep costs hundreds of passes, seconds and gigabytes (internal to the engine
+// library).
 #ifndef TARNEL_ENGINE_CONDITIONAL_PASSES_H
 #define TARNEL_ENGINE_CONDITIONAL_PASSES_H
 
 #include <string>
+#include <vector>
 
 namespace tarnel_engine {
 
-// Whether the lines the engine reads in all its passes over the code stay within a bound (about 100
-// passes of a file of 1,000 lines: a few seconds, a few hundred megabytes). The passes are the
-// product, over the nesting levels of the conditionals, of the most branches a conditional at that
-// level has (`#if`, each `#elif` and the `#else`), as the engine counts them.
-bool engine_reads_at_most_a_bounded_amount_of(std::string const& code);
+struct conditional_branches {
+    // The most branches (`#if`, each `#elif` and the `#else`) a conditional has at each nesting
+    // level, as the engine counts them.
+    std::vector<unsigned long> most_at_level;
+    unsigned long lines = 0;
+
+    // The engine's passes: the product of the counts, at most a little over a million.
+    unsigned long passes() const;
+    // The lines read in all passes.
+    unsigned long lines_read() const { return passes() * lines; }
+    // The branches of a text made of both texts, one after the other.
+    conditional_branches joined_with(conditional_branches const& other) const;
+};
+
+conditional_branches conditional_branches_of(std::string const& code);
 
 }  // namespace tarnel_engine
 

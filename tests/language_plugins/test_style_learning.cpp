@@ -130,16 +130,16 @@ private slots:
     void learns_around_sources_it_keeps_out_data() {
         QTest::addColumn<QString>("kept_out");
         std::string conditionals;
-        for (int level = 0; level < 3; ++level) {
+        for (int level = 0; level < 4; ++level) {
             conditionals += "#if defined(LEVEL_" + std::to_string(level) + "_0)\n";
             for (int branch = 1; branch < 16; ++branch)
                 conditionals += "#  define LEVEL_" + std::to_string(level) + " " + std::to_string(branch) +
                                 "\n#elif defined(LEVEL_" + std::to_string(level) + "_" + std::to_string(branch) + ")\n";
         }
         conditionals += "int deepest;\n";
-        for (int level = 0; level < 3; ++level)
+        for (int level = 0; level < 4; ++level)
             conditionals += "#endif\n";
-        QTest::newRow("conditionals of 16 branches nested 3 deep") << QString::fromStdString(conditionals);
+        QTest::newRow("conditionals of 16 branches nested 4 deep") << QString::fromStdString(conditionals);
         QTest::newRow("a brace left open") << "struct open {\n    int field;\n";
     }
     void learns_around_sources_it_keeps_out() {
