@@ -178,9 +178,12 @@ std::vector<std::string> take_sample::of(std::vector<std::string> const& texts) 
                 std::string const piece = piece_of(lines, before, begin, l);
                 // A piece whose brackets do not pair up (a macro that opens a block, a brace in a
                 // conditional branch) can keep the engine busy for minutes under some styles, and
-                // nested conditionals of many branches make it read the whole sample many times.
-                conditional_branches const with_piece = sampled.joined_with(conditional_branches_of(piece));
-                if (!blank(piece) && brackets_are_balanced_in(piece) && with_piece.passes() <= most_passes) {
+                // nested conditionals of many branches make it read the whole sample many times
+                // (half a conditional, cut from its end, nests every piece after it deeper).
+                conditional_branches const of_piece = conditional_branches_of(piece);
+                conditional_branches const with_piece = sampled.joined_with(of_piece);
+                if (!blank(piece) && brackets_are_balanced_in(piece) && of_piece.paired &&
+                    with_piece.passes() <= most_passes) {
                     sampled = with_piece;
                     pieces.push_back(piece);
                     of_this_file += length;

@@ -34,6 +34,7 @@ unsigned long conditional_branches::passes() const {
 conditional_branches conditional_branches::joined_with(conditional_branches const& other) const {
     conditional_branches joined = *this;
     joined.lines += other.lines;
+    joined.paired = paired && other.paired;
     joined.most_at_level.resize(std::max(most_at_level.size(), other.most_at_level.size()), 1);
     for (std::size_t level = 0; level < other.most_at_level.size(); ++level)
         joined.most_at_level[level] = std::max(joined.most_at_level[level], other.most_at_level[level]);
@@ -54,14 +55,22 @@ conditional_branches conditional_branches_of(std::string const& code) {
             open_chains.push_back(1);
             if (branches.most_at_level.size() < open_chains.size())
                 branches.most_at_level.push_back(1);
-        } else if ((directive.compare(0, 4, "elif") == 0 || directive == "else") && !open_chains.empty()) {
-            ++open_chains.back();
-        } else if (directive == "endif" && !open_chains.empty()) {
+        } else if (directive.compare(0, 4, "elif") == 0 || directive == "else") {
+            if (open_chains.empty())
+                branches.paired = false;
+            else
+                ++open_chains.back();
+        } else if (directive == "endif") {
+            if (open_chains.empty()) {
+                branches.paired = false;
+                continue;
+            }
             unsigned long& most = branches.most_at_level[open_chains.size() - 1];
             most = std::max(most, open_chains.back());
             open_chains.pop_back();
         }
     }
+    branches.paired = branches.paired && open_chains.empty();
     return branches;
 }
 

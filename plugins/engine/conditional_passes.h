@@ -16,6 +16,10 @@ struct conditional_branches {
     // level, as the engine counts them.
     std::vector<unsigned long> most_at_level;
     unsigned long lines = 0;
+    // Whether every conditional opened is closed, and none closed or continued that was not opened:
+    // a text cut from a file may hold half a conditional, which would take in the code after it
+    // once texts are joined, nesting it one level deeper for each.
+    bool paired = true;
 
     // The engine's passes: the product of the counts, at most a little over a million.
     unsigned long passes() const;

@@ -8,6 +8,7 @@
 #include "bracket_balance.h"
 #include "c_language.h"
 #include "code_sample.h"
+#include "conditional_passes.h"
 #include "cpp_language.h"
 #include "form_conflicts.h"
 #include "revision.h"
@@ -157,6 +158,7 @@ private slots:
 
     // A piece whose braces do not pair up kept one engine call of the search busy for minutes (and
     // a gigabyte) under Whitesmiths braces: the containers around a piece must be opened once each.
+    // Pieces hold whole conditionals too.
     void sample_pieces_pair_their_brackets_data() {
         QTest::addColumn<QString>("opening");
         QTest::addColumn<QString>("closing");
@@ -164,6 +166,10 @@ private slots:
             << "namespace a { namespace b { namespace c {\n" << "}}}\n";
         QTest::newRow("two namespaces, the second brace on a line of its own")
             << "namespace a { namespace b\n{\n" << "}\n}\n";
+        // Half a conditional nested every piece after it one level deeper in the search's call:
+        // the Boost learning grew past 10 GB.
+        QTest::newRow("a header guard and a conditional around blank lines")
+            << "#ifndef GUARD_H\n#define GUARD_H\n#if defined(A)\n" << "#else\nint b;\n#endif\n#endif\n";
     }
     void sample_pieces_pair_their_brackets() {
         QFETCH(QString, opening);
@@ -175,8 +181,10 @@ private slots:
         QVERIFY(tarnel_engine::brackets_are_balanced_in(file));
         std::vector<std::string> const pieces = tarnel_engine::take_sample().of({file});
         QVERIFY(pieces.size() >= 2);
-        for (std::string const& piece : pieces)
+        for (std::string const& piece : pieces) {
             QVERIFY2(tarnel_engine::brackets_are_balanced_in(piece), piece.c_str());
+            QVERIFY2(tarnel_engine::conditional_branches_of(piece).paired, piece.c_str());
+        }
     }
 };
 
