@@ -2,12 +2,19 @@
 // comments, strings and macros; neighbouring cuts of one context make a piece.
 #include "code_sample.h"
 
+#include "bracket_balance.h"
+#include "conditional_passes.h"
+
+#include <algorithm>
 #include <cctype>
 #include <sstream>
 
 namespace tarnel_engine {
 
 namespace {
+
+// The passes the engine may make over the whole sample because of its conditionals.
+unsigned long const most_passes = 8;
 
 bool blank(std::string const& line) { return line.find_first_not_of(" \t\f\v") == std::string::npos; }
 
@@ -96,11 +103,15 @@ std::vector<line_state> states_of(std::vector<std::string> const& lines) {
 std::string piece_of(std::vector<std::string> const& lines, std::vector<std::size_t> const& containers,
                      std::size_t begin, std::size_t end) {
     std::string piece;
+    // Each opening line once, however many containers it opens (`namespace a { namespace b {`),
+    // so that the piece's braces pair up.
+    std::size_t written_to = 0;
     for (std::size_t opener : containers) {
         // The head of a namespace whose brace stands on a line of its own comes with it.
-        if (trimmed(lines[opener]) == "{" && opener > 0)
-            piece += lines[opener - 1] + "\n";
-        piece += lines[opener] + "\n";
+        std::size_t from = trimmed(lines[opener]) == "{" && opener > 0 ? opener - 1 : opener;
+        for (from = std::max(from, written_to); from <= opener; ++from)
+            piece += lines[from] + "\n";
+        written_to = std::max(written_to, opener + 1);
     }
     for (std::size_t l = begin; l < end; ++l)
         piece += lines[l] + "\n";
@@ -130,18 +141,31 @@ std::vector<std::string> take_sample::of(std::vector<std::string> const& texts) 
     if (texts.empty())
         return pieces;
     std::size_t const step = (texts.size() + bounds.files - 1) / bounds.files;
+    // Each file's share of the lines, so that the sample reaches the last file as well as the first
+    // (a few long files would otherwise fill it).
+    std::size_t const files = (texts.size() + step - 1) / step;
+    std::size_t const share = std::min(bounds.lines_of_a_file, std::max(bounds.lines_of_a_piece, bounds.lines / files));
     std::size_t taken = 0;
+    // The search formats all pieces in one engine call, which reads them all once per pass.
+    conditional_branches sampled;
     for (std::size_t f = 0; f < texts.size() && taken < bounds.lines; f += step) {
         std::vector<std::string> const lines = lines_of(texts[f]);
         std::vector<line_state> const states = states_of(lines);
         // Cuts: blank lines after which a cut is allowed; each run between two cuts is a segment.
+        // A long file's share is taken from its second third: past the licence, the includes and
+        // the declarations every file opens with, in the code that shows the most layout.
+        std::size_t const from = lines.size() > 3 * share ? lines.size() / 3 : 0;
         std::size_t begin = 0;
         std::size_t of_this_file = 0;
-        for (std::size_t l = 0; l <= lines.size() && of_this_file < bounds.lines_of_a_file; ++l) {
+        for (std::size_t l = 0; l <= lines.size() && of_this_file < share; ++l) {
             bool const cut = l == lines.size() || (blank(lines[l]) && l > 0 && states[l - 1].cut_allowed &&
                                                    states[l].containers == states[l - 1].containers);
             if (!cut)
                 continue;
+            if (l < from) {
+                begin = l;
+                continue;
+            }
             std::size_t const length = l - begin;
             if (length == 0)
                 continue;
@@ -152,7 +176,15 @@ std::vector<std::string> take_sample::of(std::vector<std::string> const& texts) 
                 continue;  // too short yet: the next segment joins it
             if (whole && length <= bounds.lines_of_a_file) {
                 std::string const piece = piece_of(lines, before, begin, l);
-                if (!blank(piece)) {
+                // A piece whose brackets do not pair up (a macro that opens a block, a brace in a
+                // conditional branch) can keep the engine busy for minutes under some styles, and
+                // nested conditionals of many branches make it read the whole sample many times
+                // (half a conditional, cut from its end, nests every piece after it deeper).
+                conditional_branches const of_piece = conditional_branches_of(piece);
+                conditional_branches const with_piece = sampled.joined_with(of_piece);
+                if (!blank(piece) && brackets_are_balanced_in(piece) && of_piece.paired &&
+                    with_piece.passes() <= most_passes) {
+                    sampled = with_piece;
                     pieces.push_back(piece);
                     of_this_file += length;
                     taken += length;

@@ -21,9 +21,11 @@ class take_sample {
 public:
     explicit take_sample(sample_bounds bounds = sample_bounds()) : bounds(bounds) {}
 
-    // Pieces of the texts (line feeds only, decoded text), the same for the same texts. A piece
-    // inside namespaces or extern blocks is given their opening lines and closing braces. Texts
-    // whose braces, comments or strings do not close give fewer pieces, or none.
+    // Pieces of the texts (line feeds only, decoded text), the same for the same texts: every k-th
+    // text gives an even share of the lines, a long one from its second third. A piece inside
+    // namespaces or extern blocks is given their opening lines and closing braces. Texts whose
+    // braces, comments or strings do not close give fewer pieces, or none; so do pieces the engine
+    // could not format in bounded time (brackets that do not pair up, deeply nested conditionals).
     std::vector<std::string> of(std::vector<std::string> const& texts) const;
 
 private:

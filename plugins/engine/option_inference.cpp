@@ -56,15 +56,15 @@ bool names(form_case const& form, std::string const& group) {
 class option_search {
 public:
     option_search(std::vector<form_case> const& forms, std::vector<std::string> const& excluded, long budget,
-                  infer_options::going_on_check const& going_on)
-        : forms(forms), excluded(excluded), budget(budget), going_on(going_on) {}
+                  infer_options::going_on_check const& going_on, infer_options::distance_measure const& measure)
+        : forms(forms), excluded(excluded), budget(budget), going_on(going_on), measure(measure) {}
 
     // Lets the search reach the values it kept away from so far.
     void exclude_nothing() { excluded.clear(); }
 
     scored_style scored(clang::format::FormatStyle const& style) {
         formatted += static_cast<long>(forms.size());
-        std::vector<unsigned long> distances = distances_of(forms, style);
+        std::vector<unsigned long> distances = distances_of(forms, style, measure);
         unsigned long const total = total_of(distances);
         return {style, std::move(distances), total};
     }
@@ -96,6 +96,7 @@ private:
     std::vector<std::string> excluded;
     long const budget;
     infer_options::going_on_check const& going_on;
+    infer_options::distance_measure const& measure;
     bool stopped = false;
     long formatted = 0;
     std::vector<std::string> kept;
@@ -153,7 +154,7 @@ private:
             if (!within_budget())
                 break;
             formatted += static_cast<long>(judged.size());
-            unsigned long const distance = total_of(distances_of(judged, trial));
+            unsigned long const distance = total_of(distances_of(judged, trial, measure));
             if (distance < best_distance) {
                 best = &trial;
                 best_distance = distance;
@@ -227,7 +228,8 @@ private:
 
 }  // namespace
 
-std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, clang::format::FormatStyle const& style) {
+std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, clang::format::FormatStyle const& style,
+                                        infer_options::distance_measure const& measure) {
     std::string joined;
     for (std::size_t i = 0; i < forms.size(); ++i)
         joined += (i == 0 ? "" : "\n\n" + boundary + "\n\n") + forms[i].code;
@@ -237,7 +239,8 @@ std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, cla
     if (pieces.size() != forms.size())
         return distances;
     for (std::size_t i = 0; i < forms.size(); ++i)
-        distances[i] = white_space_distance(form_as_code(forms[i].code), form_as_code(pieces[i]));
+        distances[i] = measure ? measure(form_as_code(forms[i].code), form_as_code(pieces[i]))
+                               : white_space_distance(form_as_code(forms[i].code), form_as_code(pieces[i]));
     return distances;
 }
 
@@ -248,16 +251,19 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
 clang::format::FormatStyle infer_options::from(std::vector<form_case> const& forms, form_readings const& readings) const {
     if (forms.empty())
         return token_safe_predefined_style(names_of_predefined_styles().front());
-    option_search search(forms, readings.ruled_out, formatting_budget, going_on);
+    option_search search(forms, readings.ruled_out, formatting_budget, going_on, measure);
 
     // A style that is a predefined one keeps all its rules, Google's "the file's majority decides
     // where * leans" included.
     std::vector<clang::format::FormatStyle> bases;
+    scored_style best_base;
     for (std::string const& name : names_of_predefined_styles()) {
         bases.push_back(token_safe_predefined_style(name));
-        scored_style const base = search.scored(bases.back());
+        scored_style base = search.scored(bases.back());
         if (base.total == 0)
             return base.style;
+        if (bases.size() == 1 || base.total < best_base.total)
+            best_base = std::move(base);
     }
 
     // Any other style shows where * and & lean in its forms (the readings say so), and those
@@ -276,7 +282,8 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         }
     std::stable_sort(starts.begin(), starts.end(), [](auto const& a, auto const& b) { return a.total < b.total; });
 
-    scored_style best = starts.front();
+    // A predefined style as it stands is a result too: the search never ends further from the forms.
+    scored_style best = best_base.total < starts.front().total ? best_base : starts.front();
     std::vector<clang::format::FormatStyle> descended;
     for (scored_style& start : starts) {
         if (best.total == 0 || descended.size() == beam_width || !search.within_budget())

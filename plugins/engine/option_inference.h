@@ -26,12 +26,15 @@ class infer_options {
 public:
     // Told the forms formatted so far and the bound; the search stops at once when it says false.
     using going_on_check = std::function<bool(unsigned long done, unsigned long whole)>;
+    // How far a form (the code wanted) is from what the engine made of it; 0 for the same code.
+    using distance_measure = std::function<unsigned long(std::string const& wanted, std::string const& made)>;
 
     // The bound that the forms of an addon need.
     infer_options() = default;
-    // Another bound (forms much longer than an addon's need a lower one), with a way to stop.
-    infer_options(long formatting_budget, going_on_check going_on)
-        : formatting_budget(formatting_budget), going_on(std::move(going_on)) {}
+    // Another bound (forms much longer than an addon's need a lower one), with a way to stop, and
+    // another measure than the white-space distance.
+    infer_options(long formatting_budget, going_on_check going_on, distance_measure measure = {})
+        : formatting_budget(formatting_budget), going_on(std::move(going_on)), measure(std::move(measure)) {}
 
     clang::format::FormatStyle from(std::vector<form_case> const& forms) const;
     // With readings taken otherwise than from the forms of an addon.
@@ -40,11 +43,13 @@ public:
 private:
     long formatting_budget = 30000;
     going_on_check going_on;
+    distance_measure measure;
 };
 
-// How far each form is from its formatted result under a style; all forms are formatted in one
-// engine call.
-std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, clang::format::FormatStyle const& style);
+// How far each form is from its formatted result under a style, by the white-space distance or the
+// measure given; all forms are formatted in one engine call.
+std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, clang::format::FormatStyle const& style,
+                                        infer_options::distance_measure const& measure = {});
 
 }  // namespace tarnel_engine
 

@@ -4,6 +4,7 @@
 
 #include "bracket_balance.h"
 #include "code_sample.h"
+#include "conditional_passes.h"
 #include "form_conflicts.h"
 #include "option_inference.h"
 #include "revision.h"
@@ -28,6 +29,9 @@ namespace {
 long const formatting_budget = 20000;
 // Rewrites of the addon with the forms as they come back, until every form is a fixed point.
 int const rounds_to_fixed_points = 3;
+// The lines the engine may read in all its passes over one source (conditional_passes.h): a 10,000
+// line file read a hundred times, a few seconds and a few hundred megabytes.
+unsigned long const most_lines_read = 1000000;
 
 std::string trimmed(std::string const& line) {
     std::size_t const begin = line.find_first_not_of(" \t");
@@ -247,6 +251,14 @@ bool code_of_the_language_in(std::vector<std::string> const& pieces) {
     return lines > 0 && like_code * 4 >= lines;
 }
 
+// What the learning promises is lines left as they are: a piece is as far from its formatted self as
+// the lines it would change, then, between equal counts, as its white-space distance (capped, so
+// that no distance outweighs a line).
+unsigned long lines_changed_then_white_space(std::string const& wanted, std::string const& made) {
+    unsigned long const changed = lines_of(wanted).size() - lines_left_between(wanted, made);
+    return changed * 1000 + std::min(white_space_distance(wanted, made), 999UL);
+}
+
 // The addon with each form replaced by what it comes back as, until every form comes back.
 std::string with_fixed_points(std::string addon, std::string const& style_name, language_description const& language) {
     for (int round = 0; round < rounds_to_fixed_points && !forms_not_coming_back(addon, language).empty(); ++round)
@@ -278,7 +290,8 @@ learned_style learn_style_of::from(std::vector<std::string> const& sources, std:
         std::vector<std::string> texts;
         std::vector<std::size_t> used;
         for (std::size_t i = 0; i < sources.size(); ++i)
-            if (sources[i].find('\0') == std::string::npos && brackets_are_balanced_in(sources[i])) {
+            if (sources[i].find('\0') == std::string::npos && brackets_are_balanced_in(sources[i]) &&
+                conditional_branches_of(sources[i]).lines_read() <= most_lines_read) {
                 texts.push_back(sources[i]);
                 used.push_back(i);
             }
@@ -296,7 +309,8 @@ learned_style learn_style_of::from(std::vector<std::string> const& sources, std:
             return !stopped;
         };
         clang::format::FormatStyle const style =
-            infer_options(formatting_budget, searching).from(forms, readings_of_code(forms, pieces));
+            infer_options(formatting_budget, searching, lines_changed_then_white_space)
+                .from(forms, readings_of_code(forms, pieces));
         if (stopped)
             return learned;
         std::string const addon =

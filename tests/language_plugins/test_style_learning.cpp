@@ -1,10 +1,14 @@
 // Learning a style through the plugins' learning interface: a small project written in a known
 // option set comes back as a style that leaves nearly all its lines as they are, with every form a
 // fixed point and the figures the plugin reports true; no sources, text of another language and a
-// stop give no style.
+// stop give no style; the sample's pieces, and the sources counted, are code the engine can format
+// in bounded time.
 #include "helpers/our_plugins.h"
 
+#include "bracket_balance.h"
 #include "c_language.h"
+#include "code_sample.h"
+#include "conditional_passes.h"
 #include "cpp_language.h"
 #include "form_conflicts.h"
 #include "revision.h"
@@ -119,6 +123,68 @@ private slots:
             });
         QVERIFY(learned.addon.empty());
         QVERIFY(!stopped || reports == 1);
+    }
+
+    // Sources the engine cannot format in bounded time and memory are neither learned from nor
+    // counted, and the others still are: one Qt header of long #elif chains nested five deep made
+    // the engine read it thousands of times (37 s, 1 GB) in the count.
+    void learns_around_sources_it_keeps_out_data() {
+        QTest::addColumn<QString>("kept_out");
+        std::string conditionals;
+        for (int level = 0; level < 4; ++level) {
+            conditionals += "#if defined(LEVEL_" + std::to_string(level) + "_0)\n";
+            for (int branch = 1; branch < 16; ++branch)
+                conditionals += "#  define LEVEL_" + std::to_string(level) + " " + std::to_string(branch) +
+                                "\n#elif defined(LEVEL_" + std::to_string(level) + "_" + std::to_string(branch) + ")\n";
+        }
+        conditionals += "int deepest;\n";
+        for (int level = 0; level < 4; ++level)
+            conditionals += "#endif\n";
+        QTest::newRow("conditionals of 16 branches nested 4 deep") << QString::fromStdString(conditionals);
+        QTest::newRow("a brace left open") << "struct open {\n    int field;\n";
+    }
+    void learns_around_sources_it_keeps_out() {
+        QFETCH(QString, kept_out);
+        std::vector<std::string> project = sources_of("C++");
+        unsigned long lines = 0;
+        for (std::string const& source : project)
+            lines += static_cast<unsigned long>(tarnel_engine::lines_of(source).size());
+        project.insert(project.begin() + static_cast<long>(project.size() / 2), kept_out.toStdString());
+        loaded_plugin plugin(cpp_plugin_file());
+        learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
+        QVERIFY(!learned.addon.empty());
+        QCOMPARE(learned.lines, lines);
+    }
+
+    // A piece whose braces do not pair up kept one engine call of the search busy for minutes (and
+    // a gigabyte) under Whitesmiths braces: the containers around a piece must be opened once each.
+    // Pieces hold whole conditionals too.
+    void sample_pieces_pair_their_brackets_data() {
+        QTest::addColumn<QString>("opening");
+        QTest::addColumn<QString>("closing");
+        QTest::newRow("three namespaces opened on one line")
+            << "namespace a { namespace b { namespace c {\n" << "}}}\n";
+        QTest::newRow("two namespaces, the second brace on a line of its own")
+            << "namespace a { namespace b\n{\n" << "}\n}\n";
+        // Half a conditional nested every piece after it one level deeper in the search's call:
+        // the Boost learning grew past 10 GB.
+        QTest::newRow("a header guard and a conditional around blank lines")
+            << "#ifndef GUARD_H\n#define GUARD_H\n#if defined(A)\n" << "#else\nint b;\n#endif\n#endif\n";
+    }
+    void sample_pieces_pair_their_brackets() {
+        QFETCH(QString, opening);
+        QFETCH(QString, closing);
+        std::string file = opening.toStdString();
+        for (int record = 0; record < 40; ++record)
+            file += "\nstruct record_" + std::to_string(record) + " {\n    int field;\n    void run();\n};\n";
+        file += closing.toStdString();
+        QVERIFY(tarnel_engine::brackets_are_balanced_in(file));
+        std::vector<std::string> const pieces = tarnel_engine::take_sample().of({file});
+        QVERIFY(pieces.size() >= 2);
+        for (std::string const& piece : pieces) {
+            QVERIFY2(tarnel_engine::brackets_are_balanced_in(piece), piece.c_str());
+            QVERIFY2(tarnel_engine::conditional_branches_of(piece).paired, piece.c_str());
+        }
     }
 };
 
