@@ -161,6 +161,7 @@ void test_window_tasks::init() {
     install_test_languages(path_to().plugins_directory(), path_to().addons_directory());
     work = std::make_unique<QTemporaryDir>();
     qunsetenv("TEST_PLUGIN_DELAY_MS");
+    qunsetenv("TEST_PLUGIN_LOG");
 }
 
 void test_window_tasks::cleanup() {
@@ -305,18 +306,27 @@ void test_window_tasks::reports_as_the_command_line_does() {
 // Faults: Stop not reaching the worker, or the run not saying how far it got; the dialog left on
 // the window.
 void test_window_tasks::stops_after_the_file_at_hand() {
+    // Of a length no form of the test styles has, so that the plugin's log tells the files apart.
+    QByteArray const text = "begin  SOME end, a file of the tree under revision\n";
     for (QString const name : {"1.tst", "2.tst", "3.tst"})
-        write(path("tree/" + name), "begin  SOME end\n");
+        write(path("tree/" + name), text);
     qputenv("TEST_PLUGIN_DELAY_MS", "400");
+    // The plugin notes the length of each text it is given: the Stop comes once the first file is
+    // in its hands (the form editor's own check of a form is logged there too).
+    QString const plugin_log = path("plugin.log");
+    qputenv("TEST_PLUGIN_LOG", plugin_log.toLocal8Bit());
+    auto first_file_in_hand = [&] {
+        QFile log(plugin_log);
+        return log.open(QIODevice::ReadOnly) && log.readAll().contains(" " + QByteArray::number(text.size()) + "\n");
+    };
     open_window();
     choose_test_language();
     add({"tree"});
-    QSignalSpy maximum(starter(), &GUI::show_revise::set_maximum_for_progress);
     QString const report = report_of_a_run([&] {
         QTest::mouseClick(button("go"), Qt::LeftButton);
         QVERIFY(starter()->progress_dialog()->isVisible());
-        // The maximum comes before the first file: a Stop now takes effect after it.
-        QVERIFY(!maximum.isEmpty() || maximum.wait(30000));
+        // The worker may take a moment to start: a Stop before it holds a file revises none.
+        QTRY_VERIFY_WITH_TIMEOUT(first_file_in_hand(), 30000);
         QTest::mouseClick(starter()->progress_dialog()->findChild<QPushButton*>("stop"), Qt::LeftButton);
     });
     QVERIFY2(report.contains("Revision was interrupted by user!"), qPrintable(report));
