@@ -1,5 +1,7 @@
 // Disk entries are the inferred options in clang-format's configuration syntax: readable by a
-// person, and re-read by the engine's own parser.
+// person, and re-read by the engine's own parser. Their first line, a comment, holds the SHA-256
+// of the rest; an entry whose rest does not have it (emptied, cut short, edited) is damaged and
+// is inferred again and rewritten, never trusted.
 #include "inference_cache.h"
 
 #include "addon_forms.h"
@@ -53,21 +55,39 @@ QString cache_file_for(std::string const& key) {
     return directory.isEmpty() ? QString() : directory + "/" + QString::fromStdString(key) + ".clang-format";
 }
 
+QByteArray const checksum_lead = "# sha256 ";
+
+QByteArray checksum_line_of(QByteArray const& options) {
+    return checksum_lead + QCryptographicHash::hash(options, QCryptographicHash::Sha256).toHex() + "\n";
+}
+
+// The options an entry holds, when its checksum line vouches for them.
+bool verified_options_of(QByteArray const& entry, QByteArray& options) {
+    int const end_of_first_line = entry.indexOf('\n');
+    if (!entry.startsWith(checksum_lead) || end_of_first_line < 0)
+        return false;
+    options = entry.mid(end_of_first_line + 1);
+    return !options.isEmpty() && entry.left(end_of_first_line + 1) == checksum_line_of(options);
+}
+
 bool read_from_disk(std::string const& key, clang::format::FormatStyle& style) {
     QString const path = cache_file_for(key);
     QFile file(path);
     if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return false;
-    QByteArray const text = file.readAll();
+    QByteArray options;
+    if (!verified_options_of(file.readAll(), options))
+        return false;
     clang::format::FormatStyle read = token_safe_predefined_style("LLVM");
-    if (clang::format::parseConfiguration(text.toStdString(), &read))
+    if (clang::format::parseConfiguration(options.toStdString(), &read))
         return false;
     make_token_safe(read);
     style = read;
     return true;
 }
 
-// A cache that cannot be written is only slower, never wrong: failures are ignored.
+// A cache that cannot be written is only slower, never wrong: failures are ignored. The entry
+// takes the place of a damaged one in one rename.
 void write_to_disk(std::string const& key, clang::format::FormatStyle const& style) {
     QString const path = cache_file_for(key);
     if (path.isEmpty() || !QDir().mkpath(cache_directory()))
@@ -76,7 +96,8 @@ void write_to_disk(std::string const& key, clang::format::FormatStyle const& sty
     if (!file.open(QIODevice::WriteOnly))
         return;
     std::string const text = clang::format::configurationAsText(style);
-    file.write(text.data(), static_cast<qint64>(text.size()));
+    QByteArray const options(text.data(), static_cast<int>(text.size()));
+    file.write(checksum_line_of(options) + options);
     file.commit();
 }
 
