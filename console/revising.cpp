@@ -97,7 +97,7 @@ std::string what_is_wrong_with(project_styles const& styles) {
     case project_styles_fault::language_without_style:
         return "this language has no style";
     case project_styles_fault::addon_of_another_language:
-        return "this addon is a style of language '" + styles.language_of_faulty_addon + "'";
+        return "this addon is a style of language '" + styles.language_of_faulty_addon + "', not of the language it is given for";
     case project_styles_fault::none:
     case project_styles_fault::unreadable:
         break;

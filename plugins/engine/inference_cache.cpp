@@ -103,6 +103,28 @@ void write_to_disk(std::string const& key, clang::format::FormatStyle const& sty
 
 }  // namespace
 
+namespace {
+
+// No layout needs more white space in one place than this; a form that has more (a run of
+// hundreds of kilobytes of blanks) would make every one of the thousands of formattings the
+// search makes that much slower, and tells no more than a run of this length.
+std::size_t const longest_white_space_run = 256;
+
+std::string with_white_space_runs_bounded(std::string const& form) {
+    std::string bounded;
+    bounded.reserve(std::min(form.size(), std::size_t(1) << 16));
+    std::size_t run = 0;
+    for (char c : form) {
+        bool const blank = c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f';
+        run = blank ? run + 1 : 0;
+        if (run <= longest_white_space_run)
+            bounded += c;
+    }
+    return bounded;
+}
+
+}  // namespace
+
 std::vector<form_case> form_cases_in(std::string const& addon, language_description const& language) {
     std::map<std::string, std::string> const expressions = expressions_of(language.structures);
     std::vector<form_case> cases;
@@ -110,7 +132,7 @@ std::vector<form_case> form_cases_in(std::string const& addon, language_descript
         std::string const form = form_of_structure(each.name).in(addon);
         if (form.empty() || !style_tarnel::match_in_full(expressions.at(each.name)).of(form))
             continue;
-        cases.push_back({each.name, with_instances(form_as_code(form)), each.decides});
+        cases.push_back({each.name, with_instances(form_as_code(with_white_space_runs_bounded(form))), each.decides});
     }
     return cases;
 }
