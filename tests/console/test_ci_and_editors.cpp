@@ -348,7 +348,6 @@ void test_ci_and_editors::a_damaged_inference_cache_entry_is_inferred_again() {
 void test_ci_and_editors::a_form_of_blanks_is_inferred_as_one_without_them_data() {
     QTest::addColumn<QByteArray>("blanks");
     QTest::newRow("800 KB of blanks") << QByteArray(800000, ' ');
-    QTest::newRow("800 KB of line feeds") << QByteArray(800000, '\n');
 }
 
 void test_ci_and_editors::a_form_of_blanks_is_inferred_as_one_without_them() {
