@@ -52,6 +52,8 @@ void set_up(installed_bundle& bundle, QString const& setup, QTemporaryDir const&
         bundle.write_file(name, addon_text("House", "Test"));
     QString const read_only = bundle.write_file("ReadOnly[Test].style", addon_text("ReadOnly", "Test"));
     QFile::setPermissions(read_only, QFile::ReadOwner | QFile::ReadOther);
+    bundle.write_file("project/.style-tarnel", "[Test]\naddon = ../ReadOnly[Test].style\n");
+    bundle.write_file("project/a.tst", "a  b\n");
     bundle.write_file("out/Wide[Test].style", "an older export\n");
     for (QString const& plugin : {built::other_language_plugin(), built::library_without_plugin(),
                                   built::plugin_without_interface()})
