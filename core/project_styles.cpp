@@ -8,6 +8,9 @@
 #include <boost/algorithm/string/classification.hpp>
 #include <boost/algorithm/string/trim.hpp>
 
+#include <utility>
+#include <vector>
+
 namespace {
 
 std::string trimmed(std::string const& text) {
@@ -52,7 +55,7 @@ project_styles read_project_styles::from(QString const& file) const {
     int language_line = 0;
     bool language_has_style = true;
     int number = 0;
-    std::map<std::string, int> addon_lines;
+    std::vector<std::pair<std::string, int>> addon_lines;  // language, line, in the order of the lines
     std::size_t start = 0;
     while (start < text.size()) {
         std::size_t end = text.find('\n', start);
@@ -95,7 +98,7 @@ project_styles read_project_styles::from(QString const& file) const {
         else
             chosen.addon_path = QDir::cleanPath(base.absoluteFilePath(QString::fromStdString(value)));
         if (key == "addon")
-            addon_lines[language] = number;
+            addon_lines.emplace_back(language, number);
         language_has_style = true;
     }
     if (!language_has_style)
