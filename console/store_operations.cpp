@@ -34,6 +34,16 @@ bool readable_file(std::string const& path) {
     return false;
 }
 
+// Import and update take only a file the user could also write: a read-only one is reported as
+// missing, although it is only read. An addon used for a revision needs only to be readable.
+bool usable_file(std::string const& path) {
+    QFileInfo const info(QString::fromStdString(path));
+    if (info.exists() && info.isFile() && info.isReadable() && info.isWritable())
+        return true;
+    say(message::no_such_file(path) + message::usage_hint());
+    return false;
+}
+
 bool usable_directory(std::string const& path) {
     QFileInfo const info(QString::fromStdString(path));
     return info.exists() && info.isDir() && info.isReadable() && info.isWritable();
@@ -154,7 +164,7 @@ int result_of_run::rename_style_based_on(argument_list const& arguments) const {
 
 int result_of_run::import_something_based_on(argument_list const& arguments) const {
     std::string const path = absolute(value_of(arguments, "--import"));
-    if (!readable_file(path))
+    if (!usable_file(path))
         return 1;
     if (language_plugin()(path)) {
         if (kernel().import_language_from(path).empty()) {
@@ -213,7 +223,7 @@ int result_of_run::delete_something_based_on(argument_list const& arguments) con
 
 int result_of_run::update_app_based_on(argument_list const& arguments) const {
     std::string const path = absolute(value_of(arguments, "--update"));
-    if (!readable_file(path))
+    if (!usable_file(path))
         return 1;
     switch (kernel().update_with(path)) {
     case update_outcome::applied:
