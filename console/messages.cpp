@@ -50,6 +50,13 @@ std::string taken_style_name(std::string const& name) {
 std::string cannot_rename_style(std::string const& style) { return "I cannot rename style '" + style + "'."; }
 
 std::string no_such_file(std::string const& path) { return "No such file '" + path + "'."; }
+std::string not_a_regular_file(std::string const& path) { return "'" + path + "' is not a regular file."; }
+std::string cannot_read_file(std::string const& path) {
+    return "I cannot read file '" + path + "', please check read permissions.";
+}
+std::string cannot_read_file_because(std::string const& path, std::string const& reason) {
+    return "I cannot read file '" + path + "': " + reason + ".";
+}
 std::string cannot_import_language(std::string const& path) {
     return "I cannot import language '" + path + "'.";
 }
@@ -92,6 +99,10 @@ std::string cannot_delete_language(std::string const& language) {
 }
 
 std::string cannot_apply_update(std::string const& path) { return "I cannot apply update '" + path + "'."; }
+std::string not_an_executable_of_ours(std::string const& path) {
+    return "I cannot apply update '" + path + "', it is not an executable of " + product::title +
+           ": it must answer '-v' with '" + product::version_line_lead() + "' and its version.";
+}
 
 std::string standard_input_with_other_paths() {
     return "Standard input ('--path=-') cannot be revised together with other paths.";
@@ -99,6 +110,12 @@ std::string standard_input_with_other_paths() {
 std::string no_language_for_standard_input() {
     return "I don't know the language of standard input, please specify it with '--lang' or name a file "
            "with '--assume-filename'.";
+}
+std::string cannot_write_standard_output() {
+    return "I cannot write the text to standard output, it is closed or full.";
+}
+std::string left_out_of_diff(std::string const& name) {
+    return "File '" + name + "' is left out of the diff: git cannot read its name there (a tab, a line break, or a date at its end).";
 }
 std::string no_style_for(std::string const& path) {
     return "I don't know which style to use for '" + path +
@@ -109,9 +126,6 @@ std::string no_language_of_file(std::string const& path) {
 }
 std::string no_style_for_language_in(std::string const& language, std::string const& file) {
     return "There is no style for language '" + language + "' in file '" + file + "'.";
-}
-std::string cannot_read_project_styles(std::string const& file) {
-    return "I cannot read file '" + file + "', please check read permissions.";
 }
 std::string invalid_line_of_project_styles(std::string const& file, int line, std::string const& what) {
     return "Invalid line " + std::to_string(line) + " in file '" + file + "': " + what +

@@ -36,6 +36,10 @@ std::string taken_style_name(std::string const& name);
 std::string cannot_rename_style(std::string const& style);
 
 std::string no_such_file(std::string const& path);
+std::string not_a_regular_file(std::string const& path);
+// A file that exists but cannot be read: for want of permission, or for the system's `reason`.
+std::string cannot_read_file(std::string const& path);
+std::string cannot_read_file_because(std::string const& path, std::string const& reason);
 std::string cannot_import_language(std::string const& path);
 std::string plugin_of_other_interface_version(std::string const& path, std::string const& version,
                                               std::string const& needed);
@@ -51,14 +55,16 @@ std::string only_language(std::string const& language);
 std::string cannot_delete_language(std::string const& language);
 
 std::string cannot_apply_update(std::string const& path);
+std::string not_an_executable_of_ours(std::string const& path);
 
 std::string standard_input_with_other_paths();
 std::string no_language_for_standard_input();
+std::string cannot_write_standard_output();
+std::string left_out_of_diff(std::string const& name);
 std::string no_style_for(std::string const& path);
 std::string no_language_of_file(std::string const& path);
 std::string no_style_for_language_in(std::string const& language, std::string const& file);
-// A ".style-tarnel" file that cannot be read, or its faulty line (`what` says what is wrong).
-std::string cannot_read_project_styles(std::string const& file);
+// A ".style-tarnel" file's faulty line (`what` says what is wrong).
 std::string invalid_line_of_project_styles(std::string const& file, int line, std::string const& what);
 
 }  // namespace message

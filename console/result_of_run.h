@@ -28,6 +28,10 @@ public:
 // standard error. `description` gets its style and language.
 bool addon_file_is_usable(std::string const& path, style_description& description);
 
+// Why a file that is only read cannot be: missing (with the usage hint), not a regular file,
+// or not readable (permissions, or the system's reason). Empty when it can be read.
+std::string why_file_cannot_be_read(std::string const& path);
+
 // The last value given under either name; empty when neither was given.
 std::string value_of(argument_list const& arguments, std::string const& long_name,
                      std::string const& short_name = std::string());

@@ -15,6 +15,9 @@
 #include <QFileInfo>
 #include <boost/algorithm/string/replace.hpp>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <iostream>
 #include <map>
 #include <set>
@@ -77,8 +80,8 @@ std::string default_extensions_of(std::string const& language) {
     return extensions;
 }
 
-std::string what_is_wrong_with(project_styles_fault fault) {
-    switch (fault) {
+std::string what_is_wrong_with(project_styles const& styles) {
+    switch (styles.fault) {
     case project_styles_fault::unknown_line:
         return "expected '[language]', 'style = name', 'addon = file', a comment or an empty line";
     case project_styles_fault::unknown_key:
@@ -93,6 +96,8 @@ std::string what_is_wrong_with(project_styles_fault fault) {
         return "a language may have one style or one addon only";
     case project_styles_fault::language_without_style:
         return "this language has no style";
+    case project_styles_fault::addon_of_another_language:
+        return "this addon is a style of language '" + styles.language_of_faulty_addon + "', not of the language it is given for";
     case project_styles_fault::none:
     case project_styles_fault::unreadable:
         break;
@@ -105,12 +110,12 @@ std::string what_is_wrong_with(project_styles_fault fault) {
 bool project_styles_for(QString const& path, project_styles& styles) {
     styles = read_project_styles().nearest_to(path);
     if (styles.fault == project_styles_fault::unreadable) {
-        say(message::cannot_read_project_styles(styles.file.toStdString()));
+        say(message::cannot_read_file(styles.file.toStdString()));
         return false;
     }
     if (styles.fault != project_styles_fault::none) {
         say(message::invalid_line_of_project_styles(styles.file.toStdString(), styles.faulty_line,
-                                                    what_is_wrong_with(styles.fault)));
+                                                    what_is_wrong_with(styles)));
         return false;
     }
     // Without a project file and flags, the words ask for nothing known, as they always did.
@@ -267,12 +272,27 @@ std::string standard_input() {
 // Standard input to standard output: whatever happens, standard output gets the text back, revised
 // or as it came, so that an editor never loses its buffer; the reason goes to standard error.
 int revise_standard_input(revision_wishes const& wishes) {
+    // Closed, the editor would get nothing back; and the first file opened would take its place.
+    bool const gives_text_back = !wishes.check || wishes.diff;
+    if (gives_text_back && ::fcntl(STDOUT_FILENO, F_GETFL) == -1) {
+        say(message::cannot_write_standard_output());
+        return 2;
+    }
     std::string const text = standard_input();
     std::string result = text;
+    // A text that did not reach standard output (a full disk, a closed pipe) is a failure of its
+    // own, whatever came before.
+    auto written = [&](int status) {
+        std::cout.flush();
+        if (std::cout)
+            return status;
+        say(message::cannot_write_standard_output());
+        return 2;
+    };
     auto give_back = [&](int status) {
         if (!wishes.writes_nothing())
-            std::cout.write(result.data(), static_cast<std::streamsize>(result.size())) << std::flush;
-        return status;
+            std::cout.write(result.data(), static_cast<std::streamsize>(result.size()));
+        return written(status);
     };
     QString const assumed = wishes.assumed_name.empty() ? QString() : absolute(wishes.assumed_name);
     std::string const name = wishes.assumed_name.empty() ? std::string("-") : wishes.assumed_name;
@@ -296,10 +316,12 @@ int revise_standard_input(revision_wishes const& wishes) {
         return give_back(wishes.refusal());
     if (outcome == text_outcome_status::refused)
         return give_back(2);
-    if (wishes.diff)
-        std::cout << kernel().unified_diff_of(name, text, result) << std::flush;
+    if (wishes.diff && result != text && !kernel().git_reads_the_name_in_a_diff(name))
+        say(message::left_out_of_diff(name));
+    else if (wishes.diff)
+        std::cout << kernel().unified_diff_of(name, text, result);
     if (wishes.writes_nothing())
-        return result == text ? 0 : 1;
+        return written(result == text ? 0 : 1);
     return give_back(0);
 }
 

@@ -150,7 +150,7 @@ void show_help_info::operator()() const {
 }
 
 void show_version::operator()() const {
-    std::cerr << product::title << ", version " << product::version << std::endl;
+    std::cerr << product::version_line_lead() << product::version << std::endl;
 }
 
 }  // namespace console

@@ -8,7 +8,13 @@
 #include "core/there_is_no_such.h"
 #include "core/transform.h"
 
+#include <QFile>
 #include <QFileInfo>
+
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace console {
 
@@ -18,10 +24,24 @@ std::string absolute(std::string const& path) {
     return transform(QString::fromStdString(path)).to_absolute().toStdString();
 }
 
-// Even a file that is only read must be writable: a read-only one is reported as missing.
+// A file that is only read (an addon, a plugin, an update) needs only to be readable: a refusal
+// names the real reason, said on standard error.
+bool readable_file(std::string const& path) {
+    std::string const fault = why_file_cannot_be_read(path);
+    if (fault.empty())
+        return true;
+    say(fault);
+    return false;
+}
+
+// Import and update take only a file the user could also write: a read-only one is reported as
+// missing, although it is only read. An addon used for a revision needs only to be readable.
 bool usable_file(std::string const& path) {
     QFileInfo const info(QString::fromStdString(path));
-    return info.exists() && info.isFile() && info.isReadable() && info.isWritable();
+    if (info.exists() && info.isFile() && info.isReadable() && info.isWritable())
+        return true;
+    say(message::no_such_file(path) + message::usage_hint());
+    return false;
 }
 
 bool usable_directory(std::string const& path) {
@@ -79,6 +99,22 @@ int delete_language(std::string const& language) {
 
 }  // namespace
 
+std::string why_file_cannot_be_read(std::string const& path) {
+    QString const name = QString::fromStdString(path);
+    QFileInfo const info(name);
+    if (!info.exists())
+        return message::no_such_file(path) + message::usage_hint();
+    if (!info.isFile())
+        return message::not_a_regular_file(path);
+    // Opened as the program will read it, so that the reason is the system's own.
+    int const descriptor = ::open(QFile::encodeName(name).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0)
+        return errno == EACCES ? message::cannot_read_file(path)
+                               : message::cannot_read_file_because(path, std::strerror(errno));
+    ::close(descriptor);
+    return std::string();
+}
+
 int result_of_run::export_style_based_on(argument_list const& arguments) const {
     std::string const language = value_of(arguments, "--lang", "-l");
     std::string const style = value_of(arguments, "--style", "-s");
@@ -128,10 +164,8 @@ int result_of_run::rename_style_based_on(argument_list const& arguments) const {
 
 int result_of_run::import_something_based_on(argument_list const& arguments) const {
     std::string const path = absolute(value_of(arguments, "--import"));
-    if (!usable_file(path)) {
-        say(message::no_such_file(path) + message::usage_hint());
+    if (!usable_file(path))
         return 1;
-    }
     if (language_plugin()(path)) {
         if (kernel().import_language_from(path).empty()) {
             std::string const version = kernel().plugin_interface_version_of(path);
@@ -163,10 +197,8 @@ int result_of_run::import_something_based_on(argument_list const& arguments) con
 }
 
 bool addon_file_is_usable(std::string const& path, style_description& description) {
-    if (!usable_file(path)) {
-        say(message::no_such_file(path) + message::usage_hint());
+    if (!readable_file(path))
         return false;
-    }
     if (!style_addon()(path)) {
         say(message::invalid_extension_of_file(path) + message::usage_hint());
         return false;
@@ -191,11 +223,15 @@ int result_of_run::delete_something_based_on(argument_list const& arguments) con
 
 int result_of_run::update_app_based_on(argument_list const& arguments) const {
     std::string const path = absolute(value_of(arguments, "--update"));
-    if (!usable_file(path)) {
-        say(message::no_such_file(path) + message::usage_hint());
+    if (!usable_file(path))
         return 1;
-    }
-    if (!kernel().apply(path)) {
+    switch (kernel().update_with(path)) {
+    case update_outcome::applied:
+        break;
+    case update_outcome::not_an_executable_of_ours:
+        say(message::not_an_executable_of_ours(path));
+        return 1;
+    case update_outcome::not_applied:
         say(message::cannot_apply_update(path));
         return 1;
     }

@@ -29,6 +29,16 @@ struct check_options {
     bool records_ignored = false;
 };
 
+// What became of an update of the executable.
+enum class update_outcome {
+    applied,
+    // The file does not run as this product's executable: it must answer "-v" with the version
+    // line. The installation is as it was.
+    not_an_executable_of_ours,
+    // It could not be read, copied or put in place; the installation is as it was.
+    not_applied,
+};
+
 // What became of a text revised in memory.
 enum class text_outcome_status { revised = 0, not_started = 1, refused = 2 };
 
@@ -50,7 +60,8 @@ public:
     std::string plugin_interface_version_of(std::string const& path) const;
     std::string plugin_interface_version() const;
 
-    // Import and export.
+    // Import and export. An addon is imported only under the name its own text gives it,
+    // "<style>[<language>].style"; another name gives an empty description.
     std::string import_language_from(std::string const& path) const;
     style_description import_style_from(std::string const& path, std::string const& language) const;
     style_description import_style_from(std::string const& path) const;
@@ -113,6 +124,8 @@ public:
     // `revised`; empty when they are equal.
     std::string unified_diff_of(std::string const& label, std::string const& text,
                                 std::string const& revised) const;
+    // Whether `git apply` can find the file of that label in such a diff.
+    bool git_reads_the_name_in_a_diff(std::string const& label) const;
     // The languages (in the order of the plugins) whose filename extensions hold the extension
     // of `file_name` (compared exactly).
     std::vector<std::string> languages_of_file_named(std::string const& file_name) const;
@@ -127,7 +140,9 @@ public:
                                        std::function<void(unsigned long, unsigned long)> const& progress,
                                        std::atomic<bool> const& stop) const;
 
-    // Self-update.
+    // Self-update: a copy of the file, proved to be this product's executable, replaces the
+    // running one at its next start.
+    update_outcome update_with(std::string const& path_to_new_executable) const;
     bool apply(std::string const& path_to_new_executable) const;
     void remove_old_executable_if_required() const;
 

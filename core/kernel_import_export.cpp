@@ -23,6 +23,17 @@ bool store_addon(std::string const& path, style_description const& description) 
     });
 }
 
+// An addon is imported by what its own text says: the file must bear the name that text gives it,
+// "<style>[<language>].style", so that the name a user sees is the style installed, and no file
+// can install a second copy of a style under another name.
+style_description description_of_addon_to_import(std::string const& path) {
+    style_description const description = obtain_style_description().from_raw(path);
+    if (description.is_empty() ||
+        QFileInfo(from_utf8(path)).fileName() != from_utf8(addon_file_name_for(description.style, description.language)))
+        return style_description();
+    return description;
+}
+
 }  // namespace
 
 std::string kernel::import_language_from(std::string const& path) const {
@@ -45,7 +56,7 @@ std::string kernel::import_language_from(std::string const& path) const {
 
 style_description kernel::import_style_from(std::string const& path,
                                             std::string const& language) const {
-    style_description const description = obtain_style_description().from_raw(path);
+    style_description const description = description_of_addon_to_import(path);
     // A file that is no addon is never installed: it would hide every style.
     if (description.is_empty() || description.language != language)
         return description;
@@ -53,7 +64,7 @@ style_description kernel::import_style_from(std::string const& path,
 }
 
 style_description kernel::import_style_from(std::string const& path) const {
-    style_description const description = obtain_style_description().from_raw(path);
+    style_description const description = description_of_addon_to_import(path);
     if (description.is_empty())
         return description;
     // The front ends refuse a style of a language that is not installed before they get here.

@@ -108,6 +108,10 @@ std::string kernel::unified_diff_of(std::string const& label, std::string const&
     return ::unified_diff_of(label).between(text, revised);
 }
 
+bool kernel::git_reads_the_name_in_a_diff(std::string const& label) const {
+    return ::git_reads_the_name_in_a_diff(label);
+}
+
 std::vector<std::string> kernel::languages_of_file_named(std::string const& file_name) const {
     std::string const extension = QFileInfo(QString::fromStdString(file_name)).suffix().toStdString();
     std::vector<std::string> languages;

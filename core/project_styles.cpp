@@ -1,11 +1,15 @@
 #include "core/project_styles.h"
 
+#include "core/style_addon.h"
 #include "engine/read_from.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <boost/algorithm/string/classification.hpp>
 #include <boost/algorithm/string/trim.hpp>
+
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -51,6 +55,7 @@ project_styles read_project_styles::from(QString const& file) const {
     int language_line = 0;
     bool language_has_style = true;
     int number = 0;
+    std::vector<std::pair<std::string, int>> addon_lines;  // language, line, in the order of the lines
     std::size_t start = 0;
     while (start < text.size()) {
         std::size_t end = text.find('\n', start);
@@ -92,9 +97,22 @@ project_styles read_project_styles::from(QString const& file) const {
             chosen.style = value;
         else
             chosen.addon_path = QDir::cleanPath(base.absoluteFilePath(QString::fromStdString(value)));
+        if (key == "addon")
+            addon_lines.emplace_back(language, number);
         language_has_style = true;
     }
     if (!language_has_style)
         return faulty(styles, project_styles_fault::language_without_style, language_line);
+    // An addon of another language would revise the files of its own language, or, finding none,
+    // check nothing at all. One that cannot be read or is no addon is left to the use that reads
+    // it, which says why.
+    for (auto const& [language_named, line] : addon_lines) {
+        style_description const addon = obtain_style_description().from_raw(styles.by_language[language_named].addon_path);
+        if (!addon.is_empty() && addon.language != language_named) {
+            project_styles fault = faulty(styles, project_styles_fault::addon_of_another_language, line);
+            fault.language_of_faulty_addon = addon.language;
+            return fault;
+        }
+    }
     return styles;
 }

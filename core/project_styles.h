@@ -37,6 +37,8 @@ enum class project_styles_fault {
     second_style,
     // A "[language]" without a style or addon line.
     language_without_style,
+    // An "addon" line naming an addon whose own text gives it another language.
+    addon_of_another_language,
 };
 
 struct project_styles {
@@ -45,6 +47,8 @@ struct project_styles {
     std::map<std::string, project_style> by_language;
     project_styles_fault fault = project_styles_fault::none;
     int faulty_line = 0;  // 1 for the first line
+    // For an addon of another language: the language its text names.
+    std::string language_of_faulty_addon;
 
     bool were_found() const { return !file.isEmpty(); }
 };

@@ -3,6 +3,7 @@
 #include "engine/interruption_by_signal.h"
 #include "engine/revision_run.h"
 #include "engine/unified_diff.h"
+#include "engine/write_in.h"
 
 #include <QDir>
 
@@ -16,13 +17,20 @@ int console_checker::operator()(revision_request request, check_output output) {
     interruption_by_signal const interruption;
     // By path, so that the diff reads the same however the files were taken.
     std::map<QString, std::string> diffs;
+    // Files whose names git could not read in the diff: named on standard error instead, so that
+    // `git apply` takes the rest.
+    std::string left_out;
     std::mutex diffs_lock;
     request.writes_nothing = true;
     if (output == check_output::diff)
         request.would_change = [&](QString const& path, std::string const& text, std::string const& revised) {
-            std::string diff = unified_diff_of(label_in_diff_of(path)).between(text, revised);
+            std::string const label = label_in_diff_of(path);
             std::lock_guard<std::mutex> const hold(diffs_lock);
-            diffs[path] = std::move(diff);
+            if (!git_reads_the_name_in_a_diff(label)) {
+                write_in(left_out).about_file_left_out_of_diff(path);
+                return;
+            }
+            diffs[path] = unified_diff_of(label).between(text, revised);
         };
     std::ostream& report_stream = output == check_output::diff ? err : out;
     err << "Preparing, please wait..." << std::flush;
@@ -43,7 +51,7 @@ int console_checker::operator()(revision_request request, check_output output) {
     for (auto const& diff : diffs)
         out << diff.second;
     out << std::flush;
-    report_stream << "It's done." << std::string(25, ' ') << '\n' << report << '\n' << std::flush;
+    report_stream << "It's done." << std::string(25, ' ') << '\n' << left_out << report << '\n' << std::flush;
     if (interrupted)
         return interruption.exit_status();
     if (run.failed() > 0)

@@ -25,7 +25,11 @@ int console_formatter::operator()(revision_request const& request) {
     err << '\r' << std::flush;
     out << "It's done." << std::string(25, ' ') << '\n' << report << '\n' << std::flush;
     // A signal that came after the last file has nothing left to stop: the run is complete.
-    return interrupted ? interruption.exit_status() : 0;
+    if (interrupted)
+        return interruption.exit_status();
+    // A run in which no file could be read, written or revised did nothing it was asked to.
+    bool const every_file_failed = run.found() > 0 && run.failed() == static_cast<unsigned long>(run.found());
+    return every_file_failed ? 1 : 0;
 }
 
 void console_formatter::show_this_file_was_revised(unsigned long revised, int found) {

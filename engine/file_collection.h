@@ -18,9 +18,12 @@ class obtain_full_file_paths_from {
 public:
     explicit obtain_full_file_paths_from(QStringList paths) : paths(std::move(paths)) {}
 
-    // Every path in order: a directory gives its files below it, at any depth, whose names match
-    // one of the extensions (symbolic links left out), as absolute paths; a regular file gives
-    // itself, as given; anything else gives nothing. `extensions` are separated by spaces.
+    // Every path in order: a directory gives its regular files below it, at any depth, whose
+    // names match one of the extensions (letters of either case; symbolic links, hidden files and
+    // hidden directories left out), as absolute paths, also below a path longer than the system
+    // takes and under names that are not UTF-8 (whose paths then name no file the run can open,
+    // so that it reports them); a regular file gives itself, as given; anything else gives
+    // nothing. `extensions` are separated by spaces.
     QStringList with(QString const& extensions) const;
     QStringList paths_from_this(QString const& path, QStringList const& name_filters) const;
 

@@ -1,6 +1,7 @@
 #include "engine/unified_diff.h"
 
 #include <algorithm>
+#include <regex>
 #include <string_view>
 #include <vector>
 
@@ -167,6 +168,14 @@ void append_line(std::string& diff, char mark, std::string_view line) {
 }
 
 }  // namespace
+
+bool git_reads_the_name_in_a_diff(std::string const& label) {
+    if (label.find_first_of("\t\n\r") != std::string::npos)
+        return false;
+    static std::regex const date_at_the_end(
+        " [0-9]{4}-[0-9]{2}-[0-9]{2}( [0-9]{2}:[0-9]{2}:[0-9]{2}(\\.[0-9]+)?)?( [+-][0-9]{4})?$");
+    return !std::regex_search(label, date_at_the_end);
+}
 
 std::string unified_diff_of::between(std::string const& text, std::string const& revised) const {
     if (text == revised)

@@ -7,6 +7,11 @@
 
 #include <string>
 
+// Whether `git apply` finds the file of that label in a diff: not when it holds a tab, a line
+// feed or a carriage return, or ends with what reads as a date (" 2024-01-31", a time and a zone
+// may follow), which git takes for the timestamp of a traditional diff header.
+bool git_reads_the_name_in_a_diff(std::string const& label);
+
 class unified_diff_of {
 public:
     // `label`: the path shown after "a/" and "b/", relative to where the diff is to be applied.

@@ -94,6 +94,11 @@ void write_in::about_file_that_would_change(QString const& path) const {
     report += "File '" + path.toStdString() + "' would be changed.\n";
 }
 
+void write_in::about_file_left_out_of_diff(QString const& path) const {
+    report += "File '" + path.toStdString() +
+              "' is left out of the diff: git cannot read its name there (a tab, a line break, or a date at its end).\n";
+}
+
 void write_in::finish_info_of_check(int found, unsigned long checked, unsigned long would_change) const {
     append_counts(report, found, checked, would_change,
                   {"No files was found, nothing was checked.", "checked", "would be changed"});

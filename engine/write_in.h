@@ -28,6 +28,8 @@ public:
 
     // A check, which writes nothing: a file the revision would change, and the counts.
     void about_file_that_would_change(QString const& path) const;
+    // A file that would change, left out of a diff because git could not read its name there.
+    void about_file_left_out_of_diff(QString const& path) const;
     void finish_info_of_check(int found, unsigned long checked, unsigned long would_change) const;
 
 private:

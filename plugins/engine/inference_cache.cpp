@@ -1,5 +1,7 @@
 // Disk entries are the inferred options in clang-format's configuration syntax: readable by a
-// person, and re-read by the engine's own parser.
+// person, and re-read by the engine's own parser. Their first line, a comment, holds the SHA-256
+// of the rest; an entry whose rest does not have it (emptied, cut short, edited) is damaged and
+// is inferred again and rewritten, never trusted.
 #include "inference_cache.h"
 
 #include "addon_forms.h"
@@ -53,21 +55,39 @@ QString cache_file_for(std::string const& key) {
     return directory.isEmpty() ? QString() : directory + "/" + QString::fromStdString(key) + ".clang-format";
 }
 
+QByteArray const checksum_lead = "# sha256 ";
+
+QByteArray checksum_line_of(QByteArray const& options) {
+    return checksum_lead + QCryptographicHash::hash(options, QCryptographicHash::Sha256).toHex() + "\n";
+}
+
+// The options an entry holds, when its checksum line vouches for them.
+bool verified_options_of(QByteArray const& entry, QByteArray& options) {
+    int const end_of_first_line = entry.indexOf('\n');
+    if (!entry.startsWith(checksum_lead) || end_of_first_line < 0)
+        return false;
+    options = entry.mid(end_of_first_line + 1);
+    return !options.isEmpty() && entry.left(end_of_first_line + 1) == checksum_line_of(options);
+}
+
 bool read_from_disk(std::string const& key, clang::format::FormatStyle& style) {
     QString const path = cache_file_for(key);
     QFile file(path);
     if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
         return false;
-    QByteArray const text = file.readAll();
+    QByteArray options;
+    if (!verified_options_of(file.readAll(), options))
+        return false;
     clang::format::FormatStyle read = token_safe_predefined_style("LLVM");
-    if (clang::format::parseConfiguration(text.toStdString(), &read))
+    if (clang::format::parseConfiguration(options.toStdString(), &read))
         return false;
     make_token_safe(read);
     style = read;
     return true;
 }
 
-// A cache that cannot be written is only slower, never wrong: failures are ignored.
+// A cache that cannot be written is only slower, never wrong: failures are ignored. The entry
+// takes the place of a damaged one in one rename.
 void write_to_disk(std::string const& key, clang::format::FormatStyle const& style) {
     QString const path = cache_file_for(key);
     if (path.isEmpty() || !QDir().mkpath(cache_directory()))
@@ -76,8 +96,31 @@ void write_to_disk(std::string const& key, clang::format::FormatStyle const& sty
     if (!file.open(QIODevice::WriteOnly))
         return;
     std::string const text = clang::format::configurationAsText(style);
-    file.write(text.data(), static_cast<qint64>(text.size()));
+    QByteArray const options(text.data(), static_cast<int>(text.size()));
+    file.write(checksum_line_of(options) + options);
     file.commit();
+}
+
+}  // namespace
+
+namespace {
+
+// No layout needs more white space in one place than this; a form that has more (a run of
+// hundreds of kilobytes of blanks) would make every one of the thousands of formattings the
+// search makes that much slower, and tells no more than a run of this length.
+std::size_t const longest_white_space_run = 256;
+
+std::string with_white_space_runs_bounded(std::string const& form) {
+    std::string bounded;
+    bounded.reserve(std::min(form.size(), std::size_t(1) << 16));
+    std::size_t run = 0;
+    for (char c : form) {
+        bool const blank = c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f';
+        run = blank ? run + 1 : 0;
+        if (run <= longest_white_space_run)
+            bounded += c;
+    }
+    return bounded;
 }
 
 }  // namespace
@@ -89,7 +132,7 @@ std::vector<form_case> form_cases_in(std::string const& addon, language_descript
         std::string const form = form_of_structure(each.name).in(addon);
         if (form.empty() || !style_tarnel::match_in_full(expressions.at(each.name)).of(form))
             continue;
-        cases.push_back({each.name, with_instances(form_as_code(form)), each.decides});
+        cases.push_back({each.name, with_instances(form_as_code(with_white_space_runs_bounded(form))), each.decides});
     }
     return cases;
 }

@@ -11,7 +11,11 @@
 #include <QFileInfo>
 #include <QtTest>
 
+#include <algorithm>
+
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
@@ -59,6 +63,16 @@ private slots:
     void the_diff_applies_with_git_apply();
     void an_addon_file_is_refused_as_an_import_refuses_it_data();
     void an_addon_file_is_refused_as_an_import_refuses_it();
+    void standard_input_fails_when_standard_output_does_data();
+    void standard_input_fails_when_standard_output_does();
+    void a_name_git_cannot_read_is_left_out_of_the_diff_data();
+    void a_name_git_cannot_read_is_left_out_of_the_diff();
+    void files_the_system_cannot_name_are_counted_and_reported_data();
+    void files_the_system_cannot_name_are_counted_and_reported();
+    void a_damaged_inference_cache_entry_is_inferred_again_data();
+    void a_damaged_inference_cache_entry_is_inferred_again();
+    void a_form_of_blanks_is_inferred_as_one_without_them_data();
+    void a_form_of_blanks_is_inferred_as_one_without_them();
 };
 
 // The rows come from checks.txt, which tells what each column holds.
@@ -175,6 +189,182 @@ void test_ci_and_editors::an_addon_file_is_refused_as_an_import_refuses_it() {
     QCOMPARE(bundle.installed_addons(), installed_bundle().installed_addons());
     COMPARE_RUN(bundle.run({"--addon=" + file, "-p=a.tst"}), imported.err, "", 1);
     QCOMPARE(bundle.contents_of(bundle.work_directory() + "/a.tst"), QByteArray("a  b\n"));
+}
+
+// The editor gets its buffer back on standard output, or, when that cannot be written, a status
+// that says so: never 0 for a text that went nowhere.
+void test_ci_and_editors::standard_input_fails_when_standard_output_does_data() {
+    QTest::addColumn<QString>("redirection");
+    QTest::addColumn<QString>("mode");
+    for (auto const& [name, redirection] : {std::pair{"closed", "exec >&-;"}, {"full", "exec >/dev/full;"}})
+        for (auto const& mode : {"revise", "diff"})
+            QTest::newRow(qPrintable(QString(name) + ", " + mode)) << redirection << mode;
+}
+
+void test_ci_and_editors::standard_input_fails_when_standard_output_does() {
+    QFETCH(QString, redirection);
+    QFETCH(QString, mode);
+    installed_bundle bundle;
+    run_options options;
+    options.input = "a  b\n";
+    options.shell_prefix = redirection;
+    QStringList words{"-l=Test", "-s=Plain", "-p=-"};
+    if (mode == "diff")
+        words << "--diff";
+    run_result const result = bundle.run(words, options);
+    QCOMPARE(QString::fromUtf8(result.err), QString("I cannot write the text to standard output, it is closed or full.\n"));
+    QCOMPARE(result.status, 2);
+}
+
+// Names git reads otherwise in a diff header: the file is named on standard error and left out,
+// so that `git apply` takes the rest of the diff.
+void test_ci_and_editors::a_name_git_cannot_read_is_left_out_of_the_diff_data() {
+    QTest::addColumn<QByteArray>("name");
+    QTest::newRow("a tab") << QByteArray("a\tb.tst");
+    QTest::newRow("a line feed") << QByteArray("a\nb.tst");
+    QTest::newRow("a carriage return") << QByteArray("a\rb.tst");
+    QTest::newRow("a date and time at the end") << QByteArray("notes 2024-01-31 10:00:00.000");
+}
+
+void test_ci_and_editors::a_name_git_cannot_read_is_left_out_of_the_diff() {
+    QFETCH(QByteArray, name);
+    installed_bundle bundle;
+    QString const work = bundle.work_directory();
+    QString const odd = bundle.write_file("src/" + QFile::decodeName(name), "a  b\n");
+    bundle.write_file("src/ok.tst", "c  d\n");
+    run_result const diff = bundle.run({"-l=Test", "-s=Plain", "-p=src", "--exts=tst,000", "--diff"});
+    QCOMPARE(diff.status, 1);
+    QVERIFY2(diff.err.contains("File '" + odd.toUtf8() + "' is left out of the diff: git cannot read its name there"),
+             diff.err.constData());
+    QVERIFY(!diff.out.contains(name));
+    QCOMPARE(git(work, {"init", "-q"}), 0);
+    QVERIFY2(git(work, {"apply", "-"}, diff.out) == 0, diff.out.constData());
+    QCOMPARE(bundle.contents_of(work + "/src/ok.tst"), QByteArray("c d\n"));
+    QCOMPARE(bundle.contents_of(odd), QByteArray("a  b\n"));
+    // Standard input under such a name: named, and no diff.
+    run_options options;
+    options.input = "a  b\n";
+    run_result const from_input =
+        bundle.run({"-l=Test", "-s=Plain", "-p=-", "--assume-filename=" + QFile::decodeName(name), "--diff"}, options);
+    QCOMPARE(from_input.out, QByteArray());
+    QVERIFY(from_input.err.contains("is left out of the diff"));
+    QCOMPARE(from_input.status, 1);
+}
+
+namespace {
+
+// Makes a file below `directory` whose path is given as bytes, one directory at a time from the
+// descriptor of the one above, so that a path longer than the system takes can be made.
+bool make_file_at(QString const& directory, QList<QByteArray> const& parts, QByteArray const& content) {
+    int at = ::open(QFile::encodeName(directory).constData(), O_RDONLY | O_DIRECTORY);
+    for (int i = 0; at >= 0 && i + 1 < parts.size(); ++i) {
+        ::mkdirat(at, parts[i].constData(), 0755);
+        int const below = ::openat(at, parts[i].constData(), O_RDONLY | O_DIRECTORY);
+        ::close(at);
+        at = below;
+    }
+    if (at < 0)
+        return false;
+    int const file = ::openat(at, parts.last().constData(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    ::close(at);
+    if (file < 0)
+        return false;
+    bool const written = ::write(file, content.constData(), static_cast<size_t>(content.size())) == content.size();
+    ::close(file);
+    return written;
+}
+
+}  // namespace
+
+// Files a path cannot name to the system (longer than 4,096 bytes), or whose names are not UTF-8,
+// are found and counted, and the report names each; none is left out unseen.
+void test_ci_and_editors::files_the_system_cannot_name_are_counted_and_reported_data() {
+    QTest::addColumn<QList<QByteArray>>("parts");
+    QList<QByteArray> deep;
+    for (int level = 0; level < 20; ++level)
+        deep << QByteArray(250, 'd');
+    deep << "deep.tst";
+    QTest::newRow("a path longer than 4096 bytes") << deep;
+    QTest::newRow("a name that is not UTF-8") << QList<QByteArray>{"sub", "caf\xe9.tst"};
+}
+
+void test_ci_and_editors::files_the_system_cannot_name_are_counted_and_reported() {
+    QFETCH(QList<QByteArray>, parts);
+    installed_bundle bundle;
+    bundle.write_file("src/ok.tst", "c  d\n");
+    QVERIFY(make_file_at(bundle.work_directory() + "/src", parts, "a  b\n"));
+    run_result const result = bundle.run({"-l=Test", "-s=Plain", "-p=src"});
+    QVERIFY2(result.out.contains("2 files was found"), result.out.constData());
+    QString const reported = QFile::decodeName(bundle.work_directory().toUtf8() + "/src/" + parts.join('/'));
+    QVERIFY2(QString::fromUtf8(result.out).contains("Sorry, I can't revise file '" + reported + "'"), result.out.constData());
+    QCOMPARE(bundle.contents_of(bundle.work_directory() + "/src/ok.tst"), QByteArray("c d\n"));
+}
+
+// An entry of the inference cache that was emptied, cut short or edited is not trusted: the
+// revision is the style's, as with no entry at all, and the entry is whole again afterwards. And
+// an addon whose form holds a run of 800 KB of blanks is inferred as the form without them.
+void test_ci_and_editors::a_damaged_inference_cache_entry_is_inferred_again_data() {
+    QTest::addColumn<QString>("damage");
+    QTest::newRow("emptied") << "emptied";
+    QTest::newRow("cut after 100 lines") << "cut after 100 lines";
+    QTest::newRow("an option changed") << "an option changed";
+}
+
+void test_ci_and_editors::a_damaged_inference_cache_entry_is_inferred_again() {
+    QFETCH(QString, damage);
+    installed_bundle bundle;
+    QVERIFY(bundle.add_plugin(built::build_dir() + "/PlugIns/languages/libc-language-plugin.so"));
+    bundle.add_addon("GNU[C].style", bundle.contents_of(built::build_dir() + "/PlugIns/styles/GNU[C].style"));
+    run_options options;
+    options.input = "int f(int a){if(a){return 1;}return 0;}\n";
+    QStringList const words{"-l=C", "-s=GNU", "-p=-"};
+    run_result const first = bundle.run(words, options);
+    QCOMPARE(first.status, 0);
+    QVERIFY(first.out != options.input);
+    QStringList const entries = QDir(bundle.cache_home() + "/style-tarnel").entryList({"*.clang-format"}, QDir::Files);
+    QCOMPARE(entries.size(), 1);
+    QString const entry = bundle.cache_home() + "/style-tarnel/" + entries.first();
+    QByteArray const whole = bundle.contents_of(entry);
+    QByteArray damaged;
+    if (damage == "cut after 100 lines")
+        damaged = whole.left(static_cast<int>(std::distance(whole.begin(), std::find_if(whole.begin(), whole.end(), [n = 0](char c) mutable {
+                                  return c == '\n' && ++n == 100;
+                              }))) + 1);
+    else if (damage == "an option changed")
+        damaged = QByteArray(whole).replace("BreakBeforeBraces: GNU", "BreakBeforeBraces: Attach");
+    QVERIFY(damaged != whole);
+    QFile file(entry);
+    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    file.write(damaged);
+    file.close();
+    COMPARE_RUN(bundle.run(words, options), "", first.out, 0);
+    QCOMPARE(bundle.contents_of(entry), whole);
+}
+
+// A form whose white space runs for hundreds of kilobytes tells no more than a sane one: the
+// search for the options, which formats the forms thousands of times, must not take it whole.
+// The bound is twenty times what such a run takes here (about a second, with the search); it
+// took 35 s when the form was searched whole, and a Ctrl-C waited for it.
+void test_ci_and_editors::a_form_of_blanks_is_inferred_as_one_without_them_data() {
+    QTest::addColumn<QByteArray>("blanks");
+    QTest::newRow("800 KB of blanks") << QByteArray(800000, ' ');
+}
+
+void test_ci_and_editors::a_form_of_blanks_is_inferred_as_one_without_them() {
+    QFETCH(QByteArray, blanks);
+    installed_bundle bundle;
+    QVERIFY(bundle.add_plugin(built::build_dir() + "/PlugIns/languages/libc-language-plugin.so"));
+    QByteArray const gnu = bundle.contents_of(built::build_dir() + "/PlugIns/styles/GNU[C].style");
+    bundle.add_addon("GNU[C].style", gnu);
+    QByteArray const form = "type name[] = { SOME, SOME, SOME };";
+    QVERIFY(gnu.contains(form));
+    bundle.write_file("Blanks[C].style", QByteArray(gnu).replace("NAME=GNU", "NAME=Blanks")
+                                             .replace(form, "type name[] = {" + blanks + "SOME, SOME, SOME };"));
+    run_options options;
+    options.input = "int f(int a){if(a){return 1;}return 0;}\n";
+    run_result const in_style = bundle.run({"-l=C", "-s=GNU", "-p=-"}, options);
+    options.timeout_ms = 20000;
+    COMPARE_RUN(bundle.run({"--addon=Blanks[C].style", "-p=-", "--assume-filename=a.c"}, options), "", in_style.out, 0);
 }
 
 QTEST_GUILESS_MAIN(test_ci_and_editors)

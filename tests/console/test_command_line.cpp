@@ -24,9 +24,27 @@ void open_to_others(QString const& path) {
 }
 
 // The variations of the installed bundle a row asks for; all but "lone" and "no language" start
-// from the test languages, and every work directory holds the same files to name.
-void set_up(installed_bundle& bundle, QString const& setup) {
+// from the test languages, and every work directory holds the same files to name. `outside` holds
+// what the unprivileged user must not read: everything in the bundle is opened to that user.
+void set_up(installed_bundle& bundle, QString const& setup, QTemporaryDir const& outside) {
     bundle.write_file("a.tst", "a  b\n");
+    // Addons whose names say another style than their text.
+    bundle.write_file("Evil.style", addon_text("Plain", "Test", "begin  SOME  end"));
+    bundle.write_file("Neat[Test].style", addon_text("Plain", "Test", "begin  SOME  end"));
+    QDir(bundle.work_directory()).mkpath("Folder[Test].style");
+    // Files only read, of another user (root) to the unprivileged user: readable, not writable;
+    // and one that user cannot read.
+    QString const twin = bundle.write_file("ReadOnly/libtwin-language-plugin.so", "");
+    QFile::remove(twin);
+    QFile::copy(built::twin_language_plugin(), twin);
+    QFile::setPermissions(twin, QFile::ReadOwner | QFile::ReadOther);
+    QFile closed(outside.path() + "/Closed[Test].style");
+    if (closed.open(QIODevice::WriteOnly))
+        closed.write(addon_text("Closed", "Test"));
+    closed.close();
+    QFile::setPermissions(closed.fileName(), QFile::ReadOwner | QFile::WriteOwner);
+    QFile::setPermissions(outside.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ExeOther);
+    QFile::link(closed.fileName(), bundle.work_directory() + "/Closed[Test].style");
     bundle.write_file("House[Test].style", addon_text("House", "Test"));
     bundle.write_file("kept/Plain[Test].style", addon_text("Plain", "Test", "begin  SOME  end"));
     bundle.write_file("K[C].style", addon_text("K", "C"));
@@ -34,6 +52,8 @@ void set_up(installed_bundle& bundle, QString const& setup) {
         bundle.write_file(name, addon_text("House", "Test"));
     QString const read_only = bundle.write_file("ReadOnly[Test].style", addon_text("ReadOnly", "Test"));
     QFile::setPermissions(read_only, QFile::ReadOwner | QFile::ReadOther);
+    bundle.write_file("project/.style-tarnel", "[Test]\naddon = ../ReadOnly[Test].style\n");
+    bundle.write_file("project/a.tst", "a  b\n");
     bundle.write_file("out/Wide[Test].style", "an older export\n");
     for (QString const& plugin : {built::other_language_plugin(), built::library_without_plugin(),
                                   built::plugin_without_interface()})
@@ -64,6 +84,10 @@ void set_up(installed_bundle& bundle, QString const& setup) {
         QFile::setPermissions(addons + "/Plain[Test].style", QFile::ReadOwner | QFile::ReadOther);
         bundle.share_with_unprivileged_user();
         open_to_others(addons);
+    } else if (setup == "open store") {
+        bundle.share_with_unprivileged_user();
+        open_to_others(plugins);
+        open_to_others(addons);
     } else if (setup == "closed") {
         QFile::setPermissions(bundle.work_directory() + "/out", QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
                                                                     QFile::ReadOther | QFile::ExeOther);
@@ -81,6 +105,8 @@ private slots:
     void a_person_at_a_terminal_accepts_the_agreement_once();
     void updates_the_executable_and_cleans_up_at_the_next_start();
     void refuses_an_update_it_cannot_apply();
+    void refuses_an_update_that_is_no_executable_of_ours_data();
+    void refuses_an_update_that_is_no_executable_of_ours();
 };
 
 // The rows come from answers.txt, where every message can be read word for word.
@@ -104,14 +130,15 @@ void test_command_line::answers() {
     QFETCH(int, status);
     QFETCH(QString, store);
     installed_bundle bundle;
-    set_up(bundle, setup);
+    QTemporaryDir const outside;
+    set_up(bundle, setup, outside);
     QString const before = store_of(bundle);
     QByteArray const kept = bundle.contents_of(bundle.addons_directory() + "/Plain[Test].style");
     auto filled = [&](QByteArray text) {
         return text.replace("%W", bundle.work_directory().toUtf8()).replace("%H", bundle.home().toUtf8());
     };
     run_options options;
-    options.unprivileged = setup == "nobody" || setup == "kept addon" || setup == "closed";
+    options.unprivileged = setup == "nobody" || setup == "kept addon" || setup == "closed" || setup == "open store";
     if (setup == "throwing")
         options.extra_environment.insert("TEST_PLUGIN_THROWING", "other-language-plugin");
     COMPARE_RUN(bundle.run(words, options), filled(err), filled(out), status);
@@ -195,6 +222,35 @@ void test_command_line::refuses_an_update_it_cannot_apply() {
                 "I cannot apply update '" + bundle.executable().toUtf8() + "'.\n", "", 1);
     QCOMPARE(QDir(bin).entryList(QDir::Files), QStringList{"Style Tarnel"});
     QCOMPARE(temporary_bundle::contents_of(bundle.executable()), original);
+}
+
+// A file that does not run as this product and answer "-v" with its version line is no update: the
+// installation stays as it was, and the program still starts.
+void test_command_line::refuses_an_update_that_is_no_executable_of_ours_data() {
+    QTest::addColumn<QByteArray>("content");
+    QTest::newRow("text") << QByteArray("just some notes\n");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("a library") << temporary_bundle::contents_of(built::test_language_plugin());
+    QTest::newRow("another program") << QByteArray("#!/bin/sh\necho 'Some Tool, version 2.0.0' >&2\n");
+    QTest::newRow("our line on standard output") << QByteArray("#!/bin/sh\necho 'Style Tarnel, version 2.0.0'\n");
+    QTest::newRow("our line, then failing") << QByteArray("#!/bin/sh\necho 'Style Tarnel, version 2.0.0' >&2\nexit 1\n");
+    QTest::newRow("our line without a version") << QByteArray("#!/bin/sh\necho 'Style Tarnel, version ' >&2\n");
+    QTest::newRow("never answering") << QByteArray("#!/bin/sh\nexec sleep 600\n");
+}
+
+void test_command_line::refuses_an_update_that_is_no_executable_of_ours() {
+    QFETCH(QByteArray, content);
+    installed_bundle bundle;
+    QString const update = bundle.write_file("update", content);
+    QByteArray const original = temporary_bundle::contents_of(bundle.executable());
+    COMPARE_RUN(bundle.run({"--update=update"}),
+                "I cannot apply update '" + update.toUtf8() +
+                    "', it is not an executable of Style Tarnel: it must answer '-v' with 'Style Tarnel, version ' and "
+                    "its version.\n",
+                "", 1);
+    QCOMPARE(QDir(bundle.root() + "/bin").entryList(QDir::Files | QDir::Hidden), QStringList{"Style Tarnel"});
+    QCOMPARE(temporary_bundle::contents_of(bundle.executable()), original);
+    COMPARE_RUN(bundle.run({"-v"}), version, "", 0);
 }
 
 QTEST_GUILESS_MAIN(test_command_line)
