@@ -16,6 +16,10 @@ namespace {
 QByteArray const done = "It's done." + QByteArray(25, ' ') + "\n";
 QByteArray const untidy_line = "int  x;\n", tidy_line = "int x;\n";
 
+QByteArray edited_meanwhile(QString const& path) {
+    return "Sorry, I can't revise file '" + path.toUtf8() + "', because it was edited while it was being revised. The edit is kept.\n\n";
+}
+
 QByteArray invalid_file(QString const& path) {
     return "Sorry, I can't revise file '" + path.toUtf8() + "'. If this file exists - please check read/write permissions.\n\n";
 }
@@ -161,7 +165,7 @@ void test_runs_under_fault::a_file_edited_or_removed_while_the_plugin_has_it_is_
     QVERIFY(QFile::remove(removed));
     run_result const result = program.finish();
     QCOMPARE(result.status, 0);
-    QCOMPARE(QString::fromUtf8(result.out), QString::fromUtf8(done + invalid_file(edited) + invalid_file(removed) +
+    QCOMPARE(QString::fromUtf8(result.out), QString::fromUtf8(done + edited_meanwhile(edited) + invalid_file(removed) +
                                                               "6 files was found, 6 files was revised, 4 files was changed.\n"));
     QCOMPARE(temporary_bundle::contents_of(edited), tree.untidy(1) + "edited  meanwhile\n");
     QCOMPARE(temporary_files_below(bundle.root()), QStringList());
