@@ -8,8 +8,10 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QtTest>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <utime.h>
@@ -23,6 +25,31 @@ void set_modification_time_ahead(QString const& path) {
     struct utimbuf times {};
     times.actime = times.modtime = static_cast<time_t>(later);
     ::utime(QFile::encodeName(path).constData(), &times);
+}
+
+// Writes `content` into the file in place and gives it back the second of its modification time,
+// without nanoseconds, as a checkout in the same second might.
+void restore_in_the_same_second(QString const& path, QByteArray const& content) {
+    QByteArray const native = QFile::encodeName(path);
+    struct stat before {};
+    ::stat(native.constData(), &before);
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(content);
+    file.close();
+    struct timespec const times[2] = {{before.st_mtim.tv_sec, 0}, {before.st_mtim.tv_sec, 0}};
+    ::utimensat(AT_FDCWD, native.constData(), times, 0);
+}
+
+// Rewrites every change record in the older form: [revision time, language, style, addon time]
+// in whole seconds, here a minute ahead.
+void write_records_in_the_older_form(QString const& config_home) {
+    QSettings store(config_home + "/Style Tarnel/Style Tarnel records.conf", QSettings::IniFormat);
+    uint const ahead = static_cast<uint>(QDateTime::currentSecsSinceEpoch() + 60);
+    for (QString const& key : store.allKeys()) {
+        QVariantList const record = store.value(key).toList();
+        store.setValue(key, QVariantList{ahead, record.value(1), record.value(2), ahead});
+    }
 }
 
 // A bundle with the test languages, an addon with an invalid form, and files below src/ given
@@ -155,7 +182,12 @@ void test_revision::records_decide_what_the_next_run_revises() {
             set_modification_time_ahead(bundle.addons_directory() + "/" + step.mid(12));
         else if (step.startsWith("touch "))
             set_modification_time_ahead(bundle.work_directory() + "/" + step.mid(6));
-        if (step.startsWith("touch "))
+        if (step.startsWith("restore "))
+            restore_in_the_same_second(bundle.work_directory() + "/" + step.mid(8).section('=', 0, 0),
+                                       unescaped(step.section('=', 1)));
+        if (step == "older records")
+            write_records_in_the_older_form(bundle.config_home());
+        if (step.startsWith("touch ") || step.startsWith("restore ") || step == "older records")
             continue;
         QStringList words{"-l=Test", "-p=src", "-s=" + step.section(' ', 0, 0)};
         words += step.section(" => ", 0, 0).section(' ', 1).split(' ', Qt::SkipEmptyParts);

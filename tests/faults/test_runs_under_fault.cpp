@@ -131,6 +131,10 @@ void test_runs_under_fault::a_write_beyond_the_file_size_limit_leaves_the_file_a
     QVERIFY(temporary_bundle::contents_of(large_file) == large);
     QCOMPARE(temporary_bundle::contents_of(small_file), tidy_line);
     QCOMPARE(temporary_files_below(bundle.root()), QStringList());
+    // The failed write left no record: without the limit the next run revises that file.
+    QCOMPARE(bundle.run({"-l=Test", "-s=Plain", "-p=src"}).out,
+             done + "2 files was found, 1 file was revised, 1 file was changed.\n");
+    QVERIFY(temporary_bundle::contents_of(large_file) == tidy_line.repeated(4000));
 }
 
 void test_runs_under_fault::files_that_vanish_or_become_unreadable_are_reported_and_the_run_goes_on() {
