@@ -13,6 +13,7 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <utime.h>
 
@@ -85,6 +86,8 @@ class test_revision : public QObject {
 private slots:
     void outcomes_per_file_data();
     void outcomes_per_file();
+    void a_file_keeps_its_attributes_and_links_data();
+    void a_file_keeps_its_attributes_and_links();
     void records_decide_what_the_next_run_revises_data();
     void records_decide_what_the_next_run_revises();
 };
@@ -157,6 +160,44 @@ void test_revision::outcomes_per_file() {
     if (changed_row && ::stat(first.constData(), &status) == 0)
         QVERIFY((status.st_mode & 07777) == 0751 && status.st_uid == 65534 && status.st_gid == 65534);
     QCOMPARE(got.join(" | "), logged);
+}
+
+// A revised file is a new file put in the old one's place: it keeps the old one's extended
+// attributes; a file with a second name (a hard link) is refused, both names keep one file.
+void test_revision::a_file_keeps_its_attributes_and_links_data() {
+    QTest::addColumn<bool>("linked");
+    QTest::newRow("an extended attribute") << false;
+    QTest::newRow("a second name") << true;
+}
+
+void test_revision::a_file_keeps_its_attributes_and_links() {
+    QFETCH(bool, linked);
+    revision_bundle bundle({"a.tst=x  y"});
+    QByteArray const file = QFile::encodeName(bundle.source("a.tst"));
+    QByteArray const other = QFile::encodeName(bundle.work_directory() + "/a.other");
+    QVERIFY(::setxattr(file.constData(), "user.tarnel", "kept", 4, 0) == 0);
+    if (linked)
+        QVERIFY(::link(file.constData(), other.constData()) == 0);
+    QStringList logged;
+    run_result const result = bundle.revise({"-l=Test", "-s=Plain", "-p=src"}, logged);
+    QCOMPARE(result.status, 0);
+    char value[16] = {};
+    QCOMPARE(::getxattr(file.constData(), "user.tarnel", value, sizeof value), ssize_t(4));
+    QCOMPARE(QByteArray(value), QByteArray("kept"));
+    if (!linked) {
+        QCOMPARE(result.out, done + "1 file was found, 1 file was revised, 1 file was changed.\n");
+        QCOMPARE(bundle.contents_of(bundle.source("a.tst")), QByteArray("x y"));
+        return;
+    }
+    QCOMPARE(QString::fromUtf8(result.out),
+             QString::fromUtf8(done + "Sorry, I can't revise file '" + file +
+                               "', because it has several hard links, which a revision would separate.\n\n"
+                               "1 file was found, no files was revised.\n"));
+    QCOMPARE(logged, QStringList{"end_of_revision"});
+    struct stat one {}, two {};
+    QVERIFY(::stat(file.constData(), &one) == 0 && ::stat(other.constData(), &two) == 0);
+    QVERIFY(one.st_ino == two.st_ino);
+    QCOMPARE(bundle.contents_of(bundle.source("a.tst")), QByteArray("x  y"));
 }
 
 // The rows come from records.txt, which tells what each column holds.
