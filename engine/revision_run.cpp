@@ -74,6 +74,14 @@ bool revision_run::prepare() {
     case format_check::valid:
         break;
     }
+    if (!request.writes_nothing) {
+        // A file that was in the plugin's hands when an earlier run died waits until it changes.
+        std::lock_guard<std::mutex> const lock(records_guard);
+        hands = std::make_unique<files_in_plugin_hands>(records.settings(), request.language, request.style,
+                                                        addon_stamp);
+        for (QString const& left : hands->left_by_runs_that_died())
+            write.about_file_left_by_a_run_that_died(left);
+    }
     collected = obtain_full_file_paths_from(request.paths).with(QString::fromStdString(request.extensions));
     worker_count = workers_for(loader);
     return true;
@@ -150,10 +158,14 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
 
     outcome.reached = true;
     std::string result;
-    plugin_answer const answer = ask(*plugin, text, addon_text, result);
     // A record keeps what the run read, so a file saved since is revised again by the next run.
     // A run that writes nothing keeps no records.
     QString const stamp_as_read = request.writes_nothing ? QString() : as_read.stamp();
+    if (hands)
+        hands->given(path, stamp_as_read);
+    plugin_answer const answer = ask(*plugin, text, addon_text, result);
+    if (hands)
+        hands->taken_back(path);
     if (answer == plugin_answer::crashed) {
         plugin_crashed = true;
         write.about_plugin_crash_on(path, request.plugin_file);
@@ -218,11 +230,16 @@ void revision_run::take(QString const& path, file_outcome& outcome,
         request.would_change(path, outcome.text, outcome.revised);
     if (!request.writes_nothing && outcome.read) {
         std::lock_guard<std::mutex> const lock(records_guard);
-        if (!outcome.stamp.isEmpty())
+        if (!outcome.stamp.isEmpty()) {
             save_info_about_changes_of(records.settings())
                 .this_source_file(path, outcome.stamp, request.language, request.style, addon_stamp);
-        else
+            if (hands)
+                hands->recorded(path, outcome.stamp);
+        } else {
             remove_info_about_changes_of(records.settings()).this_source_file(path);
+            if (hands)
+                hands->forgotten(path);
+        }
         records.sync_if_due();
     }
     if (outcome.reached)
@@ -242,6 +259,8 @@ void revision_run::finish() {
     else
         write_in(report).finish_info(found(), revised_count, changed_count);
     records.sync();
+    // Every record is in the store's file now: nothing is in the plugin's hands.
+    hands.reset();
 }
 
 plugin_answer revision_run::revise_text(std::string const& text, std::string& result) {

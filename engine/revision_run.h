@@ -5,6 +5,7 @@
 #define STYLE_TARNEL_ENGINE_REVISION_RUN_H
 
 #include "engine/change_record_store.h"
+#include "engine/files_in_plugin_hands.h"
 #include "engine/plugin_answer.h"
 #include "engine/revision_request.h"
 #include "interface_to_language_plugin.h"
@@ -15,6 +16,7 @@
 
 #include <atomic>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <string>
 
@@ -72,6 +74,9 @@ private:
     unsigned long revised_count = 0;
     unsigned long changed_count = 0;
     unsigned long failed_count = 0;
+    // A run that keeps records: the files in the plugin's hands and the records earned, on disk
+    // at once. Declared before the store, so that the store syncs before the list goes.
+    std::unique_ptr<files_in_plugin_hands> hands;
     change_record_store records;
     mutable std::mutex records_guard;  // workers read the records while this thread writes them
     int worker_count = 1;

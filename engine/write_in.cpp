@@ -63,6 +63,11 @@ void write_in::about_file_left_after_a_crash(QString const& path, std::string co
               "' crashed on an earlier file.\n\n";
 }
 
+void write_in::about_file_left_by_a_run_that_died(QString const& path) const {
+    report += "Sorry, I can't revise file '" + path.toStdString() +
+              "', because an earlier run ended while the plugin had it. It waits until it changes.\n\n";
+}
+
 void write_in::about_paths_with_unallowed(std::string const& extensions) const {
     std::string listed = extensions;
     std::replace(listed.begin(), listed.end(), ' ', ',');

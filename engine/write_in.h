@@ -28,6 +28,8 @@ public:
     // The file (or text) on which the plugin crashed, and each file the run then did not hand to it.
     void about_plugin_crash_on(QString const& path, std::string const& plugin_file) const;
     void about_file_left_after_a_crash(QString const& path, std::string const& plugin_file) const;
+    // A file that was in the plugin's hands when an earlier run died.
+    void about_file_left_by_a_run_that_died(QString const& path) const;
     // `extensions` joined by single spaces; the message lists them joined by commas.
     void about_paths_with_unallowed(std::string const& extensions) const;
     void about_interruption() const;

@@ -43,6 +43,7 @@ class test_plugin_crashes : public QObject {
 private slots:
     void the_run_survives_a_crash_on_one_file_data();
     void the_run_survives_a_crash_on_one_file();
+    void a_run_that_dies_keeps_its_records_and_the_file_waits();
 };
 
 void test_plugin_crashes::the_run_survives_a_crash_on_one_file_data() {
@@ -107,6 +108,26 @@ void test_plugin_crashes::the_run_survives_a_crash_on_one_file() {
     QCOMPARE(bundle.contents_of(bundle.fourth), QByteArray("e f"));
     QCOMPARE(bundle.contents_of(bundle.crashing), "x  " + marker);
     QCOMPARE(bundle.run(words, options).out, done + "4 files was found, no files was revised.\n");
+    QCOMPARE(temporary_files_below(bundle.root()), QStringList());
+}
+
+// SIGKILL from the plugin: nothing survives it in the process. The records of the files revised
+// before it (not yet synced to the store) are kept, and the file it died on waits until it
+// changes, named in the next run's report.
+void test_plugin_crashes::a_run_that_dies_keeps_its_records_and_the_file_waits() {
+    crash_bundle bundle("libcrashing-language-plugin.so", "CRASH_KILL");
+    QStringList const words{"-l=Test", "-s=Plain", "-p=src/f1.tst", "-p=src/f2.tst", "-p=src/f3.tst", "-p=src/f4.tst"};
+    run_result const killed = bundle.run(words);
+    QCOMPARE(killed.crashed, true);
+    QCOMPARE(bundle.contents_of(bundle.first), QByteArray("a b"));
+    run_result const next = bundle.run(words);
+    QCOMPARE(next.crashed, false);
+    QCOMPARE(QString::fromUtf8(next.out),
+             QString::fromUtf8(done + "Sorry, I can't revise file '" + bundle.crashing.toUtf8() +
+                               "', because an earlier run ended while the plugin had it. It waits until it changes.\n\n"
+                               "4 files was found, 2 files was revised, 1 file was changed.\n"));
+    QCOMPARE(bundle.contents_of(bundle.third), QByteArray("c d"));
+    QCOMPARE(bundle.run(words).out, done + "4 files was found, no files was revised.\n");
     QCOMPARE(temporary_files_below(bundle.root()), QStringList());
 }
 

@@ -72,6 +72,8 @@ void crash_if_asked(std::string const& source) {
         std::abort();
     if (source.find("CRASH_RECURSION") != std::string::npos)
         deeper(0);
+    if (source.find("CRASH_KILL") != std::string::npos)
+        std::raise(SIGKILL);
 }
 #else
 void crash_if_asked(std::string const&) {}
