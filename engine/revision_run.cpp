@@ -132,9 +132,10 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
     if (!(request.writes_nothing ? before.is_readable_file() : before.is_readable_and_writable_file()))
         return failure();
     if (!request.records_ignored) {
+        QString const stamp = before.stamp();  // made outside the lock the workers share
         std::lock_guard<std::mutex> const lock(records_guard);
         if (this_source_file(records.settings())
-                .was_not_changed(path, before.stamp(), request.language, request.style, addon_stamp))
+                .was_not_changed(path, stamp, request.language, request.style, addon_stamp))
             return outcome;
     }
     // A rename would give only this name the new text; see write_to.h.
