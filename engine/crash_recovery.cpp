@@ -6,7 +6,22 @@
 #include <mutex>
 #include <signal.h>
 
+#if defined(__SANITIZE_ADDRESS__)
+#define STYLE_TARNEL_UNDER_SANITIZER 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(undefined_behavior_sanitizer)
+#define STYLE_TARNEL_UNDER_SANITIZER 1
+#endif
+#endif
+#ifdef STYLE_TARNEL_UNDER_SANITIZER
+#include <sanitizer/common_interface_defs.h>
+#endif
+
 namespace {
+
+// Set when a sanitizer has found an error and ends the process (with abort_on_error, by abort()):
+// that abort is the sanitizer's verdict on the program, which a recovery must not swallow.
+volatile std::sig_atomic_t sanitizer_is_dying = 0;
 
 int const guarded_signals[] = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGABRT};
 constexpr int signal_count = sizeof guarded_signals / sizeof guarded_signals[0];
@@ -16,7 +31,8 @@ struct sigaction previous_actions[signal_count];
 thread_local sigjmp_buf* landing = nullptr;
 
 extern "C" void on_crash(int number, siginfo_t*, void*) {
-    if (sigjmp_buf* const target = landing) {
+    sigjmp_buf* const target = landing;
+    if (target != nullptr && !sanitizer_is_dying) {
         landing = nullptr;
         siglongjmp(*target, number);
     }
@@ -30,6 +46,9 @@ extern "C" void on_crash(int number, siginfo_t*, void*) {
 void install_handlers_once() {
     static std::once_flag installed;
     std::call_once(installed, [] {
+#ifdef STYLE_TARNEL_UNDER_SANITIZER
+        __sanitizer_set_death_callback([] { sanitizer_is_dying = 1; });
+#endif
         struct sigaction action {};
         action.sa_sigaction = on_crash;
         sigemptyset(&action.sa_mask);

@@ -13,7 +13,8 @@
 //
 // Under AddressSanitizer (whose allow_user_segv_handler is on by default) this handler replaces
 // ASan's for these signals while the program runs; a thread that already has an alternate stack
-// (ASan gives every thread one) keeps it.
+// (ASan gives every thread one) keeps it. A sanitizer's own report ends the process as before: its
+// abort() is not taken for a plugin's crash.
 #ifndef STYLE_TARNEL_ENGINE_CRASH_RECOVERY_H
 #define STYLE_TARNEL_ENGINE_CRASH_RECOVERY_H
 
