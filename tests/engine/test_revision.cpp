@@ -180,7 +180,8 @@ void test_revision::a_file_keeps_its_attributes_and_links() {
         QVERIFY(::link(file.constData(), other.constData()) == 0);
     QStringList logged;
     run_result const result = bundle.revise({"-l=Test", "-s=Plain", "-p=src"}, logged);
-    QCOMPARE(result.status, 0);
+    // The one file of the run refused: nothing was done that was asked.
+    QCOMPARE(result.status, linked ? 1 : 0);
     char value[16] = {};
     QCOMPARE(::getxattr(file.constData(), "user.tarnel", value, sizeof value), ssize_t(4));
     QCOMPARE(QByteArray(value), QByteArray("kept"));
