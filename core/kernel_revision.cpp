@@ -60,6 +60,7 @@ revision_request request_for(revision_task const& task) {
     }
     request.extensions = task.extensions;
     request.paths = task.paths;
+    request.lines = task.lines;
     request.records = where_change_records_live();
     request.addon_manual = std::string(product::web_site) + "/user-guide/style-addon-by-hand";
     return request;
