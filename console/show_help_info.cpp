@@ -48,6 +48,7 @@ char const* const usage_lines[] = {
     "      --assume-filename",
     "                      Specify file name of source read from std input (--path=-).",
     "      --learn         Learn a new style, of that name, from your files.",
+    "      --lines=N:M     Revise only lines N to M (repeatable) of one file or of std input (--path=-).",
     "",
     "  --path=- reads source from std input and writes revised text to std output. Without --lang",
     "  and --style (or --addon), styles are taken from file '.style-tarnel' found in directory of",
