@@ -41,6 +41,20 @@ plugin_answer answer_of(std::function<std::string(line_ending_traits const&)> co
     return plugin_answer::revised;
 }
 
+// The ranges as a plugin may expect them: in ascending order, those that overlap or touch joined
+// (the command line's words come sorted as text: "10:12" before "2:3").
+std::vector<line_range> in_order(std::vector<line_range> ranges) {
+    std::sort(ranges.begin(), ranges.end(), [](line_range const& a, line_range const& b) { return a.first < b.first; });
+    std::vector<line_range> joined;
+    for (line_range const& range : ranges) {
+        if (!joined.empty() && range.first <= joined.back().last + 1)
+            joined.back().last = std::max(joined.back().last, range.last);
+        else
+            joined.push_back(range);
+    }
+    return joined;
+}
+
 }  // namespace
 
 plugin_answer ask(interface_to_language_plugin& plugin, std::string const& text,
@@ -52,7 +66,8 @@ plugin_answer ask(interface_to_language_plugin& plugin, std::string const& text,
 plugin_answer ask_for_lines(interface_to_range_revision& plugin, std::string const& text,
                             std::string const& addon_text, std::vector<line_range> const& ranges,
                             std::string& result) {
+    std::vector<line_range> const lines = in_order(ranges);
     return answer_of(
-        [&](line_ending_traits const& traits) { return plugin.revise_lines(text, addon_text, traits, ranges); },
+        [&](line_ending_traits const& traits) { return plugin.revise_lines(text, addon_text, traits, lines); },
         text, result);
 }
