@@ -74,7 +74,7 @@ bool revision_run::prepare() {
     case format_check::valid:
         break;
     }
-    collected = obtain_full_file_paths_from(request.paths).with(QString::fromStdString(request.extensions));
+    collected = obtain_full_file_paths_from(request.paths).following(request.ignoring).with(QString::fromStdString(request.extensions));
     worker_count = workers_for(loader);
     return true;
 }
