@@ -149,17 +149,22 @@ int count_files_below(int directory, QList<QRegExp> const& filters) {
 }
 
 // The rules of the ignore files above `directory` (absolute, clean), from the top of its work
-// tree (or the file system's root) down to its parent.
-ignore_rules rules_above(QByteArray const& directory, QByteArray const& top) {
+// tree (or the file system's root) down to its parent; false when `directory` or a directory
+// between it and the top is left out, as git leaves out what lies below a directory it ignores.
+bool rules_above(QByteArray const& directory, QByteArray const& top, leaving_out& leaving, ignore_rules& rules) {
     QList<QByteArray> above;
     for (QByteArray at = directory; at.size() > top.size() && at.contains('/');) {
         at.truncate(at.lastIndexOf('/'));
         above.prepend(at);
     }
-    ignore_rules rules;
-    for (QByteArray const& at : above)
-        rules.add_file_of(at);
-    return rules;
+    above << directory;
+    for (QByteArray const& at : above) {
+        if (at.size() > top.size() && left_out_by(rules, leaving, at, true))
+            return false;
+        if (at != directory)
+            rules.add_file_of(at);
+    }
+    return true;
 }
 
 }  // namespace
@@ -189,7 +194,11 @@ QStringList obtain_full_file_paths_from::paths_from_this(QString const& path,
         QByteArray const from = QFile::encodeName(QDir::cleanPath(ignoring->excluded_from));
         for (QString const& pattern : ignoring->excluded)
             leaving.excluded.add_lines(pattern.toUtf8(), from == "/" ? QByteArray() : from);
-        add_files_below(descriptor, walked, filters, files, &leaving, rules_above(walked, leaving.work_tree));
+        ignore_rules rules;
+        if (rules_above(walked, leaving.work_tree, leaving, rules))
+            add_files_below(descriptor, walked, filters, files, &leaving, rules);
+        else
+            leaving.count += count_files_below(descriptor, filters);
         left_out += leaving.count;
     } else if (info.isFile()) {
         files << path;

@@ -25,7 +25,8 @@ public:
     // The walk of a directory leaves out what the ignore rules leave out: the patterns of every
     // `.style-tarnel-ignore` from the directory's work tree root (or the file system's root,
     // outside a work tree) down to each file, those `request` gives, and, when it asks for them,
-    // git's. A directory left out is not walked. A path given is never left out itself.
+    // git's. A directory left out is not walked, also when it is given or lies above one given
+    // (within the work tree). A file given is never left out.
     obtain_full_file_paths_from& following(ignore_request const& request);
 
     // Every path in order: a directory gives its regular files below it, at any depth, whose

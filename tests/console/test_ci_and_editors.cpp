@@ -85,11 +85,12 @@ void test_ci_and_editors::answers_data() {
     QTest::addColumn<QByteArray>("out");
     QTest::addColumn<QByteArray>("err");
     QTest::addColumn<QString>("after");
+    QTest::addColumn<bool>("in_git");
     for (auto const& row : cases_in(QFINDTESTDATA("checks.txt")))
         QTest::newRow(qPrintable(row["case"]))
             << row["files"] << (row["first"].isEmpty() ? QStringList() : row["first"].split(" | "))
             << row["words"].split(" | ") << unescaped(row["input"]) << row["status"].toInt() << unescaped(row["out"])
-            << unescaped(row["err"]) << row["after"];
+            << unescaped(row["err"]) << row["after"] << (row["git"] == "init");
 }
 
 void test_ci_and_editors::answers() {
@@ -101,8 +102,11 @@ void test_ci_and_editors::answers() {
     QFETCH(QByteArray, out);
     QFETCH(QByteArray, err);
     QFETCH(QString, after);
+    QFETCH(bool, in_git);
     installed_bundle bundle;
     write_files(bundle, files);
+    if (in_git)
+        QCOMPARE(git(bundle.work_directory(), {"init", "-q"}), 0);
     if (!first.isEmpty())
         QCOMPARE(bundle.run(first).status, 0);
     QMap<QString, QByteArray> const work = snapshot_of(bundle.work_directory());

@@ -110,8 +110,9 @@ private slots:
     }
 
     // Faults: an ignore file above the walked directory not read, or read beyond the top of the
-    // work tree; a pattern of it read relative to the walked directory instead of its own; a file
-    // named directly left out.
+    // work tree; a pattern of it read relative to the walked directory instead of its own; a
+    // directory given that a rule above leaves out walked all the same; a file named directly
+    // left out.
     void ignore_files_above_the_walked_directory_count_up_to_the_work_tree() {
         QTemporaryDir top;
         QString const tree = top.path() + "/tree";
@@ -124,6 +125,9 @@ private slots:
         collection const walked = collect({tree + "/src"}, without_git());
         QCOMPARE(relative_sorted(walked.kept, tree), QStringList({"src/b.c", "src/c.c"}));
         QCOMPARE(walked.left_out, 1);
+        collection const below_left_out = collect({tree + "/src/gen"}, without_git());
+        QCOMPARE(below_left_out.kept, QStringList());
+        QCOMPARE(below_left_out.left_out, 1);
         collection const named = collect({tree + "/src/gen/a.c"}, without_git());
         QCOMPARE(named.kept, QStringList({tree + "/src/gen/a.c"}));
         QCOMPARE(named.left_out, 0);
