@@ -2,6 +2,8 @@
 
 #include <QFile>
 
+#include <algorithm>
+
 char const* const ignore_file_name = ".style-tarnel-ignore";
 
 namespace {
@@ -42,51 +44,62 @@ bool class_matches(char const* p, char const* p_end, char c, char const*& end) {
     return matched != negated;
 }
 
-bool matches(char const* p, char const* p_end, char const* t, char const* t_end, char const* p_begin) {
+// How a match ended. A failure that no later start of a star can mend ends every star before it
+// at once (`abort_all`), and one that only a double star can mend ends the single stars before it
+// (`abort_to_double_star`): so a pattern of many stars takes time in proportion to the text's
+// length times the pattern's, not exponential time.
+enum class match_result { match, no_match, abort_all, abort_to_double_star };
+
+match_result matches(char const* p, char const* p_end, char const* t, char const* t_end, char const* p_begin) {
     while (p < p_end) {
+        if (t == t_end && *p != '*')
+            return match_result::abort_all;
         switch (*p) {
         case '*': {
-            char const* stars = p;
+            char const* const stars = p;
             while (p < p_end && *p == '*')
                 ++p;
-            bool const whole_part = p - stars >= 2 && (stars == p_begin || stars[-1] == '/') &&
-                                    (p == p_end || *p == '/');
-            if (whole_part) {
-                if (p == p_end)  // a trailing "/**": everything below
-                    return true;
-                // "**/": none or any number of whole directories.
-                for (char const* at = t; at <= t_end; ++at)
-                    if ((at == t || at[-1] == '/') && matches(p + 1, p_end, at, t_end, p_begin))
-                        return true;
-                return false;
+            bool const double_star = p - stars >= 2 && (stars == p_begin || stars[-1] == '/') &&
+                                     (p == p_end || *p == '/');
+            if (p == p_end) {  // a trailing star: the rest of the name, or with "/**" everything below
+                if (double_star)
+                    return match_result::match;
+                return std::find(t, t_end, '/') == t_end ? match_result::match : match_result::no_match;
             }
-            for (char const* at = t;; ++at) {
-                if (matches(p, p_end, at, t_end, p_begin))
-                    return true;
-                if (at == t_end || *at == '/')
-                    return false;
+            // "**/": none or any number of whole directories; tried without a directory first.
+            if (double_star && matches(p + 1, p_end, t, t_end, p_begin) == match_result::match)
+                return match_result::match;
+            for (char const* at = t; at < t_end; ++at) {
+                match_result const rest = matches(p, p_end, at, t_end, p_begin);
+                if (rest != match_result::no_match) {
+                    if (!double_star || rest != match_result::abort_to_double_star)
+                        return rest;
+                } else if (!double_star && *at == '/') {
+                    return match_result::abort_to_double_star;
+                }
             }
+            return match_result::abort_all;
         }
         case '?':
-            if (t == t_end || *t == '/')
-                return false;
+            if (*t == '/')
+                return match_result::no_match;
             ++p;
             ++t;
             break;
         case '[': {
-            if (t == t_end || *t == '/')
-                return false;
+            if (*t == '/')
+                return match_result::no_match;
             char const* end = nullptr;
             bool const in_class = class_matches(p + 1, p_end, *t, end);
             if (end == nullptr) {  // not a class: a plain '['
                 if (*t != '[')
-                    return false;
+                    return match_result::no_match;
                 ++p;
                 ++t;
                 break;
             }
             if (!in_class)
-                return false;
+                return match_result::no_match;
             p = end;
             ++t;
             break;
@@ -96,13 +109,13 @@ bool matches(char const* p, char const* p_end, char const* t, char const* t_end,
                 ++p;
             [[fallthrough]];
         default:
-            if (t == t_end || *t != *p)
-                return false;
+            if (*t != *p)
+                return match_result::no_match;
             ++p;
             ++t;
         }
     }
-    return t == t_end;
+    return t == t_end ? match_result::match : match_result::no_match;
 }
 
 }  // namespace
@@ -110,7 +123,7 @@ bool matches(char const* p, char const* p_end, char const* t, char const* t_end,
 bool path_matches(QByteArray const& pattern, QByteArray const& text) {
     char const* const p = pattern.constData();
     char const* const t = text.constData();
-    return matches(p, p + pattern.size(), t, t + text.size(), p);
+    return matches(p, p + pattern.size(), t, t + text.size(), p) == match_result::match;
 }
 
 void ignore_rules::add_lines(QByteArray const& text, QByteArray const& directory) {
