@@ -2,7 +2,6 @@
 
 #include "engine/file_status.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 #include <QSettings>
@@ -16,36 +15,33 @@ QString key_of(QString const& path) {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath()).mid(1);
 }
 
-// Last modification in seconds since the epoch (UTC), straight from the file system: converting
-// through a local date and time would cost more than the rest of the test.
-quint32 modification_time_of(QString const& path) { return file_status(path).modification_time(); }
-
-quint32 now() { return static_cast<quint32>(QDateTime::currentSecsSinceEpoch()); }
+QString stamp_of(QString const& path) { return file_status(path).stamp(); }
 
 }  // namespace
 
 void save_info_about_changes_of::this_source_file(QString const& path, QString const& language,
                                                   QString const& style,
                                                   QString const& addon_path) const {
-    this_source_file(path, language, style, modification_time_of(addon_path));
+    this_source_file(path, stamp_of(path), language, style, stamp_of(addon_path));
 }
 
-void save_info_about_changes_of::this_source_file(QString const& path, QString const& language,
-                                                  QString const& style,
-                                                  quint32 addon_modified) const {
-    QVariantList const value{now(), language, style, addon_modified};
+void save_info_about_changes_of::this_source_file(QString const& path, QString const& file_stamp,
+                                                  QString const& language, QString const& style,
+                                                  QString const& addon_stamp) const {
+    QVariantList const value{file_stamp, language, style, addon_stamp};
     store.setValue(key_of(path), value);
 }
 
 bool this_source_file::was_not_changed(QString const& path, QString const& language,
                                        QString const& style, QString const& addon_path) const {
-    quint32 const file_modified = modification_time_of(path);
-    return was_not_changed(path, file_modified, language, style, modification_time_of(addon_path));
+    return was_not_changed(path, stamp_of(path), language, style, stamp_of(addon_path));
 }
 
-bool this_source_file::was_not_changed(QString const& path, quint32 file_modified,
+bool this_source_file::was_not_changed(QString const& path, QString const& file_stamp,
                                        QString const& language, QString const& style,
-                                       quint32 addon_modified) const {
+                                       QString const& addon_stamp) const {
+    if (file_stamp.isEmpty() || addon_stamp.isEmpty())
+        return false;
     QVariant const stored = store.value(key_of(path));
     if (!stored.isValid())
         return false;
@@ -55,15 +51,12 @@ bool this_source_file::was_not_changed(QString const& path, quint32 file_modifie
     for (int i = 0; i < 4; ++i)
         if (!record[i].isValid())
             return false;
-    if (record[1].toString() != language || record[2].toString() != style)
-        return false;
-    bool revision_ok = false, addon_ok = false;
-    quint32 const revision_time = record[0].toUInt(&revision_ok);
-    quint32 const addon_time = record[3].toUInt(&addon_ok);
-    if (!revision_ok || !addon_ok)
-        return false;
-    return file_modified <= revision_time && addon_modified <= addon_time;
+    // Plain text comparisons: a record of whole seconds, or anything else damaged, is no stamp.
+    return record[1].toString() == language && record[2].toString() == style &&
+           record[0].toString() == file_stamp && record[3].toString() == addon_stamp;
 }
+
+void remove_info_about_changes_of::this_source_file(QString const& path) const { store.remove(key_of(path)); }
 
 void remove_info_about_changes_of::this_path(QString const& path) const {
     QFileInfo const info(path);

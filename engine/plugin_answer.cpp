@@ -1,5 +1,6 @@
 #include "engine/plugin_answer.h"
 
+#include "engine/crash_recovery.h"
 #include "engine/traits_of.h"
 
 #include <algorithm>
@@ -17,11 +18,22 @@ bool holds_only_white_space(std::string const& text) {
 
 plugin_answer ask(interface_to_language_plugin& plugin, std::string const& text,
                   std::string const& addon_text, std::string& result) {
-    try {
-        result = plugin.revise(text, addon_text, detail::traits_of()(text));
-    } catch (...) {
+    bool threw = false;
+    int signal = 0;
+    line_ending_traits const traits = detail::traits_of()(text);
+    bool const survived_it = survived(
+        [&] {
+            try {
+                result = plugin.revise(text, addon_text, traits);
+            } catch (...) {
+                threw = true;
+            }
+        },
+        signal);
+    if (!survived_it)
+        return plugin_answer::crashed;
+    if (threw)
         return plugin_answer::refused;
-    }
     if (result == STYLE_TARNEL_SYNTAX_ERROR_TEXT)
         return plugin_answer::refused;
     if (result.empty() && !holds_only_white_space(text))

@@ -1,5 +1,6 @@
-// What a plugin makes of one text: its revised text, or a refusal when it throws, returns the
-// syntax-error text, or returns nothing for a text with content.
+// What a plugin makes of one text: its revised text, a refusal when it throws, returns the
+// syntax-error text, or returns nothing for a text with content, or a crash (crash_recovery.h),
+// after which the plugin must not be called again.
 #ifndef STYLE_TARNEL_ENGINE_PLUGIN_ANSWER_H
 #define STYLE_TARNEL_ENGINE_PLUGIN_ANSWER_H
 
@@ -7,7 +8,7 @@
 
 #include <string>
 
-enum class plugin_answer { revised, refused };
+enum class plugin_answer { revised, refused, crashed };
 
 // Asks `plugin` to revise `text` with `addon_text`, the line ending and space detected in the
 // text; `result` gets the revised text.

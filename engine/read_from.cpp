@@ -25,6 +25,11 @@ private:
 }  // namespace
 
 bool read_from::to(std::string& out) const {
+    file_status ignored;
+    return to(out, ignored);
+}
+
+bool read_from::to(std::string& out, file_status& as_read) const {
     file_descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
     if (file.get() < 0)
         return false;
@@ -57,5 +62,6 @@ bool read_from::to(std::string& out) const {
     }
     text.resize(filled);
     out.swap(text);
+    as_read = file_status(QByteArray::fromStdString(path), status);
     return true;
 }

@@ -56,9 +56,9 @@ bool revision_run::prepare() {
     }
     QString const addon_path =
         request.addons_directory + QDir::separator() + QString::fromStdString(request.addon_file);
-    // Read before the text, so that the records never hold the time of a newer addon than the
+    // Taken before the text, so that the records never hold the stamp of a newer addon than the
     // one the run uses: an addon saved in between only makes the next run revise again.
-    addon_modified = file_status(addon_path).modification_time();
+    addon_stamp = file_status(addon_path).stamp();
     if (!read_from(addon_path).to(addon_text)) {
         write.about_problem_with_addon(request.addon_file);
         return false;
@@ -74,6 +74,14 @@ bool revision_run::prepare() {
     case format_check::valid:
         break;
     }
+    if (!request.writes_nothing) {
+        // A file that was in the plugin's hands when an earlier run died waits until it changes.
+        std::lock_guard<std::mutex> const lock(records_guard);
+        hands = std::make_unique<files_in_plugin_hands>(records.settings(), request.language, request.style,
+                                                        addon_stamp);
+        for (QString const& left : hands->left_by_runs_that_died())
+            write.about_file_left_by_a_run_that_died(left);
+    }
     collected = obtain_full_file_paths_from(request.paths).following(request.ignoring).with(QString::fromStdString(request.extensions));
     worker_count = workers_for(loader);
     return true;
@@ -85,7 +93,9 @@ struct revision_run::file_outcome {
     bool reached = false;   // reached the progress step
     bool changed = false;   // changed, or would be in a run that writes nothing
     bool failed = false;    // could not be read, written or revised
-    bool recorded = false;  // gets a change record
+    // The stamp of the text the file holds now, as the run read or wrote it, for its change
+    // record; empty: no record, and an old one goes.
+    QString stamp;
     // For a run that writes nothing and hands on what would change: the file's text and its
     // revision.
     std::string text;
@@ -117,19 +127,31 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
         outcome.failed = true;
         return outcome;
     };
-    // One `stat` for the accessibility test, the records and the check for edits by others.
+    // One `stat` for the accessibility test and the records.
     file_status const before(path);
     if (!(request.writes_nothing ? before.is_readable_file() : before.is_readable_and_writable_file()))
         return failure();
     if (!request.records_ignored) {
+        QString const stamp = before.stamp();  // made outside the lock the workers share
         std::lock_guard<std::mutex> const lock(records_guard);
         if (this_source_file(records.settings())
-                .was_not_changed(path, before.modification_time(), request.language, request.style,
-                                 addon_modified))
+                .was_not_changed(path, stamp, request.language, request.style, addon_stamp))
             return outcome;
     }
+    // A rename would give only this name the new text; see write_to.h.
+    if (!request.writes_nothing && before.has_several_names()) {
+        write.about_file_with_several_names(path);
+        outcome.failed = true;
+        return outcome;
+    }
+    if (plugin_crashed) {
+        write.about_file_left_after_a_crash(path, request.plugin_file);
+        outcome.failed = true;
+        return outcome;
+    }
     std::string text;
-    if (!read_from(path).to(text))
+    file_status as_read;
+    if (!read_from(path).to(text, as_read))
         return failure();
     outcome.read = true;
     if (text.empty())
@@ -137,15 +159,39 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
 
     outcome.reached = true;
     std::string result;
+    // A record keeps what the run read, so a file saved since is revised again by the next run.
+    // A run that writes nothing keeps no records.
+    QString const stamp_as_read = request.writes_nothing ? QString() : as_read.stamp();
+    if (hands)
+        hands->given(path, stamp_as_read);
     plugin_answer const answer = ask(*plugin, text, addon_text, result);
+    if (hands)
+        hands->taken_back(path);
+    if (answer == plugin_answer::crashed) {
+        plugin_crashed = true;
+        write.about_plugin_crash_on(path, request.plugin_file);
+        outcome.failed = true;
+        // Like a refusal, the file waits until it changes: the next run does not meet the crash.
+        outcome.stamp = stamp_as_read;
+        return outcome;
+    }
     // Saved, edited or removed by someone else while the plugin worked on it: the answer is
-    // about text that is gone, writing it would undo the edit, and a record would hide the new
-    // content from the next run.
-    if (file_status(path) != before)
-        return failure();
+    // about text that is gone, writing it would undo the edit. The exchange below catches a save
+    // that comes later; this only spares the write.
+    file_status const now(path);
+    if (now != as_read) {
+        if (now.exists())
+            write.about_file_edited_meanwhile(path);
+        else
+            write.about_invalid_file(path);
+        outcome.failed = true;
+        return outcome;
+    }
     if (answer == plugin_answer::refused) {
         write.about_syntax_error_in(path);
         outcome.failed = true;
+        // Also after a refusal: such a file waits until it, the style or the addon changes.
+        outcome.stamp = stamp_as_read;
     } else if (result != text && request.writes_nothing) {
         write.about_file_that_would_change(path);
         outcome.changed = true;
@@ -154,14 +200,24 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
             outcome.revised = std::move(result);
         }
     } else if (result != text) {
-        if (write_to(path).from(result))
+        file_status written;
+        switch (write_to(path).from(result, text, as_read, written)) {
+        case replacement::done:
             outcome.changed = true;
-        else
+            // The new content as it reached the disk.
+            outcome.stamp = written.stamp();
+            break;
+        case replacement::edited_meanwhile:
+            write.about_file_edited_meanwhile(path);
+            outcome.failed = true;
+            break;
+        case replacement::failed:
             failure();
+            break;
+        }
+    } else {
+        outcome.stamp = stamp_as_read;
     }
-    // Also after a refusal or a failed write: such a file waits until it, the style or the
-    // addon changes. A run that writes nothing keeps no records.
-    outcome.recorded = !request.writes_nothing;
     return outcome;
 }
 
@@ -173,10 +229,18 @@ void revision_run::take(QString const& path, file_outcome& outcome,
     failed_count += outcome.failed ? 1 : 0;
     if (outcome.changed && request.writes_nothing && request.would_change)
         request.would_change(path, outcome.text, outcome.revised);
-    if (outcome.recorded) {
+    if (!request.writes_nothing && outcome.read) {
         std::lock_guard<std::mutex> const lock(records_guard);
-        save_info_about_changes_of(records.settings())
-            .this_source_file(path, request.language, request.style, addon_modified);
+        if (!outcome.stamp.isEmpty()) {
+            save_info_about_changes_of(records.settings())
+                .this_source_file(path, outcome.stamp, request.language, request.style, addon_stamp);
+            if (hands)
+                hands->recorded(path, outcome.stamp);
+        } else {
+            remove_info_about_changes_of(records.settings()).this_source_file(path);
+            if (hands)
+                hands->forgotten(path);
+        }
         records.sync_if_due();
     }
     if (outcome.reached)
@@ -184,22 +248,29 @@ void revision_run::take(QString const& path, file_outcome& outcome,
 }
 
 void revision_run::finish() {
-    try {
-        plugin->end_of_revision();
-    } catch (...) {
-        // The files are revised by now; a plugin failing to tidy up changes nothing for them.
+    if (!plugin_crashed) {
+        try {
+            plugin->end_of_revision();
+        } catch (...) {
+            // The files are revised by now; a plugin failing to tidy up changes nothing for them.
+        }
     }
     if (request.writes_nothing)
         write_in(report).finish_info_of_check(found(), revised_count, changed_count);
     else
         write_in(report).finish_info(found(), revised_count, changed_count);
     records.sync();
+    // Every record is in the store's file now: nothing is in the plugin's hands.
+    hands.reset();
 }
 
-bool revision_run::revise_text(std::string const& text, std::string& result) {
+plugin_answer revision_run::revise_text(std::string const& text, std::string& result) {
     if (text.empty()) {
         result.clear();
-        return true;
+        return plugin_answer::revised;
     }
-    return ask(*plugin, text, addon_text, result) == plugin_answer::revised;
+    plugin_answer const answer = ask(*plugin, text, addon_text, result);
+    if (answer == plugin_answer::crashed)
+        plugin_crashed = true;
+    return answer;
 }

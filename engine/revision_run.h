@@ -5,6 +5,8 @@
 #define STYLE_TARNEL_ENGINE_REVISION_RUN_H
 
 #include "engine/change_record_store.h"
+#include "engine/files_in_plugin_hands.h"
+#include "engine/plugin_answer.h"
 #include "engine/revision_request.h"
 #include "interface_to_language_plugin.h"
 
@@ -12,7 +14,9 @@
 #include <QString>
 #include <QStringList>
 
+#include <atomic>
 #include <functional>
+#include <memory>
 #include <mutex>
 #include <string>
 
@@ -45,9 +49,9 @@ public:
     // Tells the plugin the run is over, writes the counts in the report, saves the records.
     void finish();
 
-    // After `prepare`: the plugin's revision of a text in memory, with the run's addon. False when
-    // the plugin refuses it (syntax error, failure); `result` is then unspecified.
-    bool revise_text(std::string const& text, std::string& result);
+    // After `prepare`: the plugin's revision of a text in memory, with the run's addon: `revised`,
+    // or `refused` (syntax error, failure) or `crashed`, when `result` is unspecified.
+    plugin_answer revise_text(std::string const& text, std::string& result);
 
 private:
     struct file_outcome;
@@ -62,11 +66,17 @@ private:
     QPluginLoader loader;
     interface_to_language_plugin* plugin = nullptr;
     std::string addon_text;
-    quint32 addon_modified = 0;  // UTC seconds, read once before the addon's text
+    QString addon_stamp;  // taken once, before the addon's text was read
+    // Set by the first crash of the plugin (crash_recovery.h): no file is handed to it after that,
+    // and it is not told that the run is over.
+    mutable std::atomic<bool> plugin_crashed{false};
     QStringList collected;
     unsigned long revised_count = 0;
     unsigned long changed_count = 0;
     unsigned long failed_count = 0;
+    // A run that keeps records: the files in the plugin's hands and the records earned, on disk
+    // at once. Declared before the store, so that the store syncs before the list goes.
+    std::unique_ptr<files_in_plugin_hands> hands;
     change_record_store records;
     mutable std::mutex records_guard;  // workers read the records while this thread writes them
     int worker_count = 1;

@@ -19,10 +19,14 @@ text_outcome text_revision::of(std::string const& text, QString const& name, std
         return text_outcome::not_started;
     }
     std::string revised;
-    bool const accepted = run.revise_text(text, revised);
-    // The plugin hears that the revision is over, as after a run.
+    plugin_answer const answer = run.revise_text(text, revised);
+    // The plugin hears that the revision is over, as after a run (unless it crashed).
     run.finish();
-    if (!accepted) {
+    if (answer == plugin_answer::crashed) {
+        write_in(report).about_plugin_crash_on(name, request.plugin_file);
+        return text_outcome::refused;
+    }
+    if (answer != plugin_answer::revised) {
         write_in(report).about_syntax_error_in(name);
         return text_outcome::refused;
     }

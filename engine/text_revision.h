@@ -9,7 +9,7 @@
 
 enum class text_outcome {
     revised,
-    // The plugin refused the text (syntax error, or bytes it cannot take).
+    // The plugin refused the text (syntax error, or bytes it cannot take), or crashed on it.
     refused,
     // The plugin or the addon could not be used.
     not_started,

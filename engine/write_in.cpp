@@ -43,6 +43,31 @@ void write_in::about_syntax_error_in(QString const& path) const {
               "that cannot be formatted correctly.\n\n";
 }
 
+void write_in::about_file_edited_meanwhile(QString const& path) const {
+    report += "Sorry, I can't revise file '" + path.toStdString() +
+              "', because it was edited while it was being revised. The edit is kept.\n\n";
+}
+
+void write_in::about_file_with_several_names(QString const& path) const {
+    report += "Sorry, I can't revise file '" + path.toStdString() +
+              "', because it has several hard links, which a revision would separate.\n\n";
+}
+
+void write_in::about_plugin_crash_on(QString const& path, std::string const& plugin_file) const {
+    report += "Sorry, I can't revise file '" + path.toStdString() + "', because plugin '" + plugin_file +
+              "' crashed on it.\n\n";
+}
+
+void write_in::about_file_left_after_a_crash(QString const& path, std::string const& plugin_file) const {
+    report += "Sorry, I didn't revise file '" + path.toStdString() + "', because plugin '" + plugin_file +
+              "' crashed on an earlier file.\n\n";
+}
+
+void write_in::about_file_left_by_a_run_that_died(QString const& path) const {
+    report += "Sorry, I can't revise file '" + path.toStdString() +
+              "', because an earlier run ended while the plugin had it. It waits until it changes.\n\n";
+}
+
 void write_in::about_paths_with_unallowed(std::string const& extensions) const {
     std::string listed = extensions;
     std::replace(listed.begin(), listed.end(), ' ', ',');

@@ -21,6 +21,15 @@ public:
                                        std::string const& manual) const;
     void about_invalid_file(QString const& path) const;
     void about_syntax_error_in(QString const& path) const;
+    // A file saved by someone else while it was being revised: it keeps that edit.
+    void about_file_edited_meanwhile(QString const& path) const;
+    // A file with more than one name (hard links), which a revision would separate.
+    void about_file_with_several_names(QString const& path) const;
+    // The file (or text) on which the plugin crashed, and each file the run then did not hand to it.
+    void about_plugin_crash_on(QString const& path, std::string const& plugin_file) const;
+    void about_file_left_after_a_crash(QString const& path, std::string const& plugin_file) const;
+    // A file that was in the plugin's hands when an earlier run died.
+    void about_file_left_by_a_run_that_died(QString const& path) const;
     // `extensions` joined by single spaces; the message lists them joined by commas.
     void about_paths_with_unallowed(std::string const& extensions) const;
     void about_interruption() const;

@@ -8,9 +8,12 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QtTest>
 
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
 #include <unistd.h>
 #include <utime.h>
 
@@ -23,6 +26,31 @@ void set_modification_time_ahead(QString const& path) {
     struct utimbuf times {};
     times.actime = times.modtime = static_cast<time_t>(later);
     ::utime(QFile::encodeName(path).constData(), &times);
+}
+
+// Writes `content` into the file in place and gives it back the second of its modification time,
+// without nanoseconds, as a checkout in the same second might.
+void restore_in_the_same_second(QString const& path, QByteArray const& content) {
+    QByteArray const native = QFile::encodeName(path);
+    struct stat before {};
+    ::stat(native.constData(), &before);
+    QFile file(path);
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        file.write(content);
+    file.close();
+    struct timespec const times[2] = {{before.st_mtim.tv_sec, 0}, {before.st_mtim.tv_sec, 0}};
+    ::utimensat(AT_FDCWD, native.constData(), times, 0);
+}
+
+// Rewrites every change record in the older form: [revision time, language, style, addon time]
+// in whole seconds, here a minute ahead.
+void write_records_in_the_older_form(QString const& config_home) {
+    QSettings store(config_home + "/Style Tarnel/Style Tarnel records.conf", QSettings::IniFormat);
+    uint const ahead = static_cast<uint>(QDateTime::currentSecsSinceEpoch() + 60);
+    for (QString const& key : store.allKeys()) {
+        QVariantList const record = store.value(key).toList();
+        store.setValue(key, QVariantList{ahead, record.value(1), record.value(2), ahead});
+    }
 }
 
 // A bundle with the test languages, an addon with an invalid form, and files below src/ given
@@ -58,6 +86,8 @@ class test_revision : public QObject {
 private slots:
     void outcomes_per_file_data();
     void outcomes_per_file();
+    void a_file_keeps_its_attributes_and_links_data();
+    void a_file_keeps_its_attributes_and_links();
     void records_decide_what_the_next_run_revises_data();
     void records_decide_what_the_next_run_revises();
 };
@@ -132,6 +162,45 @@ void test_revision::outcomes_per_file() {
     QCOMPARE(got.join(" | "), logged);
 }
 
+// A revised file is a new file put in the old one's place: it keeps the old one's extended
+// attributes; a file with a second name (a hard link) is refused, both names keep one file.
+void test_revision::a_file_keeps_its_attributes_and_links_data() {
+    QTest::addColumn<bool>("linked");
+    QTest::newRow("an extended attribute") << false;
+    QTest::newRow("a second name") << true;
+}
+
+void test_revision::a_file_keeps_its_attributes_and_links() {
+    QFETCH(bool, linked);
+    revision_bundle bundle({"a.tst=x  y"});
+    QByteArray const file = QFile::encodeName(bundle.source("a.tst"));
+    QByteArray const other = QFile::encodeName(bundle.work_directory() + "/a.other");
+    QVERIFY(::setxattr(file.constData(), "user.tarnel", "kept", 4, 0) == 0);
+    if (linked)
+        QVERIFY(::link(file.constData(), other.constData()) == 0);
+    QStringList logged;
+    run_result const result = bundle.revise({"-l=Test", "-s=Plain", "-p=src"}, logged);
+    // The one file of the run refused: nothing was done that was asked.
+    QCOMPARE(result.status, linked ? 1 : 0);
+    char value[16] = {};
+    QCOMPARE(::getxattr(file.constData(), "user.tarnel", value, sizeof value), ssize_t(4));
+    QCOMPARE(QByteArray(value), QByteArray("kept"));
+    if (!linked) {
+        QCOMPARE(result.out, done + "1 file was found, 1 file was revised, 1 file was changed.\n");
+        QCOMPARE(bundle.contents_of(bundle.source("a.tst")), QByteArray("x y"));
+        return;
+    }
+    QCOMPARE(QString::fromUtf8(result.out),
+             QString::fromUtf8(done + "Sorry, I can't revise file '" + file +
+                               "', because it has several hard links, which a revision would separate.\n\n"
+                               "1 file was found, no files was revised.\n"));
+    QCOMPARE(logged, QStringList{"end_of_revision"});
+    struct stat one {}, two {};
+    QVERIFY(::stat(file.constData(), &one) == 0 && ::stat(other.constData(), &two) == 0);
+    QVERIFY(one.st_ino == two.st_ino);
+    QCOMPARE(bundle.contents_of(bundle.source("a.tst")), QByteArray("x  y"));
+}
+
 // The rows come from records.txt, which tells what each column holds.
 void test_revision::records_decide_what_the_next_run_revises_data() {
     QTest::addColumn<QStringList>("files");
@@ -155,7 +224,12 @@ void test_revision::records_decide_what_the_next_run_revises() {
             set_modification_time_ahead(bundle.addons_directory() + "/" + step.mid(12));
         else if (step.startsWith("touch "))
             set_modification_time_ahead(bundle.work_directory() + "/" + step.mid(6));
-        if (step.startsWith("touch "))
+        if (step.startsWith("restore "))
+            restore_in_the_same_second(bundle.work_directory() + "/" + step.mid(8).section('=', 0, 0),
+                                       unescaped(step.section('=', 1)));
+        if (step == "older records")
+            write_records_in_the_older_form(bundle.config_home());
+        if (step.startsWith("touch ") || step.startsWith("restore ") || step == "older records")
             continue;
         QStringList words{"-l=Test", "-p=src", "-s=" + step.section(' ', 0, 0)};
         words += step.section(" => ", 0, 0).section(' ', 1).split(' ', Qt::SkipEmptyParts);

@@ -99,6 +99,7 @@ private slots:
     void gives_what_one_worker_gives_data();
     void gives_what_one_worker_gives();
     void a_stop_leaves_every_file_whole();
+    void an_edit_to_a_later_file_is_not_hidden_by_its_record();
 };
 
 void test_revision_on_workers::gives_what_one_worker_gives_data() {
@@ -147,6 +148,36 @@ void test_revision_on_workers::a_stop_leaves_every_file_whole() {
     QVERIFY(result.out.contains("Revision was interrupted by user!"));
     QVERIFY(result.out.contains(QString("%1 files was changed.").arg(revised).toUtf8()));
     QCOMPARE(temporary_files_below(bundle.work_directory()), QStringList());
+}
+
+// On two workers the first file is slow: the second is read and revised (in style, so not written)
+// long before its result is taken in order. An edit made to it in between must not be hidden by
+// its record: the record holds what was read, so the next run revises the edit.
+void test_revision_on_workers::an_edit_to_a_later_file_is_not_hidden_by_its_record() {
+    installed_bundle bundle;
+    QFile::remove(bundle.plugins_directory() + "/libtest-language-plugin.so");
+    bundle.add_plugin(built::reentrant_language_plugin(), "libtest-language-plugin.so");
+    QString const slow = bundle.write_file("src/a.tst", "SLOW  a"), later = bundle.write_file("src/b.tst", "b b"),
+                  third = bundle.write_file("src/c.tst", "SLOW c");
+    run_options options;
+    options.extra_environment.insert("STYLE_TARNEL_JOBS", "2");
+    QStringList const words{"-l=Test", "-s=Plain", "-p=src/a.tst", "-p=src/b.tst", "-p=src/c.tst"};
+    running_program run(bundle, words, 300, options);
+    // The third file handed out: the second worker is done with the second file, the first is
+    // still on the slow first one.
+    QVERIFY(run.wait_until_plugin_was_asked_about(3));
+    {
+        QFile file(later);
+        QVERIFY(file.open(QIODevice::Append));
+        file.write("  edited");
+    }
+    run_result const result = run.finish();
+    QCOMPARE(result.out, "It's done." + QByteArray(25, ' ') + "\n3 files was found, 3 files was revised, 1 file was changed.\n");
+    QCOMPARE(bundle.run(words).out,
+             "It's done." + QByteArray(25, ' ') + "\n3 files was found, 1 file was revised, 1 file was changed.\n");
+    QCOMPARE(temporary_bundle::contents_of(later), QByteArray("b b edited"));
+    QCOMPARE(temporary_bundle::contents_of(slow), QByteArray("SLOW a"));
+    QCOMPARE(temporary_bundle::contents_of(third), QByteArray("SLOW c"));
 }
 
 QTEST_GUILESS_MAIN(test_revision_on_workers)

@@ -10,11 +10,18 @@
 #include <QtTest>
 
 #include <csignal>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace {
 
 QByteArray const done = "It's done." + QByteArray(25, ' ') + "\n";
 QByteArray const untidy_line = "int  x;\n", tidy_line = "int x;\n";
+
+QByteArray edited_meanwhile(QString const& path) {
+    return "Sorry, I can't revise file '" + path.toUtf8() + "', because it was edited while it was being revised. The edit is kept.\n\n";
+}
 
 QByteArray invalid_file(QString const& path) {
     return "Sorry, I can't revise file '" + path.toUtf8() + "'. If this file exists - please check read/write permissions.\n\n";
@@ -60,6 +67,8 @@ private slots:
     void a_write_beyond_the_file_size_limit_leaves_the_file_as_it_was();
     void files_that_vanish_or_become_unreadable_are_reported_and_the_run_goes_on();
     void a_file_edited_or_removed_while_the_plugin_has_it_is_not_written();
+    void an_edit_just_before_the_replacement_is_kept_data();
+    void an_edit_just_before_the_replacement_is_kept();
     void an_addon_or_plugin_replaced_during_a_run_data();
     void an_addon_or_plugin_replaced_during_a_run();
 };
@@ -122,6 +131,10 @@ void test_runs_under_fault::a_write_beyond_the_file_size_limit_leaves_the_file_a
     QVERIFY(temporary_bundle::contents_of(large_file) == large);
     QCOMPARE(temporary_bundle::contents_of(small_file), tidy_line);
     QCOMPARE(temporary_files_below(bundle.root()), QStringList());
+    // The failed write left no record: without the limit the next run revises that file.
+    QCOMPARE(bundle.run({"-l=Test", "-s=Plain", "-p=src"}).out,
+             done + "2 files was found, 1 file was revised, 1 file was changed.\n");
+    QVERIFY(temporary_bundle::contents_of(large_file) == tidy_line.repeated(4000));
 }
 
 void test_runs_under_fault::files_that_vanish_or_become_unreadable_are_reported_and_the_run_goes_on() {
@@ -161,7 +174,7 @@ void test_runs_under_fault::a_file_edited_or_removed_while_the_plugin_has_it_is_
     QVERIFY(QFile::remove(removed));
     run_result const result = program.finish();
     QCOMPARE(result.status, 0);
-    QCOMPARE(QString::fromUtf8(result.out), QString::fromUtf8(done + invalid_file(edited) + invalid_file(removed) +
+    QCOMPARE(QString::fromUtf8(result.out), QString::fromUtf8(done + edited_meanwhile(edited) + invalid_file(removed) +
                                                               "6 files was found, 6 files was revised, 4 files was changed.\n"));
     QCOMPARE(temporary_bundle::contents_of(edited), tree.untidy(1) + "edited  meanwhile\n");
     QCOMPARE(temporary_files_below(bundle.root()), QStringList());
@@ -169,6 +182,62 @@ void test_runs_under_fault::a_file_edited_or_removed_while_the_plugin_has_it_is_
     QCOMPARE(bundle.run({"-l=Test", "-s=Plain", "-p=src"}).out,
              done + "5 files was found, 1 file was revised, 1 file was changed.\n");
     QCOMPARE(temporary_bundle::contents_of(edited), tree.tidy(1) + "edited meanwhile\n");
+}
+
+// The run waits just before it replaces the revised file (the engine's test pause, a FIFO), and
+// the file is saved then, by an editor that writes in place or one that renames a new file over it.
+void test_runs_under_fault::an_edit_just_before_the_replacement_is_kept_data() {
+    QTest::addColumn<QString>("edit");
+    QTest::newRow("appended in place") << "append";
+    QTest::newRow("saved by a rename") << "rename";
+    QTest::newRow("saved with the same bytes by a rename") << "same";
+    QTest::newRow("no edit") << "none";
+}
+
+void test_runs_under_fault::an_edit_just_before_the_replacement_is_kept() {
+    QFETCH(QString, edit);
+    installed_bundle bundle;
+    source_tree const tree(bundle, 1);
+    QString const file = tree.files[0];
+    QByteArray const fifo = QFile::encodeName(bundle.home() + "/pause");
+    QVERIFY(::mkfifo(fifo.constData(), 0600) == 0);
+    run_options options;
+    options.extra_environment.insert("STYLE_TARNEL_PAUSE_BEFORE_REPLACING", QString::fromUtf8(fifo));
+    QProcess program;
+    bundle.start(program, tree.arguments(), options);
+    QVERIFY(program.waitForStarted());
+    program.closeWriteChannel();
+    // Opening the FIFO for writing succeeds once the run waits at it.
+    int paused = -1;
+    while ((paused = ::open(fifo.constData(), O_WRONLY | O_NONBLOCK)) < 0)
+        QVERIFY2(!program.waitForFinished(5), "the run ended without pausing");
+    QByteArray const saved = tree.untidy(0) + "saved  meanwhile\n";
+    if (edit == "append") {
+        QFile opened(file);
+        QVERIFY(opened.open(QIODevice::Append));
+        opened.write("saved  meanwhile\n");
+    } else if (edit != "none") {
+        QString const beside = bundle.write_file("src/.f01.tst.editor", edit == "same" ? tree.untidy(0) : saved);
+        QVERIFY(::rename(QFile::encodeName(beside).constData(), QFile::encodeName(file).constData()) == 0);
+    }
+    ::close(paused);
+    run_result const result = result_of_finished(program, 60000);
+    // An edited file is the run's only file, and it is not revised.
+    QCOMPARE(result.status, edit == "none" ? 0 : 1);
+    QByteArray const kept = edit == "append" || edit == "rename" ? saved : tree.untidy(0);
+    if (edit == "none") {
+        QCOMPARE(result.out, done + "1 file was found, 1 file was revised, 1 file was changed.\n");
+        QCOMPARE(temporary_bundle::contents_of(file), tree.tidy(0));
+    } else {
+        // Also the same bytes saved again: the file is another file now, kept as it is.
+        QCOMPARE(QString::fromUtf8(result.out),
+                 QString::fromUtf8(done + edited_meanwhile(file) + "1 file was found, 1 file was revised, no files was changed.\n"));
+        QCOMPARE(temporary_bundle::contents_of(file), kept);
+        // No record hides the edit: the next run revises it.
+        QCOMPARE(bundle.run(tree.arguments()).out, done + "1 file was found, 1 file was revised, 1 file was changed.\n");
+        QCOMPARE(temporary_bundle::contents_of(file), QByteArray(kept).replace("  ", " "));
+    }
+    QCOMPARE(temporary_files_below(bundle.root()), QStringList());
 }
 
 void test_runs_under_fault::an_addon_or_plugin_replaced_during_a_run_data() {

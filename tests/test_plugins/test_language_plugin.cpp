@@ -52,6 +52,33 @@ public:
     ~call_under_way() { --calls_under_way; }
 };
 
+#ifdef TEST_PLUGIN_CRASHING
+int* volatile nowhere = nullptr;
+volatile int depth_limit = 0;  // never reached: the stack ends first
+
+// Not a tail call, and a frame that is used after the call: no compiler turns it into a loop.
+int deeper(int depth) {
+    volatile char frame[512];
+    frame[0] = static_cast<char>(depth);
+    if (depth_limit != 0 && depth >= depth_limit)
+        return frame[0];
+    return deeper(depth + 1) + frame[0];
+}
+
+void crash_if_asked(std::string const& source) {
+    if (source.find("CRASH_NULL") != std::string::npos)
+        *nowhere = 1;
+    if (source.find("CRASH_ABORT") != std::string::npos)
+        std::abort();
+    if (source.find("CRASH_RECURSION") != std::string::npos)
+        deeper(0);
+    if (source.find("CRASH_KILL") != std::string::npos)
+        std::raise(SIGKILL);
+}
+#else
+void crash_if_asked(std::string const&) {}
+#endif
+
 }  // namespace
 
 std::string test_language_plugin::language_name() {
@@ -90,6 +117,7 @@ std::string test_language_plugin::revise(std::string const& source, std::string 
         int const slower = source.find("SLOW") != std::string::npos ? 10 : 1;
         std::this_thread::sleep_for(std::chrono::milliseconds(std::atoi(delay) * slower));
     }
+    crash_if_asked(source);
     if (source.find("SYNTAX_ERROR") != std::string::npos)
         return STYLE_TARNEL_SYNTAX_ERROR_TEXT;
     if (source.find("THROW") != std::string::npos)

@@ -12,7 +12,10 @@
 // With TEST_PLUGIN_THROWING set to its tag, the plugin throws from language_name(),
 // list_of_keywords(), filename_extensions() and forms_of_structures(); with
 // TEST_PLUGIN_FORMS_THROWING, from forms_of_structures() alone; with TEST_PLUGIN_INTERRUPTING,
-// forms_of_structures() raises SIGINT in the host's process.
+// forms_of_structures() raises SIGINT in the host's process. A build with TEST_PLUGIN_CRASHING
+// crashes in revise() on a source holding CRASH_NULL (a write through a null pointer), CRASH_ABORT
+// (abort()), CRASH_RECURSION (a recursion that overflows the stack) or CRASH_KILL (SIGKILL to the
+// whole process, which nothing survives).
 #ifndef TEST_LANGUAGE_PLUGIN_H
 #define TEST_LANGUAGE_PLUGIN_H
 
