@@ -10,7 +10,8 @@ std::vector<std::string> const& known_names() {
     static std::vector<std::string> const names{
         "-h", "--help", "-v", "--version", "-l", "--lang", "-s", "--style", "-p", "--path",
         "-f", "--force", "--exts", "--import", "--export", "--delete", "--rename", "--ls",
-        "--update", "--check", "--diff", "--addon", "--assume-filename", "--learn", "--lines"};
+        "--update", "--check", "--diff", "--addon", "--assume-filename", "--learn", "--exclude",
+        "--no-gitignore", "--quiet", "--lines"};
     return names;
 }
 

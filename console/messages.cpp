@@ -24,6 +24,10 @@ std::string not_understood() { return "I don't understand what you want to do.";
 std::string no_such_file_or_directory(std::string const& path) {
     return "No such file or directory '" + path + "', please correct path.";
 }
+std::string no_file_to_check() {
+    return "No file was found to check: the paths hold no file of the language's extensions, or ignore rules left "
+           "them all out.";
+}
 std::string no_such_language(std::string const& language) {
     return "There is no language '" + language + "'.";
 }

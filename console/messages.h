@@ -23,6 +23,8 @@ std::string unknown_arguments();
 std::string not_understood();
 
 std::string no_such_file_or_directory(std::string const& path);
+// A check or diff that found no file at all.
+std::string no_file_to_check();
 std::string no_such_language(std::string const& language);
 std::string no_such_style(std::string const& style, std::string const& language);
 std::string invalid_extensions();

@@ -18,6 +18,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <iostream>
 #include <map>
 #include <set>
@@ -39,6 +40,10 @@ struct revision_wishes {
     bool check = false;
     bool diff = false;
     std::vector<std::string> paths;
+    // Patterns given with --exclude, those that bring a path back last.
+    QStringList excluded;
+    bool git_followed = true;
+    bool quiet = false;
     // The values of --lines, as typed.
     std::vector<std::string> lines;
 
@@ -68,9 +73,19 @@ revision_wishes revision_wishes_from(argument_list const& arguments) {
             wishes.assumed_name = value;
         else if (name == "-p" || name == "--path")
             wishes.paths.push_back(value);
+        else if (name == "--exclude")
+            wishes.excluded << QString::fromStdString(value);
+        else if (name == "--no-gitignore")
+            wishes.git_followed = false;
+        else if (name == "--quiet")
+            wishes.quiet = true;
         else if (name == "--lines")
             wishes.lines.push_back(value);
     }
+    // The words come in byte order, not as typed: a pattern that brings a path back weighs more
+    // than one that leaves paths out, whatever their order.
+    std::stable_partition(wishes.excluded.begin(), wishes.excluded.end(),
+                          [](QString const& pattern) { return !pattern.startsWith('!'); });
     return wishes;
 }
 
@@ -413,15 +428,25 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
     }
 
     int status = 0;
-    for (auto const& task : tasks) {
+    int found = 0;
+    for (auto& [chosen, task] : tasks) {
+        task.excluded = wishes.excluded;
+        task.excluded_from = QDir::currentPath();
+        task.git_followed = wishes.git_followed;
+        task.quiet = wishes.quiet;
         int const run_status =
             wishes.writes_nothing()
-                ? kernel().start_check(task.second, check_options{wishes.diff, wishes.force})
-                : kernel().start_revise(task.second);
+                ? kernel().start_check(task, check_options{wishes.diff, wishes.force, &found})
+                : kernel().start_revise(task);
         // Stopped by a signal: the other runs are not started.
         if (run_status >= 128)
             return run_status;
         status = std::max(status, run_status);
+    }
+    // A check of no file at all proves nothing: a mistyped path, or sources all left out.
+    if (wishes.writes_nothing() && found == 0 && status == 0) {
+        say(message::no_file_to_check());
+        return 2;
     }
     return status;
 }

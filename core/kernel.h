@@ -27,6 +27,8 @@ struct check_options {
     // Every file is revised in memory, whatever its change record says (the records are neither
     // asked nor forgotten).
     bool records_ignored = false;
+    // When set, the number of files the run found is added to it.
+    int* files_found = nullptr;
 };
 
 // What became of an update of the executable.

@@ -60,6 +60,10 @@ revision_request request_for(revision_task const& task) {
     }
     request.extensions = task.extensions;
     request.paths = task.paths;
+    request.ignoring.excluded = task.excluded;
+    request.ignoring.excluded_from = task.excluded_from;
+    request.ignoring.git_followed = task.git_followed;
+    request.quiet = task.quiet;
     request.lines = task.lines;
     request.records = where_change_records_live();
     request.addon_manual = std::string(product::web_site) + "/user-guide/style-addon-by-hand";
@@ -87,6 +91,8 @@ int kernel::start_revise(revision_task const& task, std::function<void(int)> max
 int kernel::start_check(revision_task const& task, check_options const& options) const {
     revision_request request = request_for(task);
     request.records_ignored = options.records_ignored;
+    if (options.files_found != nullptr)
+        request.ignoring.collected = [found = options.files_found](int files, int) { *found += files; };
     return console_checker()(request, options.with_diff ? check_output::diff : check_output::report);
 }
 

@@ -19,6 +19,15 @@ struct revision_task {
     // style named inside it are then the task's. Empty: the store's addon of `style` and
     // `language`.
     QString addon_path = QString();
+    // Patterns in git's ignore syntax that the walk of a directory leaves out, relative to
+    // `excluded_from`, besides those of the `.style-tarnel-ignore` files; they weigh more, and
+    // among them those that bring a path back with '!' weigh more than the others.
+    QStringList excluded = QStringList();
+    QString excluded_from = QString();
+    // Files that git ignores are left out of a walk in a git work tree.
+    bool git_followed = true;
+    // No progress line, even on a terminal.
+    bool quiet = false;
     // Only these lines (of the task's one file, or of a text) are revised; empty: whole files.
     // The language's plugin must offer the range interface, and no change record is kept.
     std::vector<line_range> lines = {};

@@ -1,14 +1,17 @@
 #include "engine/GUI_formatter.h"
 
 #include "engine/revision_run.h"
+#include "engine/write_in.h"
 
-void GUI_formatter::operator()(revision_request const& request, std::function<void(int)> maximum,
+void GUI_formatter::operator()(revision_request request, std::function<void(int)> maximum,
                                std::function<void(int)> value,
                                std::function<void(std::string)> status,
                                std::function<void(std::string)> finished,
                                std::atomic<bool> const& stop) {
     status("Preparing, please wait...");
     std::string report;
+    int left_out = 0;
+    request.ignoring = request.ignoring.counting_into(left_out);
     {
         revision_run run(report, request);
         if (!run.prepare()) {
@@ -21,6 +24,7 @@ void GUI_formatter::operator()(revision_request const& request, std::function<vo
                            show_this_file_was_revised(revised, found, value, status);
                        });
         run.finish();
+        write_in(report).about_files_left_out_by_ignore_rules(left_out);
     }
     // The run, its plugin and its records are gone before the interface hears of the end.
     finished(report);

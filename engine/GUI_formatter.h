@@ -13,7 +13,7 @@
 class GUI_formatter {
 public:
     // `stop` must stay alive until `finished` has been called.
-    void operator()(revision_request const& request, std::function<void(int)> maximum,
+    void operator()(revision_request request, std::function<void(int)> maximum,
                     std::function<void(int)> value, std::function<void(std::string)> status,
                     std::function<void(std::string)> finished, std::atomic<bool> const& stop);
     void show_this_file_was_revised(unsigned long revised, int found,

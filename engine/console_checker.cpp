@@ -11,7 +11,11 @@
 #include <map>
 #include <mutex>
 
-console_checker::console_checker() : console_checker(std::cout, std::cerr) {}
+#include <unistd.h>
+
+console_checker::console_checker() : console_checker(std::cout, std::cerr) {
+    progress_shown = ::isatty(STDERR_FILENO) == 1;
+}
 
 int console_checker::operator()(revision_request request, check_output output) {
     interruption_by_signal const interruption;
@@ -33,21 +37,30 @@ int console_checker::operator()(revision_request request, check_output output) {
             diffs[path] = unified_diff_of(label).between(text, revised);
         };
     std::ostream& report_stream = output == check_output::diff ? err : out;
-    err << "Preparing, please wait..." << std::flush;
+    if (request.quiet)
+        progress_shown = false;
+    if (progress_shown)
+        err << "Preparing, please wait..." << std::flush;
     std::string report;
+    int ignored = 0;
+    request.ignoring = request.ignoring.counting_into(ignored);
     revision_run run(report, request);
     if (!run.prepare()) {
-        err << '\r' << std::flush;
+        if (progress_shown)
+            err << '\r' << std::flush;
         report_stream << report << '\n' << std::flush;
         return interruption.was_requested() ? interruption.exit_status() : 2;
     }
     bool const interrupted = run.revise_all([&] { return interruption.was_requested(); },
                                             [&](unsigned long revised, int found) {
-                                                err << "\rCheck... " << revised << " from " << found << " files"
-                                                    << std::flush;
+                                                if (progress_shown)
+                                                    err << "\rCheck... " << revised << " from " << found
+                                                        << " files" << std::flush;
                                             });
     run.finish();
-    err << '\r' << std::flush;
+    write_in(report).about_files_left_out_by_ignore_rules(ignored);
+    if (progress_shown)
+        err << '\r' << std::flush;
     for (auto const& diff : diffs)
         out << diff.second;
     out << std::flush;

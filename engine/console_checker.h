@@ -1,7 +1,7 @@
 // The command-line check: a revision run that writes no file and no change record, for CI and
-// commit hooks. Progress goes to standard error as in a revision; the files that would change and
-// the counts go to standard output, or, when a diff is asked for, to standard error, so that
-// standard output holds only the diff.
+// commit hooks. Progress goes to standard error as in a revision, when it is a terminal; the files
+// that would change and the counts go to standard output, or, when a diff is asked for, to
+// standard error, so that standard output holds only the diff.
 #ifndef STYLE_TARNEL_ENGINE_CONSOLE_CHECKER_H
 #define STYLE_TARNEL_ENGINE_CONSOLE_CHECKER_H
 
@@ -24,6 +24,8 @@ public:
 private:
     std::ostream& out;
     std::ostream& err;
+    // The progress goes to a terminal only (standard error as a terminal, and not a quiet run).
+    bool progress_shown = true;
 };
 
 // The path a diff shows for `path`: relative to the current directory when it lies below it,

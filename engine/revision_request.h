@@ -4,6 +4,7 @@
 #define STYLE_TARNEL_ENGINE_REVISION_REQUEST_H
 
 #include "engine/change_record_store.h"
+#include "engine/ignore_request.h"
 #include "interface_to_language_plugin.h"
 
 #include <QString>
@@ -29,6 +30,10 @@ struct revision_request {
     std::string extensions;
     // Absolute paths of files and directories.
     QStringList paths;
+    // What the walk of a directory leaves out; a file named in `paths` is always revised.
+    ignore_request ignoring;
+    // No progress line on standard error, even on a terminal.
+    bool quiet = false;
     records_location records;
     // The web address of the manual on writing addons.
     std::string addon_manual;

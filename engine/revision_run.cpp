@@ -89,7 +89,7 @@ bool revision_run::prepare() {
         for (QString const& left : hands->left_by_runs_that_died())
             write.about_file_left_by_a_run_that_died(left);
     }
-    collected = obtain_full_file_paths_from(request.paths).with(QString::fromStdString(request.extensions));
+    collected = obtain_full_file_paths_from(request.paths).following(request.ignoring).with(QString::fromStdString(request.extensions));
     worker_count = workers_for(loader);
     return true;
 }

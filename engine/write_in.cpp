@@ -120,6 +120,13 @@ void write_in::finish_info(int found, unsigned long revised, unsigned long chang
                   {"No files was found, revision was canceled.", "revised", "was changed"});
 }
 
+void write_in::about_files_left_out_by_ignore_rules(int count) const {
+    if (count <= 0)
+        return;
+    report += count == 1 ? std::string("\n1 file was left out by ignore rules.")
+                         : "\n" + std::to_string(count) + " files was left out by ignore rules.";
+}
+
 void write_in::about_file_that_would_change(QString const& path) const {
     report += "File '" + path.toStdString() + "' would be changed.\n";
 }

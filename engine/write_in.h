@@ -36,6 +36,8 @@ public:
     void about_paths_with_unallowed(std::string const& extensions) const;
     void about_interruption() const;
     void finish_info(int found, unsigned long revised, unsigned long changed) const;
+    // After the counts: files of the run's extensions that ignore rules left out (nothing for 0).
+    void about_files_left_out_by_ignore_rules(int count) const;
 
     // A check, which writes nothing: a file the revision would change, and the counts.
     void about_file_that_would_change(QString const& path) const;

@@ -60,6 +60,8 @@ class test_ci_and_editors : public QObject {
 private slots:
     void answers_data();
     void answers();
+    void progress_goes_to_a_terminal_unless_quiet_data();
+    void progress_goes_to_a_terminal_unless_quiet();
     void the_diff_applies_with_git_apply_data();
     void the_diff_applies_with_git_apply();
     void an_addon_file_is_refused_as_an_import_refuses_it_data();
@@ -86,12 +88,13 @@ void test_ci_and_editors::answers_data() {
     QTest::addColumn<QByteArray>("out");
     QTest::addColumn<QByteArray>("err");
     QTest::addColumn<QString>("after");
+    QTest::addColumn<bool>("in_git");
     QTest::addColumn<QString>("setup");
     for (auto const& row : cases_in(QFINDTESTDATA("checks.txt")))
         QTest::newRow(qPrintable(row["case"]))
             << row["files"] << (row["first"].isEmpty() ? QStringList() : row["first"].split(" | "))
             << row["words"].split(" | ") << unescaped(row["input"]) << row["status"].toInt() << unescaped(row["out"])
-            << unescaped(row["err"]) << row["after"] << row["setup"];
+            << unescaped(row["err"]) << row["after"] << (row["git"] == "init") << row["setup"];
 }
 
 void test_ci_and_editors::answers() {
@@ -103,6 +106,7 @@ void test_ci_and_editors::answers() {
     QFETCH(QByteArray, out);
     QFETCH(QByteArray, err);
     QFETCH(QString, after);
+    QFETCH(bool, in_git);
     QFETCH(QString, setup);
     installed_bundle bundle;
     if (setup == "SDK example") {
@@ -110,6 +114,8 @@ void test_ci_and_editors::answers() {
         bundle.add_addon("Spaced[INI].style", bundle.contents_of(built::source_dir() + "/sdk/example/Spaced[INI].style"));
     }
     write_files(bundle, files);
+    if (in_git)
+        QCOMPARE(git(bundle.work_directory(), {"init", "-q"}), 0);
     if (!first.isEmpty())
         QCOMPARE(bundle.run(first).status, 0);
     QMap<QString, QByteArray> const work = snapshot_of(bundle.work_directory());
@@ -129,6 +135,35 @@ void test_ci_and_editors::answers() {
         for (QString const& file : after.split(" | "))
             QCOMPARE(bundle.contents_of(bundle.work_directory() + "/" + file.section('=', 0, 0)),
                      unescaped(file.section('=', 1)));
+}
+
+// On a terminal (made by script(1)), the progress line is written, unless --quiet. Faults: the
+// progress left out on a terminal too, or written there in spite of --quiet.
+void test_ci_and_editors::progress_goes_to_a_terminal_unless_quiet_data() {
+    QTest::addColumn<QString>("words");
+    QTest::addColumn<bool>("progress");
+    QTest::newRow("revision") << "-l=Test -s=Plain -p=a.tst" << true;
+    QTest::newRow("quiet revision") << "-l=Test -s=Plain -p=a.tst --quiet" << false;
+    QTest::newRow("check") << "-l=Test -s=Plain -p=a.tst --check" << true;
+    QTest::newRow("quiet check") << "-l=Test -s=Plain -p=a.tst --check --quiet" << false;
+}
+
+void test_ci_and_editors::progress_goes_to_a_terminal_unless_quiet() {
+    QFETCH(QString, words);
+    QFETCH(bool, progress);
+    installed_bundle bundle;
+    bundle.write_file("a.tst", "a  b\n");
+    QProcess terminal;
+    terminal.setProcessEnvironment(bundle.environment());
+    terminal.setWorkingDirectory(bundle.work_directory());
+    // Standard input stays out of the terminal, so that no first-start question is asked.
+    terminal.start("script", {"-qec", "'" + bundle.executable() + "' " + words + " < /dev/null", "/dev/null"});
+    terminal.closeWriteChannel();
+    QVERIFY(terminal.waitForFinished(60000));
+    QByteArray const seen = terminal.readAllStandardOutput();
+    QVERIFY2(seen.contains("It's done."), seen.constData());
+    QCOMPARE(seen.contains("Preparing, please wait..."), progress);
+    QCOMPARE(seen.contains(" from 1 files"), progress);
 }
 
 // Files below src/; the diff of a check, applied by git to them, gives what a revision writes.
