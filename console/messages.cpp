@@ -111,6 +111,15 @@ std::string not_an_executable_of_ours(std::string const& path) {
 std::string standard_input_with_other_paths() {
     return "Standard input ('--path=-') cannot be revised together with other paths.";
 }
+std::string lines_of_several_paths() {
+    return "Lines ('--lines') can be revised in one file only, please specify one path.";
+}
+std::string lines_of_a_directory(std::string const& path) {
+    return "Lines ('--lines') can be revised in one file only, but '" + path + "' is a directory.";
+}
+std::string invalid_lines(std::string const& value) {
+    return "Invalid lines '" + value + "', please specify them as '--lines=N:M' with 1 <= N <= M.";
+}
 std::string no_language_for_standard_input() {
     return "I don't know the language of standard input, please specify it with '--lang' or name a file "
            "with '--assume-filename'.";

@@ -44,6 +44,8 @@ struct revision_wishes {
     QStringList excluded;
     bool git_followed = true;
     bool quiet = false;
+    // The values of --lines, as typed.
+    std::vector<std::string> lines;
 
     bool writes_nothing() const { return check || diff; }
     // A check that cannot start says so with 2, apart from the 1 of files that would change.
@@ -77,12 +79,38 @@ revision_wishes revision_wishes_from(argument_list const& arguments) {
             wishes.git_followed = false;
         else if (name == "--quiet")
             wishes.quiet = true;
+        else if (name == "--lines")
+            wishes.lines.push_back(value);
     }
     // The words come in byte order, not as typed: a pattern that brings a path back weighs more
     // than one that leaves paths out, whatever their order.
     std::stable_partition(wishes.excluded.begin(), wishes.excluded.end(),
                           [](QString const& pattern) { return !pattern.startsWith('!'); });
     return wishes;
+}
+
+// A line number: decimal digits alone, 1 or more, small enough to count.
+bool line_number_from(std::string const& text, unsigned long& number) {
+    if (text.empty() || text.size() > 9 || text.find_first_not_of("0123456789") != std::string::npos)
+        return false;
+    number = std::stoul(text);
+    return number >= 1;
+}
+
+// The ranges of the --lines values, each "N:M" with 1 <= N <= M; false, with the value said, at
+// the first that is not.
+bool line_ranges_from(revision_wishes const& wishes, std::vector<line_range>& ranges) {
+    for (auto const& value : wishes.lines) {
+        std::size_t const colon = value.find(':');
+        line_range range;
+        if (colon == std::string::npos || !line_number_from(value.substr(0, colon), range.first) ||
+            !line_number_from(value.substr(colon + 1), range.last) || range.first > range.last) {
+            say(message::invalid_lines(value));
+            return false;
+        }
+        ranges.push_back(range);
+    }
+    return true;
 }
 
 QString absolute(std::string const& path) { return transform(QString::fromStdString(path)).to_absolute(); }
@@ -286,7 +314,7 @@ std::string standard_input() {
 
 // Standard input to standard output: whatever happens, standard output gets the text back, revised
 // or as it came, so that an editor never loses its buffer; the reason goes to standard error.
-int revise_standard_input(revision_wishes const& wishes) {
+int revise_standard_input(revision_wishes const& wishes, std::vector<line_range> const& lines) {
     // Closed, the editor would get nothing back; and the first file opened would take its place.
     bool const gives_text_back = !wishes.check || wishes.diff;
     if (gives_text_back && ::fcntl(STDOUT_FILENO, F_GETFL) == -1) {
@@ -321,6 +349,7 @@ int revise_standard_input(revision_wishes const& wishes) {
     if (!choose_styles_for(start, assumed, wishes, chosen) ||
         !task_can_start(chosen.front(), std::string(), {}, task))
         return give_back(wishes.refusal());
+    task.lines = lines;
     std::string report;
     text_outcome_status const outcome = kernel().revise_text(task, name, text, result, report);
     while (!report.empty() && report.back() == '\n')
@@ -350,8 +379,15 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
         say(message::standard_input_with_other_paths());
         return wishes.refusal();
     }
+    std::vector<line_range> lines;
+    if (!line_ranges_from(wishes, lines))
+        return wishes.refusal();
+    if (!lines.empty() && wishes.paths.size() > 1) {
+        say(message::lines_of_several_paths());
+        return wishes.refusal();
+    }
     if (from_standard_input)
-        return revise_standard_input(wishes);
+        return revise_standard_input(wishes, lines);
 
     QStringList paths;
     for (auto const& raw : wishes.paths) {
@@ -360,11 +396,16 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
             say(message::no_such_file_or_directory(path.toStdString()));
             return wishes.refusal();
         }
+        if (!lines.empty() && QFileInfo(path).isDir()) {
+            say(message::lines_of_a_directory(path.toStdString()));
+            return wishes.refusal();
+        }
         paths << path;
     }
     // Forgotten before anything else is checked: a forced run that then fails on a bad style
-    // name has still forgotten the records. A check writes nothing: it ignores them instead.
-    if (wishes.force && !wishes.writes_nothing())
+    // name has still forgotten the records. A check writes nothing: it ignores them instead; so
+    // does a revision of lines, which neither asks nor keeps them.
+    if (wishes.force && !wishes.writes_nothing() && lines.empty())
         kernel().forget_change_records_of(paths);
 
     // One run per language and style, with the paths in the order given.
@@ -380,9 +421,11 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
     std::set<std::string> revised_languages;
     for (auto const& task : tasks)
         revised_languages.insert(task.first.language);
-    for (auto& [chosen, task] : tasks)
+    for (auto& [chosen, task] : tasks) {
         if (!task_can_start(chosen, wishes.extensions, revised_languages, task))
             return wishes.refusal();
+        task.lines = lines;
+    }
 
     int status = 0;
     int found = 0;

@@ -52,6 +52,7 @@ char const* const usage_lines[] = {
     "                      ignore syntax, relative to current directory (may be repeated).",
     "      --no-gitignore  Do not leave out the files which git ignores.",
     "      --quiet         Write no progress line, even on a terminal.",
+    "      --lines=N:M     Revise only lines N to M (repeatable) of one file or of std input (--path=-).",
     "",
     "  --path=- reads source from std input and writes revised text to std output. Without --lang",
     "  and --style (or --addon), styles are taken from file '.style-tarnel' found in directory of",

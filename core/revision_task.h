@@ -2,8 +2,11 @@
 #ifndef STYLE_TARNEL_CORE_REVISION_TASK_H
 #define STYLE_TARNEL_CORE_REVISION_TASK_H
 
+#include "interface_to_language_plugin.h"
+
 #include <QStringList>
 #include <string>
+#include <vector>
 
 struct revision_task {
     std::string language;
@@ -25,6 +28,9 @@ struct revision_task {
     bool git_followed = true;
     // No progress line, even on a terminal.
     bool quiet = false;
+    // Only these lines (of the task's one file, or of a text) are revised; empty: whole files.
+    // The language's plugin must offer the range interface, and no change record is kept.
+    std::vector<line_range> lines = {};
 };
 
 #endif

@@ -7,6 +7,7 @@
 #include "interface_to_language_plugin.h"
 
 #include <string>
+#include <vector>
 
 enum class plugin_answer { revised, refused, crashed };
 
@@ -14,5 +15,10 @@ enum class plugin_answer { revised, refused, crashed };
 // text; `result` gets the revised text.
 plugin_answer ask(interface_to_language_plugin& plugin, std::string const& text,
                   std::string const& addon_text, std::string& result);
+
+// The same for the lines of `ranges` alone, through the plugin's range interface.
+plugin_answer ask_for_lines(interface_to_range_revision& plugin, std::string const& text,
+                            std::string const& addon_text, std::vector<line_range> const& ranges,
+                            std::string& result);
 
 #endif

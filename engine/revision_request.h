@@ -5,12 +5,14 @@
 
 #include "engine/change_record_store.h"
 #include "engine/ignore_request.h"
+#include "interface_to_language_plugin.h"
 
 #include <QString>
 #include <QStringList>
 
 #include <functional>
 #include <string>
+#include <vector>
 
 struct revision_request {
     // The names inside the addon, which the change records keep.
@@ -44,6 +46,14 @@ struct revision_request {
     // The records are not asked: every file is revised (a check's --force, which must not forget
     // them).
     bool records_ignored = false;
+
+    // Only these lines of each file are revised, through the plugin's range interface (a plugin
+    // without it is refused); empty: whole files. Such a run neither asks nor keeps change
+    // records: a file revised in part is not "unchanged since its last revision".
+    std::vector<line_range> lines;
+
+    bool keeps_records() const { return !writes_nothing && lines.empty(); }
+    bool asks_records() const { return !records_ignored && lines.empty(); }
 };
 
 #endif

@@ -54,6 +54,13 @@ bool revision_run::prepare() {
             write.about_problem_with_plugin(request.plugin_file);
         return false;
     }
+    if (!request.lines.empty()) {
+        lines_plugin = plugin_obtainer(loader).range_revision();
+        if (lines_plugin == nullptr) {
+            write.about_plugin_without_line_ranges(request.language);
+            return false;
+        }
+    }
     QString const addon_path =
         request.addons_directory + QDir::separator() + QString::fromStdString(request.addon_file);
     // Taken before the text, so that the records never hold the stamp of a newer addon than the
@@ -74,7 +81,7 @@ bool revision_run::prepare() {
     case format_check::valid:
         break;
     }
-    if (!request.writes_nothing) {
+    if (request.keeps_records()) {
         // A file that was in the plugin's hands when an earlier run died waits until it changes.
         std::lock_guard<std::mutex> const lock(records_guard);
         hands = std::make_unique<files_in_plugin_hands>(records.settings(), request.language, request.style,
@@ -131,7 +138,7 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
     file_status const before(path);
     if (!(request.writes_nothing ? before.is_readable_file() : before.is_readable_and_writable_file()))
         return failure();
-    if (!request.records_ignored) {
+    if (request.asks_records()) {
         QString const stamp = before.stamp();  // made outside the lock the workers share
         std::lock_guard<std::mutex> const lock(records_guard);
         if (this_source_file(records.settings())
@@ -161,10 +168,10 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
     std::string result;
     // A record keeps what the run read, so a file saved since is revised again by the next run.
     // A run that writes nothing keeps no records.
-    QString const stamp_as_read = request.writes_nothing ? QString() : as_read.stamp();
+    QString const stamp_as_read = request.keeps_records() ? as_read.stamp() : QString();
     if (hands)
         hands->given(path, stamp_as_read);
-    plugin_answer const answer = ask(*plugin, text, addon_text, result);
+    plugin_answer const answer = asked(text, result);
     if (hands)
         hands->taken_back(path);
     if (answer == plugin_answer::crashed) {
@@ -229,7 +236,7 @@ void revision_run::take(QString const& path, file_outcome& outcome,
     failed_count += outcome.failed ? 1 : 0;
     if (outcome.changed && request.writes_nothing && request.would_change)
         request.would_change(path, outcome.text, outcome.revised);
-    if (!request.writes_nothing && outcome.read) {
+    if (request.keeps_records() && outcome.read) {
         std::lock_guard<std::mutex> const lock(records_guard);
         if (!outcome.stamp.isEmpty()) {
             save_info_about_changes_of(records.settings())
@@ -269,8 +276,14 @@ plugin_answer revision_run::revise_text(std::string const& text, std::string& re
         result.clear();
         return plugin_answer::revised;
     }
-    plugin_answer const answer = ask(*plugin, text, addon_text, result);
+    plugin_answer const answer = asked(text, result);
     if (answer == plugin_answer::crashed)
         plugin_crashed = true;
     return answer;
+}
+
+plugin_answer revision_run::asked(std::string const& text, std::string& result) const {
+    if (lines_plugin != nullptr)
+        return ask_for_lines(*lines_plugin, text, addon_text, request.lines, result);
+    return ask(*plugin, text, addon_text, result);
 }

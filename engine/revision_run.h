@@ -58,6 +58,8 @@ private:
     // The steps for one file, on any worker: everything but what the run keeps in order.
     file_outcome revise(QString const& path) const;
     // What the run keeps of one file's outcome, in the order of the files.
+    // The plugin's answer for one text: its whole revision, or that of the request's lines.
+    plugin_answer asked(std::string const& text, std::string& result) const;
     void take(QString const& path, file_outcome& outcome,
               std::function<void(unsigned long, int)> const& reached);
 
@@ -65,6 +67,8 @@ private:
     revision_request const request;
     QPluginLoader loader;
     interface_to_language_plugin* plugin = nullptr;
+    // The plugin's range interface, for a request of lines.
+    interface_to_range_revision* lines_plugin = nullptr;
     std::string addon_text;
     QString addon_stamp;  // taken once, before the addon's text was read
     // Set by the first crash of the plugin (crash_recovery.h): no file is handed to it after that,

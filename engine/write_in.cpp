@@ -20,6 +20,11 @@ void write_in::about_plugin_without_forms(std::string const& plugin_file) const 
               "' failed to give the forms of its structures.\n\n";
 }
 
+void write_in::about_plugin_without_line_ranges(QString const& language) const {
+    report += "Sorry, I can't revise only some lines: the plugin of language '" + language.toStdString() +
+              "' revises whole files only.\n\n";
+}
+
 void write_in::about_problem_with_addon(std::string const& addon_file) const {
     report += "Sorry, I can't revise, something wrong with addon '" + addon_file + "'.\n\n";
 }

@@ -17,6 +17,8 @@ public:
     // A plugin that failed when asked for the expressions of its structures.
     void about_plugin_without_forms(std::string const& plugin_file) const;
     void about_problem_with_addon(std::string const& addon_file) const;
+    // Lines were asked for, and the language's plugin revises whole files only.
+    void about_plugin_without_line_ranges(QString const& language) const;
     void about_invalid_format_of_addon(std::string const& structure, std::string const& addon_file,
                                        std::string const& manual) const;
     void about_invalid_file(QString const& path) const;

@@ -108,4 +108,40 @@ public:
     STYLE_TARNEL_LEARNING_INTERFACE_NAME "/" STYLE_TARNEL_LEARNING_INTERFACE_VERSION
 Q_DECLARE_INTERFACE(interface_to_style_learning, STYLE_TARNEL_LEARNING_INTERFACE_ID)
 
+// A span of a source's lines: the first and the last line, counted from 1 by the source's own
+// line breaks, both included.
+struct line_range {
+    unsigned long first = 0;
+    unsigned long last = 0;
+};
+
+// Optional: a plugin that can revise some lines of a source and leave the others alone (for an
+// editor's "format selection", or the lines that a change touched) also derives its root object
+// from this class and names it among its interfaces, as the learning interface above is named. The
+// host finds it with qobject_cast on the root object; a plugin without it is asked for whole files
+// only, and the host refuses a request for lines in its language. Called as revise() is: from
+// several threads at once only when the plugin's metadata says "reentrant".
+class interface_to_range_revision {
+public:
+    virtual ~interface_to_range_revision() = default;
+
+    // Reformats the lines of `source` that `ranges` name (in ascending order, not overlapping;
+    // lines past the end of the source name nothing) in the style of `addon`, answering as
+    // revise() does: `source` unchanged, byte for byte, when there is nothing to change, and
+    // STYLE_TARNEL_SYNTAX_ERROR_TEXT when the source cannot be formatted. A plugin guarantees:
+    //  - every line outside the ranges comes back byte for byte, except where the language's
+    //    layout must join a line that a range touches with its neighbour, or split it (a statement
+    //    that runs over a range's edge); only white space changes, as in revise();
+    //  - the revised ranges revised again change nothing: with the ranges moved to where the
+    //    revised lines stand in the result, the result comes back unchanged.
+    virtual std::string revise_lines(std::string const& source, std::string const& addon,
+                                     line_ending_traits const& traits, std::vector<line_range> const& ranges) = 0;
+};
+
+// The range interface's identifier, versioned as the first one is.
+#define STYLE_TARNEL_RANGE_INTERFACE_NAME "org.style-tarnel.interface_to_range_revision"
+#define STYLE_TARNEL_RANGE_INTERFACE_VERSION "1.0"
+#define STYLE_TARNEL_RANGE_INTERFACE_ID STYLE_TARNEL_RANGE_INTERFACE_NAME "/" STYLE_TARNEL_RANGE_INTERFACE_VERSION
+Q_DECLARE_INTERFACE(interface_to_range_revision, STYLE_TARNEL_RANGE_INTERFACE_ID)
+
 #endif

@@ -9,10 +9,32 @@ namespace tarnel_engine {
 
 namespace {
 
+// Whether a replacement changes the white space inside one of the ranges or just before it (the
+// line break and indentation of its first token), not after its end.
+bool inside(clang::tooling::Replacement const& replacement, std::vector<clang::tooling::Range> const& ranges) {
+    return std::any_of(ranges.begin(), ranges.end(), [&](clang::tooling::Range const& range) {
+        return replacement.getOffset() + replacement.getLength() >= range.getOffset() &&
+               replacement.getOffset() <= range.getOffset() + range.getLength();
+    });
+}
+
+// With `positions`: only the replacements inside the ranges are applied (the engine also
+// re-indents the lines after a range that it takes to be part of its blocks), and the positions
+// are moved by them.
 engine_outcome formatted(clang::format::FormatStyle const& style, std::string const& code,
-                         std::vector<clang::tooling::Range> const& ranges) {
+                         std::vector<clang::tooling::Range> const& ranges, std::vector<unsigned>* positions = nullptr) {
     clang::format::FormattingAttemptStatus status;
-    clang::tooling::Replacements const replacements = clang::format::reformat(style, code, ranges, "<stdin>", &status);
+    clang::tooling::Replacements replacements = clang::format::reformat(style, code, ranges, "<stdin>", &status);
+    if (positions != nullptr) {
+        clang::tooling::Replacements kept;
+        for (clang::tooling::Replacement const& replacement : replacements)
+            if (inside(replacement, ranges))
+                if (llvm::Error error = kept.add(replacement))
+                    llvm::consumeError(std::move(error));
+        replacements = std::move(kept);
+        for (unsigned& position : *positions)
+            position = replacements.getShiftedCodePosition(position);
+    }
     llvm::Expected<std::string> text = clang::tooling::applyAllReplacements(code, replacements);
     if (!text) {
         llvm::consumeError(text.takeError());
@@ -64,6 +86,11 @@ engine_outcome format_with::the_lines_around(std::string const& code,
         }
     }
     return formatted(style, code, widened);
+}
+
+engine_outcome format_with::the_ranges(std::string const& code, std::vector<clang::tooling::Range> const& ranges,
+                                       std::vector<unsigned>& positions) const {
+    return formatted(style, code, ranges, &positions);
 }
 
 }  // namespace tarnel_engine

@@ -24,6 +24,10 @@ public:
     // Formats only the lines that the ranges touch, and `context` lines around each.
     engine_outcome the_lines_around(std::string const& code, std::vector<clang::tooling::Range> const& ranges,
                                     unsigned context) const;
+    // Formats only what the ranges touch and keeps the rest as it is, and moves each of
+    // `positions` (offsets in `code`) to where it stands in the result.
+    engine_outcome the_ranges(std::string const& code, std::vector<clang::tooling::Range> const& ranges,
+                              std::vector<unsigned>& positions) const;
 
 private:
     clang::format::FormatStyle const& style;

@@ -1,6 +1,7 @@
 // Nothing may leave the plugin as an exception: every member answers even when it fails.
 #include "language_plugin_base.h"
 
+#include "range_revision.h"
 #include "style_learning.h"
 
 namespace tarnel_engine {
@@ -25,6 +26,11 @@ std::map<std::string, std::string> language_plugin_base::forms_of_structures() {
 std::string language_plugin_base::revise(std::string const& source, std::string const& addon,
                                          line_ending_traits const& traits) {
     return revisions.revise(source, addon, traits);
+}
+
+std::string language_plugin_base::revise_lines(std::string const& source, std::string const& addon,
+                                               line_ending_traits const& traits, std::vector<line_range> const& ranges) {
+    return revise_lines_of(language).in(source, addon, traits, ranges);
 }
 
 void language_plugin_base::end_of_revision() { revisions.forget_the_run(); }

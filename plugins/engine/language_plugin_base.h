@@ -1,5 +1,5 @@
 // The plugin interfaces implemented once for every language of ours: a plugin's root object
-// derives from QObject and from this class, passes its language description and names both
+// derives from QObject and from this class, passes its language description and names the three
 // interfaces.
 #ifndef TARNEL_ENGINE_LANGUAGE_PLUGIN_BASE_H
 #define TARNEL_ENGINE_LANGUAGE_PLUGIN_BASE_H
@@ -10,7 +10,9 @@
 
 namespace tarnel_engine {
 
-class language_plugin_base : public interface_to_language_plugin, public interface_to_style_learning {
+class language_plugin_base : public interface_to_language_plugin,
+                             public interface_to_style_learning,
+                             public interface_to_range_revision {
 public:
     // The description must outlive the plugin (plugins pass a function-local static).
     explicit language_plugin_base(language_description const& language);
@@ -21,6 +23,9 @@ public:
     std::map<std::string, std::string> forms_of_structures() override;
     std::string revise(std::string const& source, std::string const& addon, line_ending_traits const& traits) override;
     void end_of_revision() override;
+
+    std::string revise_lines(std::string const& source, std::string const& addon, line_ending_traits const& traits,
+                             std::vector<line_range> const& ranges) override;
 
     learned_style learn_style(std::vector<std::string> const& sources, std::string const& style_name,
                               std::function<bool(unsigned long done, unsigned long whole)> const& going_on) override;

@@ -42,6 +42,24 @@ std::map<std::string, std::string> ini_language_plugin::forms_of_structures() {
 
 std::string ini_language_plugin::revise(std::string const& source, std::string const& addon,
                                         line_ending_traits const& traits) {
+    return revise_where(source, addon, traits, [](unsigned long) { return true; });
+}
+
+std::string ini_language_plugin::revise_lines(std::string const& source, std::string const& addon,
+                                              line_ending_traits const& traits, std::vector<line_range> const& ranges) {
+    // Each line is formatted alone: the lines outside the ranges come back byte for byte, and a
+    // formatted line formatted again stays as it is.
+    return revise_where(source, addon, traits, [&](unsigned long line) {
+        for (line_range const& range : ranges)
+            if (range.first <= line && line <= range.last)
+                return true;
+        return false;
+    });
+}
+
+std::string ini_language_plugin::revise_where(std::string const& source, std::string const& addon,
+                                              line_ending_traits const& traits,
+                                              std::function<bool(unsigned long)> const& wanted) {
     // This example formats 8-bit text only; other encodings come back as they are.
     if (traits.space != " " || source.find('\0') != std::string::npos)
         return source;
@@ -54,9 +72,14 @@ std::string ini_language_plugin::revise(std::string const& source, std::string c
 
     std::string result;
     std::size_t begin = 0;
-    while (begin < source.size()) {
-        std::size_t end = source.find(traits.EOL, begin);
+    for (unsigned long number = 1; begin < source.size(); ++number) {
+        std::size_t end = traits.EOL.empty() ? std::string::npos : source.find(traits.EOL, begin);
         std::size_t const next = end == std::string::npos ? source.size() : end + traits.EOL.size();
+        if (!wanted(number)) {
+            result += source.substr(begin, next - begin);
+            begin = next;
+            continue;
+        }
         std::string const line = trimmed(source.substr(begin, (end == std::string::npos ? source.size() : end) - begin));
         std::string formatted = line;
         if (!line.empty() && line[0] == '[' && line.back() == ']') {

@@ -33,11 +33,14 @@ public:
     interface_to_language_plugin* operator->() const { return plugin; }
     // The plugin's learning interface, found as the host finds it.
     interface_to_style_learning* learning() const { return learner; }
+    // The plugin's range interface, found as the host finds it.
+    interface_to_range_revision* ranges() const { return range_reviser; }
 
 private:
     std::unique_ptr<QPluginLoader> loader;
     interface_to_language_plugin* plugin = nullptr;
     interface_to_style_learning* learner = nullptr;
+    interface_to_range_revision* range_reviser = nullptr;
 };
 
 // The shipped addons (file names in plugins/styles).

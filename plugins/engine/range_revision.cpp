@@ -1,0 +1,152 @@
+// The range pipeline: the steps of a whole revision (decode, check brackets, format until stable,
+// check that only white space changed, encode back), with the engine told to format the ranges'
+// lines alone and each round of the stability check given the same lines where they stand now.
+#include "range_revision.h"
+
+#include "bracket_balance.h"
+#include "engine_call.h"
+#include "inference_cache.h"
+#include "text_encoding.h"
+#include "white_space.h"
+
+#include <algorithm>
+
+namespace tarnel_engine {
+
+namespace {
+
+// As many as a whole revision allows.
+int const rounds_to_stability = 4;
+
+std::string const syntax_error = STYLE_TARNEL_SYNTAX_ERROR_TEXT;
+
+// The ranges sorted, those that overlap or touch joined, those past the last line dropped, the
+// last clipped to it; lines counted from 1 in a text of line feeds.
+std::vector<line_range> lines_within(std::string const& code, std::vector<line_range> ranges) {
+    unsigned long const lines = static_cast<unsigned long>(std::count(code.begin(), code.end(), '\n')) +
+                                (code.empty() || code.back() == '\n' ? 0 : 1);
+    std::sort(ranges.begin(), ranges.end(),
+              [](line_range const& a, line_range const& b) { return a.first < b.first; });
+    std::vector<line_range> kept;
+    for (line_range range : ranges) {
+        range.first = std::max<unsigned long>(range.first, 1);
+        range.last = std::min(range.last, lines);
+        if (range.first > range.last)
+            continue;
+        if (!kept.empty() && range.first <= kept.back().last + 1)
+            kept.back().last = std::max(kept.back().last, range.last);
+        else
+            kept.push_back(range);
+    }
+    return kept;
+}
+
+// Where line `line` (from 1) begins.
+unsigned start_of(std::string const& code, unsigned long line) {
+    std::size_t at = 0;
+    for (unsigned long each = 1; each < line && at != std::string::npos; ++each) {
+        at = code.find('\n', at);
+        if (at != std::string::npos)
+            ++at;
+    }
+    return static_cast<unsigned>(at == std::string::npos ? code.size() : at);
+}
+
+// Where the last character of line `line`, or of the last line before it that is not blank,
+// stands; `begin` when there is none from `begin` on. The white space after it belongs to the next
+// line's first token for the engine: a range that reached into it would touch that line too.
+unsigned last_character_of(std::string const& code, unsigned long line, unsigned begin) {
+    std::size_t const feed = code.find('\n', start_of(code, line));
+    std::size_t const end = feed == std::string::npos ? code.size() : feed;
+    std::size_t const last = end == 0 ? std::string::npos : code.find_last_not_of(" \t\r\n\v\f", end - 1);
+    return last == std::string::npos || last < begin ? begin : static_cast<unsigned>(last);
+}
+
+// The line (from 1) that holds `offset`.
+unsigned long line_of(std::string const& code, unsigned offset) {
+    return 1 + static_cast<unsigned long>(
+                   std::count(code.begin(), code.begin() + std::min<std::size_t>(offset, code.size()), '\n'));
+}
+
+// The ranges' lines for the engine: from the start of each first line to the last character of
+// each last, so that no line around is touched; the ends of each also go into `edges`.
+std::vector<clang::tooling::Range> characters_of(std::string const& code, std::vector<line_range> const& lines,
+                                                 std::vector<unsigned>& edges) {
+    std::vector<clang::tooling::Range> characters;
+    edges.clear();
+    for (line_range const& range : lines) {
+        unsigned const begin = start_of(code, range.first);
+        unsigned const end = last_character_of(code, range.last, begin);
+        characters.emplace_back(begin, end - begin);
+        edges.push_back(begin);
+        edges.push_back(end);
+    }
+    return characters;
+}
+
+// The lines that the edges, moved into the formatted text, enclose.
+std::vector<line_range> lines_at(std::string const& code, std::vector<unsigned> const& edges) {
+    std::vector<line_range> lines;
+    for (std::size_t each = 0; each + 1 < edges.size(); each += 2)
+        lines.push_back({line_of(code, edges[each]), line_of(code, edges[each + 1])});
+    return lines_within(code, lines);
+}
+
+// The file's own majority decides; the traits only break a tie, as in a whole revision.
+clang::format::FormatStyle::LineEndingStyle engine_line_ending(line_ending ending) {
+    return ending == line_ending::carriage_return_line_feed ? clang::format::FormatStyle::LE_DeriveCRLF
+                                                            : clang::format::FormatStyle::LE_DeriveLF;
+}
+
+}  // namespace
+
+std::string revise_lines_of::in(std::string const& source, std::string const& addon,
+                                line_ending_traits const& traits, std::vector<line_range> const& ranges) const {
+    try {
+        text_encoding const encoding = text_encoding::of(source, traits);
+        if (encoding.contradicts_byte_order_mark_of(source))
+            return source;
+        std::optional<std::string> const decoded = encoding.decoded(source);
+        if (!decoded || decoded->find('\0') != std::string::npos)
+            return source;
+        std::vector<line_range> lines = lines_within(*decoded, ranges);
+        if (lines.empty())
+            return source;
+        // The whole source must pair its brackets: a range may open a block that closes outside it.
+        if (!brackets_are_balanced_in(*decoded))
+            return syntax_error;
+        clang::format::FormatStyle style = inference_cache::shared().style_for(addon, language);
+        style.LineEnding = engine_line_ending(encoding.ending());
+
+        std::vector<unsigned> edges;
+        std::vector<clang::tooling::Range> characters = characters_of(*decoded, lines, edges);
+        engine_outcome outcome = format_with(style).the_ranges(*decoded, characters, edges);
+        if (!outcome.complete)
+            return syntax_error;
+        // Stable when formatting the revised lines again, where they stand now, changes nothing.
+        bool stable = outcome.text == *decoded;
+        for (int round = 0; round < rounds_to_stability && !stable; ++round) {
+            lines = lines_at(outcome.text, edges);
+            characters = characters_of(outcome.text, lines, edges);
+            engine_outcome again = format_with(style).the_ranges(outcome.text, characters, edges);
+            if (!again.complete)
+                break;
+            stable = again.text == outcome.text;
+            outcome = std::move(again);
+        }
+        if (!stable || !only_white_space_differs(*decoded, outcome.text))
+            return source;
+        if (!brackets_are_balanced_in(outcome.text))
+            return syntax_error;
+        std::optional<std::string> encoded = encoding.encoded(outcome.text);
+        if (!encoded || *encoded == source)
+            return source;
+        if (!encoding.result_is_told_alike(source, *encoded))
+            return source;
+        return std::move(*encoded);
+    } catch (...) {
+        return syntax_error;
+    }
+}
+
+}  // namespace tarnel_engine
