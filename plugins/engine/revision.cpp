@@ -1,15 +1,17 @@
-// The revision pipeline: decode, check brackets, format until stable, check that only white space
-// changed, encode back.
+// The revision pipeline: decode, check brackets and what the engine can take, format until
+// stable, check that only white space changed and every token stayed, encode back.
 #include "revision.h"
 
 #include "addon_forms.h"
 #include "bracket_balance.h"
 #include "engine_call.h"
 #include "engine_hazards.h"
+#include "engine_limits.h"
 #include "inference_cache.h"
 #include "placeholder_instances.h"
 #include "text_encoding.h"
 #include "token_safe_settings.h"
+#include "token_sequence.h"
 #include "white_space.h"
 
 #include <map>
@@ -69,7 +71,9 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
         std::optional<std::string> const decoded = encoding.decoded(source);
         if (!decoded || decoded->find('\0') != std::string::npos)
             return source;
-        if (!brackets_are_balanced_in(*decoded))
+        // Nested deeper than the engine's stack survives, or larger than memory allows, the code
+        // would crash the engine or abort the process: it is refused before the engine sees it.
+        if (!brackets_are_balanced_in(*decoded) || !the_engine_takes(*decoded))
             return syntax_error;
         clang::format::FormatStyle style = options_for(addon)->style;
         style.LineEnding = engine_line_ending(encoding.ending());
@@ -89,8 +93,11 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
             outcome = std::move(again);
         }
         // A text the engine keeps changing, or one where more than white space would change, is
-        // left as it is: never a half-settled or token-changing result.
-        if (!stable || !only_white_space_differs(*decoded, outcome.text))
+        // left as it is: never a half-settled or token-changing result. Only white space may
+        // change, and white space alone can still join two tokens (`! =` to `!=`) or split one
+        // (`u8"x"` to `u8 "x"`): the compiler's tokens must stay the same too.
+        if (!stable || !only_white_space_differs(*decoded, outcome.text) ||
+            !same_tokens_in(*decoded, outcome.text, language.lexing))
             return source;
         // The next revision checks the result as this one checked the source. An unclosed quote
         // (a stray apostrophe) ends at the end of its line; joined with the next line, it takes
@@ -122,6 +129,8 @@ std::map<std::string, std::string> forms_formatted_by_inferred_options(std::stri
         if (form.empty())
             continue;
         std::string const code = form_as_code(form);
+        if (!the_engine_takes(code))
+            continue;
         formatted[each.name] =
             form_as_code(without_instances(format_with(style).the_code(with_instances(code) + "\n").text));
     }

@@ -1,0 +1,81 @@
+// One walk over the tokens (bracket_balance.h), counting each kind of nesting where it stands.
+#include "nesting_depth.h"
+
+#include "bracket_balance.h"
+
+#include <algorithm>
+#include <set>
+
+namespace tarnel_engine {
+
+namespace {
+
+bool is_control_keyword(std::string const& spelling) {
+    static std::set<std::string> const keywords = {"if", "else", "for", "while", "do", "switch"};
+    return keywords.count(spelling) != 0;
+}
+
+bool is_prefix_operator(std::string const& spelling) {
+    static std::set<std::string> const operators = {"!", "~", "-", "+", "*", "&", "++", "--", "&&", "not", "compl"};
+    return operators.count(spelling) != 0;
+}
+
+// The counts that a statement (or a preprocessor line) starts afresh.
+struct statement_counts {
+    unsigned long questions = 0;
+    unsigned long angles = 0;
+    unsigned long prefixes_in_a_row = 0;
+    unsigned long directive_brackets = 0;
+};
+
+}  // namespace
+
+nesting_reading nesting_of(std::string const& code) {
+    nesting_reading reading;
+    statement_counts counts;
+    unsigned long controls_in_a_row = 0;
+    bool statement_ended = false;  // by a `;`: the next token begins another unless it is `else`
+    bool was_in_directive = false;
+    auto const deepen = [&](unsigned long depth) { reading.deepest = std::max(reading.deepest, depth); };
+    walk_brackets_of(code, [&](bracket_step const& step) {
+        ++reading.tokens;
+        std::string const& token = step.spelling;
+        bool const directive_starts = step.in_directive && step.starts_line;
+        if (directive_starts || step.in_directive != was_in_directive)
+            counts = statement_counts();
+        was_in_directive = step.in_directive;
+        if (statement_ended && token != "else")
+            controls_in_a_row = 0;
+        statement_ended = false;
+
+        if (step.in_directive) {
+            if (token == "(" || token == "[" || token == "{" || token == "<:" || token == "<%")
+                deepen(++counts.directive_brackets);
+            else if ((token == ")" || token == "]" || token == "}" || token == ":>" || token == "%>") &&
+                     counts.directive_brackets > 0)
+                --counts.directive_brackets;
+        } else {
+            deepen(step.open);
+            if (token == "{" || token == "}" || token == "<%" || token == "%>") {
+                counts = statement_counts();
+                controls_in_a_row = 0;
+            } else if (token == ";") {
+                counts = statement_counts();
+                statement_ended = true;
+            }
+        }
+        if (token == "?")
+            deepen(++counts.questions);
+        else if (token == "<")
+            deepen(++counts.angles);
+        if (is_control_keyword(token))
+            deepen(++controls_in_a_row);
+        if (is_prefix_operator(token))
+            deepen(++counts.prefixes_in_a_row);
+        else
+            counts.prefixes_in_a_row = 0;
+    });
+    return reading;
+}
+
+}  // namespace tarnel_engine

@@ -1,0 +1,112 @@
+// clang's own lexer in raw mode (no preprocessor, no file): every byte of the text is either white
+// space or part of a token, so two texts with the same tokens differ in white space alone.
+#include "token_sequence.h"
+
+#include "lexing.h"
+
+#include <clang/Lex/Lexer.h>
+
+namespace tarnel_engine {
+
+clang::LangOptions lexer_options_for(lexed_as language) {
+    clang::LangOptions options;
+    if (language == lexed_as::latest_cpp) {
+        options.CPlusPlus = options.CPlusPlus11 = options.CPlusPlus14 = options.CPlusPlus17 = true;
+        options.CPlusPlus20 = options.CPlusPlus23 = options.CPlusPlus26 = true;
+        options.Char8 = true;
+        options.CXXOperatorNames = true;
+    } else {
+        options.C99 = options.C11 = options.C17 = options.C23 = true;
+    }
+    options.LineComment = true;
+    options.Digraphs = true;
+    options.RawStringLiterals = true;
+    options.Bool = true;
+    return options;
+}
+
+namespace {
+
+bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f'; }
+
+// A backslash at the end of a line (blanks may stand between) continues the line: the compiler
+// reads the two lines as one.
+std::string without_line_continuations(std::string const& text) {
+    std::string joined;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == '\\') {
+            std::size_t next = at + 1;
+            while (next < text.size() && (text[next] == ' ' || text[next] == '\t'))
+                ++next;
+            if (next < text.size() && text[next] == '\r')
+                ++next;
+            if (next < text.size() && text[next] == '\n') {
+                at = next;
+                continue;
+            }
+        }
+        joined += text[at];
+    }
+    return joined;
+}
+
+std::string without_white_space(std::string const& text) {
+    std::string kept;
+    for (char c : text)
+        if (!is_blank(c))
+            kept += c;
+    return kept;
+}
+
+// Markers that no token's spelling can be: a line break leads them.
+std::string const directive_begins = "\n#";
+std::string const directive_ends = "\n";
+
+}  // namespace
+
+std::vector<std::string> tokens_of(std::string const& code, lexed_as language) {
+    clang::LangOptions const options = lexer_options_for(language);
+    char const* const begin = code.data();
+    clang::Lexer lexer(clang::SourceLocation(), options, begin, begin, begin + code.size());
+    lexer.SetCommentRetentionState(true);
+
+    std::vector<std::string> tokens;
+    bool in_directive = false;
+    bool line_start = true;  // nothing but comments yet on this line
+    clang::Token token;
+    while (true) {
+        lexer.LexFromRawLexer(token);
+        if (token.isAtStartOfLine()) {
+            line_start = true;
+            if (in_directive)
+                tokens.push_back(directive_ends);
+            in_directive = false;
+        }
+        if (token.is(clang::tok::eof))
+            break;
+        char const* const end = lexer.getBufferLocation();
+        std::string text(end - token.getLength(), end);
+        if (token.needsCleaning())
+            text = without_line_continuations(text);
+        if (token.is(clang::tok::comment)) {
+            tokens.push_back(without_white_space(text));
+            continue;
+        }
+        if (line_start && token.is(clang::tok::hash)) {
+            in_directive = true;
+            tokens.push_back(directive_begins + text);
+        } else {
+            tokens.push_back(std::move(text));
+        }
+        line_start = false;
+    }
+    if (in_directive)
+        tokens.push_back(directive_ends);
+    return tokens;
+}
+
+bool same_tokens_in(std::string const& before, std::string const& after, lexed_as language) {
+    return tokens_of(before, language) == tokens_of(after, language);
+}
+
+}  // namespace tarnel_engine
