@@ -11,7 +11,7 @@ namespace tarnel_engine {
 namespace {
 
 bool is_control_keyword(std::string const& spelling) {
-    static std::set<std::string> const keywords = {"if", "else", "for", "while", "do", "switch"};
+    static std::set<std::string> const keywords = {"if", "for", "while", "do", "switch"};
     return keywords.count(spelling) != 0;
 }
 

@@ -4,6 +4,7 @@
 
 #include "addon_forms.h"
 #include "bracket_balance.h"
+#include "deep_stack.h"
 #include "engine_call.h"
 #include "engine_hazards.h"
 #include "engine_limits.h"
@@ -64,6 +65,12 @@ std::shared_ptr<reviser::run_state const> reviser::options_for(std::string const
 }
 
 std::string reviser::revise(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
+    std::string revised;
+    run_on_a_deep_stack([&] { revised = revise_here(source, addon, traits); });
+    return revised;
+}
+
+std::string reviser::revise_here(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
     try {
         text_encoding const encoding = text_encoding::of(source, traits);
         if (encoding.contradicts_byte_order_mark_of(source))
@@ -96,9 +103,14 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
         // left as it is: never a half-settled or token-changing result. Only white space may
         // change, and white space alone can still join two tokens (`! =` to `!=`) or split one
         // (`u8"x"` to `u8 "x"`): the compiler's tokens must stay the same too.
-        if (!stable || !only_white_space_differs(*decoded, outcome.text) ||
-            !same_tokens_in(*decoded, outcome.text, language.lexing))
+        if (!stable || !only_white_space_differs(*decoded, outcome.text))
             return source;
+        if (!same_tokens_in(*decoded, outcome.text, language.lexing)) {
+            std::optional<std::string> kept = with_template_closers_kept_apart(*decoded, outcome.text, language.lexing);
+            if (!kept)
+                return source;
+            outcome.text = std::move(*kept);
+        }
         // The next revision checks the result as this one checked the source. An unclosed quote
         // (a stray apostrophe) ends at the end of its line; joined with the next line, it takes
         // in brackets that the source had outside it. Such code is no proper source anyway.

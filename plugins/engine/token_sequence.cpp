@@ -6,6 +6,8 @@
 
 #include <clang/Lex/Lexer.h>
 
+#include <utility>
+
 namespace tarnel_engine {
 
 clang::LangOptions lexer_options_for(lexed_as language) {
@@ -64,13 +66,21 @@ std::string const directive_ends = "\n";
 
 }  // namespace
 
-std::vector<std::string> tokens_of(std::string const& code, lexed_as language) {
+namespace {
+
+struct placed_token {
+    std::string text;
+    std::size_t end = 0;  // the offset just past it in the code
+};
+
+std::vector<placed_token> placed_tokens_of(std::string const& code, lexed_as language) {
     clang::LangOptions const options = lexer_options_for(language);
     char const* const begin = code.data();
     clang::Lexer lexer(clang::SourceLocation(), options, begin, begin, begin + code.size());
     lexer.SetCommentRetentionState(true);
 
-    std::vector<std::string> tokens;
+    std::vector<placed_token> tokens;
+    auto const add = [&](std::string text) { tokens.push_back({std::move(text), static_cast<std::size_t>(lexer.getBufferLocation() - begin)}); };
     bool in_directive = false;
     bool line_start = true;  // nothing but comments yet on this line
     clang::Token token;
@@ -79,7 +89,7 @@ std::vector<std::string> tokens_of(std::string const& code, lexed_as language) {
         if (token.isAtStartOfLine()) {
             line_start = true;
             if (in_directive)
-                tokens.push_back(directive_ends);
+                add(directive_ends);
             in_directive = false;
         }
         if (token.is(clang::tok::eof))
@@ -89,20 +99,54 @@ std::vector<std::string> tokens_of(std::string const& code, lexed_as language) {
         if (token.needsCleaning())
             text = without_line_continuations(text);
         if (token.is(clang::tok::comment)) {
-            tokens.push_back(without_white_space(text));
+            add(without_white_space(text));
             continue;
         }
         if (line_start && token.is(clang::tok::hash)) {
             in_directive = true;
-            tokens.push_back(directive_begins + text);
+            add(directive_begins + text);
         } else {
-            tokens.push_back(std::move(text));
+            add(std::move(text));
         }
         line_start = false;
     }
     if (in_directive)
-        tokens.push_back(directive_ends);
+        add(directive_ends);
     return tokens;
+}
+
+}  // namespace
+
+std::vector<std::string> tokens_of(std::string const& code, lexed_as language) {
+    std::vector<std::string> texts;
+    for (placed_token& token : placed_tokens_of(code, language))
+        texts.push_back(std::move(token.text));
+    return texts;
+}
+
+std::optional<std::string> with_template_closers_kept_apart(std::string const& before, std::string const& after,
+                                                            lexed_as language) {
+    std::vector<placed_token> const old_tokens = placed_tokens_of(before, language);
+    std::vector<placed_token> const new_tokens = placed_tokens_of(after, language);
+    std::string kept;
+    std::size_t copied = 0;
+    std::size_t old_at = 0;
+    std::size_t new_at = 0;
+    for (; old_at < old_tokens.size() && new_at < new_tokens.size(); ++old_at, ++new_at) {
+        if (old_tokens[old_at].text == new_tokens[new_at].text)
+            continue;
+        bool const joined = new_tokens[new_at].text == ">>" && old_tokens[old_at].text == ">" &&
+                            old_at + 1 < old_tokens.size() && old_tokens[old_at + 1].text == ">";
+        if (!joined)
+            return std::nullopt;
+        std::size_t const between = new_tokens[new_at].end - 1;
+        kept += after.substr(copied, between - copied) + " ";
+        copied = between;
+        ++old_at;
+    }
+    if (old_at != old_tokens.size() || new_at != new_tokens.size())
+        return std::nullopt;
+    return kept + after.substr(copied);
 }
 
 bool same_tokens_in(std::string const& before, std::string const& after, lexed_as language) {

@@ -3,6 +3,7 @@
 #ifndef TARNEL_ENGINE_TOKEN_SEQUENCE_H
 #define TARNEL_ENGINE_TOKEN_SEQUENCE_H
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,13 @@ std::vector<std::string> tokens_of(std::string const& code, lexed_as language);
 
 // Whether both texts hold the same token sequence.
 bool same_tokens_in(std::string const& before, std::string const& after, lexed_as language);
+
+// `after` with a blank put back into each `>>` that stands for `> >` of `before`, when that is all
+// that makes their tokens differ; nothing otherwise. The engine reads the two closers of nested
+// templates alike either way, and in the latest standard it writes them as `>>`: without the
+// blank, code written for C++03 would never be revised.
+std::optional<std::string> with_template_closers_kept_apart(std::string const& before, std::string const& after,
+                                                            lexed_as language);
 
 }  // namespace tarnel_engine
 
