@@ -4,6 +4,10 @@
 // deeper than the engine survives, and sources larger than the memory it may take.
 #include "helpers/our_plugins.h"
 
+#include "c_language.h"
+#include "cpp_language.h"
+#include "revision.h"
+
 #include <QtTest>
 
 #include <sys/resource.h>
@@ -101,6 +105,21 @@ private slots:
         QVERIFY2(revised != STYLE_TARNEL_SYNTAX_ERROR_TEXT, "refused");
         for (QString const& token : whole)
             QVERIFY2(QString::fromStdString(revised).contains(token), qPrintable(token + " in\n" + QString::fromStdString(revised)));
+    }
+
+    // The options every shipped addon is revised with read the latest standard, whatever the
+    // predefined style the search started from (GNU's is C++03).
+    void inferred_options_read_the_latest_standard_data() {
+        QTest::addColumn<QString>("addon");
+        for (QString const& addon : shipped_addons())
+            QTest::newRow(qPrintable(addon)) << addon;
+    }
+
+    void inferred_options_read_the_latest_standard() {
+        QFETCH(QString, addon);
+        std::string const options = tarnel_engine::options_inferred_from(
+            shipped_addon(addon), language_of(addon) == "C++" ? cpp_language() : c_language());
+        QVERIFY2(QString::fromStdString(options).contains(QRegularExpression("\\nStandard: +Latest\\n")), options.c_str());
     }
 
     // Code that does not compile, where the engine would join two tokens that only white space
