@@ -28,9 +28,10 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     static tarnel_engine::language_plugin_base plugin(language);
     if (size == 0 || addons.empty())
         return 0;
+    auto const same_tokens = [](std::string const& before, std::string const& after) {
+        return tarnel_engine::same_tokens_in(before, after, language.lexing);
+    };
     fuzz::check_revise_promises(plugin, std::string(reinterpret_cast<char const*>(data) + 1, size - 1),
-                                addons[data[0] % addons.size()], [](std::string const& before, std::string const& after) {
-                                    return tarnel_engine::same_tokens_in(before, after, language.lexing);
-                                });
+                                addons[data[0] % addons.size()], same_tokens);
     return 0;
 }

@@ -64,10 +64,6 @@ std::string without_white_space(std::string const& text) {
 std::string const directive_begins = "\n#";
 std::string const directive_ends = "\n";
 
-}  // namespace
-
-namespace {
-
 struct placed_token {
     std::string text;
     std::size_t end = 0;  // the offset just past it in the code
@@ -80,7 +76,9 @@ std::vector<placed_token> placed_tokens_of(std::string const& code, lexed_as lan
     lexer.SetCommentRetentionState(true);
 
     std::vector<placed_token> tokens;
-    auto const add = [&](std::string text) { tokens.push_back({std::move(text), static_cast<std::size_t>(lexer.getBufferLocation() - begin)}); };
+    auto const add = [&](std::string text) {
+        tokens.push_back({std::move(text), static_cast<std::size_t>(lexer.getBufferLocation() - begin)});
+    };
     bool in_directive = false;
     bool line_start = true;  // nothing but comments yet on this line
     clang::Token token;
