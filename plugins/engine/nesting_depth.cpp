@@ -64,6 +64,9 @@ nesting_reading nesting_of(std::string const& code) {
                 statement_ended = true;
             }
         }
+        // A comma ends a conditional: the elements of a table of them do not nest.
+        if (token == ",")
+            counts.questions = 0;
         if (token == "?")
             deepen(++counts.questions);
         else if (token == "<")

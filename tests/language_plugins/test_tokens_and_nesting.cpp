@@ -183,6 +183,8 @@ private slots:
         int const deep = 200;
         QTest::newRow("blocks") << QString::fromStdString("void f() " + repeated("{", deep) + repeated("}", deep) + "\n");
         QTest::newRow("conditional chain") << QString::fromStdString("int x = " + repeated("a?b:", deep) + "c;\n");
+        QTest::newRow("a table of conditionals")
+            << QString::fromStdString("int t[] = {" + repeated("a?b:c,", 1000) + "};\n");
         QTest::newRow("prefix operators") << QString::fromStdString("int x = " + repeated("- ", deep) + "a ;\n");
         QTest::newRow("control statements")
             << QString::fromStdString("void f() {" + repeated("if(a) ", deep) + "x;}\n");
