@@ -31,19 +31,17 @@ namespace {
 
 bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f'; }
 
-// A backslash at the end of a line (blanks may stand between) continues the line: the compiler
-// reads the two lines as one.
+// A backslash at the end of a line (blanks may stand between; the line may end with LF, CR LF or
+// CR) continues the line: the compiler reads the two lines as one.
 std::string without_line_continuations(std::string const& text) {
     std::string joined;
     for (std::size_t at = 0; at < text.size(); ++at) {
         if (text[at] == '\\') {
             std::size_t next = at + 1;
-            while (next < text.size() && (text[next] == ' ' || text[next] == '\t'))
+            while (next < text.size() && (text[next] == ' ' || text[next] == '\t' || text[next] == '\v' || text[next] == '\f'))
                 ++next;
-            if (next < text.size() && text[next] == '\r')
-                ++next;
-            if (next < text.size() && text[next] == '\n') {
-                at = next;
+            if (next < text.size() && (text[next] == '\n' || text[next] == '\r')) {
+                at = next + (text[next] == '\r' && next + 1 < text.size() && text[next + 1] == '\n' ? 1 : 0);
                 continue;
             }
         }
