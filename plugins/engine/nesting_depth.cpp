@@ -4,20 +4,31 @@
 #include "bracket_balance.h"
 
 #include <algorithm>
-#include <set>
+#include <string_view>
 
 namespace tarnel_engine {
 
 namespace {
 
+// Both are asked of every token: by length first, without a table.
 bool is_control_keyword(std::string const& spelling) {
-    static std::set<std::string> const keywords = {"if", "for", "while", "do", "switch"};
-    return keywords.count(spelling) != 0;
+    switch (spelling.size()) {
+    case 2: return spelling == "if" || spelling == "do";
+    case 3: return spelling == "for";
+    case 5: return spelling == "while";
+    case 6: return spelling == "switch";
+    default: return false;
+    }
 }
 
 bool is_prefix_operator(std::string const& spelling) {
-    static std::set<std::string> const operators = {"!", "~", "-", "+", "*", "&", "++", "--", "&&", "not", "compl"};
-    return operators.count(spelling) != 0;
+    switch (spelling.size()) {
+    case 1: return std::string_view("!~-+*&").find(spelling[0]) != std::string_view::npos;
+    case 2: return spelling == "++" || spelling == "--" || spelling == "&&";
+    case 3: return spelling == "not";
+    case 5: return spelling == "compl";
+    default: return false;
+    }
 }
 
 // The counts that a statement (or a preprocessor line) starts afresh.

@@ -6,6 +6,8 @@
 
 #include <clang/Lex/Lexer.h>
 
+#include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace tarnel_engine {
@@ -50,17 +52,86 @@ std::string without_line_continuations(std::string const& text) {
     return joined;
 }
 
-std::string without_white_space(std::string const& text) {
-    std::string kept;
-    for (char c : text)
-        if (!is_blank(c))
-            kept += c;
-    return kept;
-}
-
 // Markers that no token's spelling can be: a line break leads them.
 std::string const directive_begins = "\n#";
 std::string const directive_ends = "\n";
+
+// Reads the tokens of a text one at a time, the markers of directives among them, reusing its
+// buffers: two texts are compared without holding either's tokens.
+class token_reader {
+public:
+    token_reader(std::string const& code, lexed_as language)
+        : begin(code.data()), options(lexer_options_for(language)),
+          lexer(clang::SourceLocation(), options, begin, begin, begin + code.size()) {
+        lexer.SetCommentRetentionState(true);
+    }
+
+    // The next token and the offset just past it in the code; false at the end. The text stays
+    // valid until the next call.
+    bool next(std::string_view& text, std::size_t& end) {
+        if (at == count) {
+            if (done)
+                return false;
+            read();
+            if (at == count)
+                return false;
+        }
+        text = queued[at];
+        end = queued_end[at];
+        ++at;
+        return true;
+    }
+
+private:
+    std::string& queue(std::size_t end) {
+        queued_end[count] = end;
+        return queued[count++];
+    }
+
+    void read() {
+        at = count = 0;
+        clang::Token token;
+        lexer.LexFromRawLexer(token);
+        std::size_t const end = static_cast<std::size_t>(lexer.getBufferLocation() - begin);
+        if (token.isAtStartOfLine()) {
+            line_start = true;
+            if (in_directive)
+                queue(end).assign(directive_ends);
+            in_directive = false;
+        }
+        if (token.is(clang::tok::eof)) {
+            if (in_directive)
+                queue(end).assign(directive_ends);
+            done = true;
+            return;
+        }
+        std::string& text = queue(end);
+        text.assign(begin + end - token.getLength(), begin + end);
+        if (token.needsCleaning())
+            text = without_line_continuations(text);
+        if (token.is(clang::tok::comment)) {
+            text.erase(std::remove_if(text.begin(), text.end(), is_blank), text.end());
+            return;
+        }
+        if (line_start && token.is(clang::tok::hash)) {
+            in_directive = true;
+            text.insert(0, directive_begins);
+        }
+        line_start = false;
+    }
+
+    char const* const begin;
+    clang::LangOptions const options;  // the lexer keeps a reference
+    clang::Lexer lexer;
+    bool in_directive = false;
+    bool line_start = true;  // nothing but comments yet on this line
+    bool done = false;
+    // A token, with the end of a directive before it.
+    std::string queued[2];
+    std::size_t queued_end[2] = {0, 0};
+    int count = 0;
+    int at = 0;
+};
 
 struct placed_token {
     std::string text;
@@ -68,46 +139,12 @@ struct placed_token {
 };
 
 std::vector<placed_token> placed_tokens_of(std::string const& code, lexed_as language) {
-    clang::LangOptions const options = lexer_options_for(language);
-    char const* const begin = code.data();
-    clang::Lexer lexer(clang::SourceLocation(), options, begin, begin, begin + code.size());
-    lexer.SetCommentRetentionState(true);
-
+    token_reader reader(code, language);
     std::vector<placed_token> tokens;
-    auto const add = [&](std::string text) {
-        tokens.push_back({std::move(text), static_cast<std::size_t>(lexer.getBufferLocation() - begin)});
-    };
-    bool in_directive = false;
-    bool line_start = true;  // nothing but comments yet on this line
-    clang::Token token;
-    while (true) {
-        lexer.LexFromRawLexer(token);
-        if (token.isAtStartOfLine()) {
-            line_start = true;
-            if (in_directive)
-                add(directive_ends);
-            in_directive = false;
-        }
-        if (token.is(clang::tok::eof))
-            break;
-        char const* const end = lexer.getBufferLocation();
-        std::string text(end - token.getLength(), end);
-        if (token.needsCleaning())
-            text = without_line_continuations(text);
-        if (token.is(clang::tok::comment)) {
-            add(without_white_space(text));
-            continue;
-        }
-        if (line_start && token.is(clang::tok::hash)) {
-            in_directive = true;
-            add(directive_begins + text);
-        } else {
-            add(std::move(text));
-        }
-        line_start = false;
-    }
-    if (in_directive)
-        add(directive_ends);
+    std::string_view text;
+    std::size_t end = 0;
+    while (reader.next(text, end))
+        tokens.push_back({std::string(text), end});
     return tokens;
 }
 
@@ -146,7 +183,19 @@ std::optional<std::string> with_template_closers_kept_apart(std::string const& b
 }
 
 bool same_tokens_in(std::string const& before, std::string const& after, lexed_as language) {
-    return tokens_of(before, language) == tokens_of(after, language);
+    token_reader old_tokens(before, language);
+    token_reader new_tokens(after, language);
+    std::string_view old_text;
+    std::string_view new_text;
+    std::size_t end = 0;
+    while (true) {
+        bool const old_one = old_tokens.next(old_text, end);
+        bool const new_one = new_tokens.next(new_text, end);
+        if (old_one != new_one || old_text != new_text)
+            return false;
+        if (!old_one)
+            return true;
+    }
 }
 
 }  // namespace tarnel_engine
