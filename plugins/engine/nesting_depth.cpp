@@ -34,6 +34,7 @@ bool is_prefix_operator(std::string const& spelling) {
 // The counts that a statement (or a preprocessor line) starts afresh.
 struct statement_counts {
     unsigned long questions = 0;
+    unsigned long questions_open = 0;  // `?` not yet answered by their `:`
     unsigned long angles = 0;
     unsigned long prefixes_in_a_row = 0;
     unsigned long directive_brackets = 0;
@@ -75,12 +76,16 @@ nesting_reading nesting_of(std::string const& code) {
                 statement_ended = true;
             }
         }
-        // A comma ends a conditional: the elements of a table of them do not nest.
-        if (token == ",")
+        // A comma after the last `:` ends a conditional: the elements of a table of them do not
+        // nest. One before it belongs to a nested conditional (`a ? b, c ? ...`).
+        if (token == "," && counts.questions_open == 0)
             counts.questions = 0;
-        if (token == "?")
+        if (token == ":" && counts.questions_open > 0)
+            --counts.questions_open;
+        if (token == "?") {
+            ++counts.questions_open;
             deepen(++counts.questions);
-        else if (token == "<")
+        } else if (token == "<")
             deepen(++counts.angles);
         if (is_control_keyword(token))
             deepen(++controls_in_a_row);

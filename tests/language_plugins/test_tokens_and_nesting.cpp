@@ -47,6 +47,7 @@ std::vector<bomb> nesting_bombs() {
         {"blocks", "void f() " + repeated("{", deep) + repeated("}", deep) + "\n"},
         {"conditional chain", "int x = " + repeated("a ? b : ", deep) + "c;\n"},
         {"nested conditionals", "int x = " + repeated("a ? ", 2000) + "b" + repeated(" : c", 2000) + ";\n"},
+        {"nested conditionals with commas", "int x = " + repeated("a ? b, ", 2000) + "b" + repeated(" : c", 2000) + ";\n"},
         {"prefix operators", "int x = " + repeated("- ", deep) + "a;\n"},
         {"angles", repeated("x<", deep) + "int" + repeated(">", deep) + " y;\n"},
         {"control statements", "void f() {" + repeated("if (a) ", deep) + "x;}\n"},
