@@ -11,8 +11,8 @@ namespace tarnel_engine {
 
 struct nesting_reading {
     // The largest of: brackets open at once (in the code, and in one preprocessor line), `?` in
-    // one statement between commas, `<` in one statement, control keywords in a row without a
-    // brace, and prefix operators in a row.
+    // one statement (a comma after the last `:` starts afresh), `<` in one statement, control
+    // keywords in a row without a brace, and prefix operators in a row.
     unsigned long deepest = 0;
     unsigned long tokens = 0;
 };
