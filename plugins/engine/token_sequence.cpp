@@ -179,7 +179,11 @@ std::optional<std::string> with_template_closers_kept_apart(std::string const& b
     }
     if (old_at != old_tokens.size() || new_at != new_tokens.size())
         return std::nullopt;
-    return kept + after.substr(copied);
+    kept += after.substr(copied);
+    // A blank put back can make other tokens: `>>>` read as `>>` and `>` becomes `> >>`.
+    if (!same_tokens_in(before, kept, language))
+        return std::nullopt;
+    return kept;
 }
 
 bool same_tokens_in(std::string const& before, std::string const& after, lexed_as language) {

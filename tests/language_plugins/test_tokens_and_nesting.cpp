@@ -133,6 +133,7 @@ private slots:
         for (QString const& addon : shipped_addons()) {
             QTest::newRow(qPrintable(addon + " ! =")) << addon << "int  y = a ! = b;\n" << QString();
             QTest::newRow(qPrintable(addon + " > > between names")) << addon << "int  y = a > > b;\n" << "> >";
+            QTest::newRow(qPrintable(addon + " > > > between names")) << addon << "int  y = a> >  > b;\n" << QString();
             if (language_of(addon) == "C++")
                 QTest::newRow(qPrintable(addon + " > > of templates"))
                     << addon << "std::vector<std::vector<int> >  v;\n" << "<int> >";
