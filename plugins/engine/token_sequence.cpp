@@ -175,6 +175,12 @@ std::optional<std::string> with_template_closers_kept_apart(std::string const& b
         std::size_t const between = new_tokens[new_at].end - 1;
         kept += after.substr(copied, between - copied) + " ";
         copied = between;
+        // `>>>` is read as `>>` and `>`: the blank goes after the second `>` too.
+        std::size_t const end = new_tokens[new_at].end;
+        if (end < after.size() && after[end] == '>') {
+            kept += after.substr(copied, end - copied) + " ";
+            copied = end;
+        }
         ++old_at;
     }
     if (old_at != old_tokens.size() || new_at != new_tokens.size())

@@ -133,10 +133,13 @@ private slots:
         for (QString const& addon : shipped_addons()) {
             QTest::newRow(qPrintable(addon + " ! =")) << addon << "int  y = a ! = b;\n" << QString();
             QTest::newRow(qPrintable(addon + " > > between names")) << addon << "int  y = a > > b;\n" << "> >";
-            QTest::newRow(qPrintable(addon + " > > > between names")) << addon << "int  y = a> >  > b;\n" << QString();
+            QTest::newRow(qPrintable(addon + " > > > between names")) << addon << "int  y = a> >  > b;\n" << "> > >";
             if (language_of(addon) == "C++")
                 QTest::newRow(qPrintable(addon + " > > of templates"))
                     << addon << "std::vector<std::vector<int> >  v;\n" << "<int> >";
+            if (language_of(addon) == "C++")
+                QTest::newRow(qPrintable(addon + " > > > of templates"))
+                    << addon << "std::map<int, std::vector<std::pair<int, int> > >  m;\n" << "<int, int> > >";
         }
     }
 
