@@ -13,13 +13,13 @@ namespace tarnel_engine {
 
 namespace {
 
-// MemAvailable of /proc/meminfo, in bytes; 0 when it cannot be read.
-unsigned long long available_memory() {
-    std::ifstream meminfo("/proc/meminfo");
+// A figure of a /proc file, in bytes (the file gives kB); 0 when it cannot be read.
+unsigned long long kilobytes_in(char const* file, std::string const& field) {
+    std::ifstream lines(file);
     std::string line;
-    while (std::getline(meminfo, line))
-        if (line.compare(0, 13, "MemAvailable:") == 0) {
-            std::istringstream fields(line.substr(13));
+    while (std::getline(lines, line))
+        if (line.compare(0, field.size(), field) == 0) {
+            std::istringstream fields(line.substr(field.size()));
             unsigned long long kilobytes = 0;
             if (fields >> kilobytes)
                 return kilobytes * 1024;
@@ -34,12 +34,15 @@ unsigned long long const memory_when_unknown = 1ULL << 30;
 }  // namespace
 
 unsigned long long memory_for_one_source() {
-    unsigned long long memory = available_memory() / 2;
+    unsigned long long memory = kilobytes_in("/proc/meminfo", "MemAvailable:") / 2;
     if (memory == 0)
         memory = memory_when_unknown;
     rlimit address_space{};
-    if (getrlimit(RLIMIT_AS, &address_space) == 0 && address_space.rlim_cur != RLIM_INFINITY)
-        memory = std::min<unsigned long long>(memory, address_space.rlim_cur / 2);
+    if (getrlimit(RLIMIT_AS, &address_space) == 0 && address_space.rlim_cur != RLIM_INFINITY) {
+        unsigned long long const held = kilobytes_in("/proc/self/status", "VmSize:");
+        unsigned long long const left = address_space.rlim_cur > held ? address_space.rlim_cur - held : 0;
+        memory = std::min(memory, left);
+    }
     return memory;
 }
 

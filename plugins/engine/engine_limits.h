@@ -17,11 +17,11 @@ unsigned long const engine_bytes_per_token = 1024;
 
 // Whether the engine may format the code: nested no deeper than deepest_nesting_taken, and with
 // memory enough for its tokens in half the memory available now (the host revises other files on
-// other workers meanwhile), or in the address space the process may still take.
+// other workers meanwhile) and in the address space the process may still take.
 bool the_engine_takes(std::string const& code);
 
 // The memory the engine may count on for one source: half the machine's available memory, or
-// the process's address-space limit when lower; 0 when neither can be read.
+// what the process's address-space limit leaves when less.
 unsigned long long memory_for_one_source();
 
 }  // namespace tarnel_engine
