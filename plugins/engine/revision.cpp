@@ -1,15 +1,18 @@
-// The revision pipeline: decode, check brackets, format until stable, check that only white space
-// changed, encode back.
+// The revision pipeline: decode, check brackets and what the engine can take, format until
+// stable, check that only white space changed and every token stayed, encode back.
 #include "revision.h"
 
 #include "addon_forms.h"
 #include "bracket_balance.h"
+#include "deep_stack.h"
 #include "engine_call.h"
 #include "engine_hazards.h"
+#include "engine_limits.h"
 #include "inference_cache.h"
 #include "placeholder_instances.h"
 #include "text_encoding.h"
 #include "token_safe_settings.h"
+#include "token_sequence.h"
 #include "white_space.h"
 
 #include <map>
@@ -62,6 +65,12 @@ std::shared_ptr<reviser::run_state const> reviser::options_for(std::string const
 }
 
 std::string reviser::revise(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
+    std::string revised;
+    run_on_a_deep_stack([&] { revised = revise_here(source, addon, traits); });
+    return revised;
+}
+
+std::string reviser::revise_here(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
     try {
         text_encoding const encoding = text_encoding::of(source, traits);
         if (encoding.contradicts_byte_order_mark_of(source))
@@ -69,7 +78,9 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
         std::optional<std::string> const decoded = encoding.decoded(source);
         if (!decoded || decoded->find('\0') != std::string::npos)
             return source;
-        if (!brackets_are_balanced_in(*decoded))
+        // Nested deeper than the engine's stack survives, or larger than memory allows, the code
+        // would crash the engine or abort the process: it is refused before the engine sees it.
+        if (!brackets_are_balanced_in(*decoded) || !the_engine_takes(*decoded))
             return syntax_error;
         clang::format::FormatStyle style = options_for(addon)->style;
         style.LineEnding = engine_line_ending(encoding.ending());
@@ -89,9 +100,17 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
             outcome = std::move(again);
         }
         // A text the engine keeps changing, or one where more than white space would change, is
-        // left as it is: never a half-settled or token-changing result.
+        // left as it is: never a half-settled or token-changing result. Only white space may
+        // change, and white space alone can still join two tokens (`! =` to `!=`) or split one
+        // (`u8"x"` to `u8 "x"`): the compiler's tokens must stay the same too.
         if (!stable || !only_white_space_differs(*decoded, outcome.text))
             return source;
+        if (!same_tokens_in(*decoded, outcome.text, language.lexing)) {
+            std::optional<std::string> kept = with_template_closers_kept_apart(*decoded, outcome.text, language.lexing);
+            if (!kept)
+                return source;
+            outcome.text = std::move(*kept);
+        }
         // The next revision checks the result as this one checked the source. An unclosed quote
         // (a stray apostrophe) ends at the end of its line; joined with the next line, it takes
         // in brackets that the source had outside it. Such code is no proper source anyway.
@@ -122,6 +141,8 @@ std::map<std::string, std::string> forms_formatted_by_inferred_options(std::stri
         if (form.empty())
             continue;
         std::string const code = form_as_code(form);
+        if (!the_engine_takes(code))
+            continue;
         formatted[each.name] =
             form_as_code(without_instances(format_with(style).the_code(with_instances(code) + "\n").text));
     }
