@@ -14,10 +14,11 @@ using namespace our_plugins;
 
 namespace {
 
-// The option sets the cases are written in: indent and tab widths both 4 in spaces, and the
-// kernel's 8-column tabs.
+// The option sets the cases are written in: indent and tab widths both 4 in spaces, the kernel's
+// 8-column tabs, and tabs of 4 columns for indentation alone.
 char const* const spaces_of_4 = "{BasedOnStyle: LLVM, IndentWidth: 4, TabWidth: 4, ColumnLimit: 100}";
 char const* const tabs_of_8 = "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, ColumnLimit: 100}";
+char const* const tabs_to_indent = "{BasedOnStyle: LLVM, IndentWidth: 4, TabWidth: 4, UseTab: ForIndentation, ColumnLimit: 100}";
 
 std::string with_cr_lf(std::string const& text) {
     std::string crlf;
@@ -92,6 +93,9 @@ private slots:
             {"tabs, spaces read and laid out as tabs", tabs_of_8,
              "void f(int a) {\nif (a) {\n/* one\n          two */\n}\n}\n",
              "void f(int a) {\n\tif (a) {\n\t\t/* one\n\t\t\t  two */\n\t}\n}\n"},
+            {"tabs for indentation alone, spaces beyond it", tabs_to_indent,
+             "void f(void) {\n/* one\n     two */\n}\n",
+             "void f(void) {\n\t/* one\n\t     two */\n}\n"},
         };
         for (case_of_comment const& each : cases) {
             QTest::newRow(each.name) << QString(each.options) << QString::fromStdString(each.input)
