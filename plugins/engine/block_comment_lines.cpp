@@ -60,6 +60,8 @@ bool is_line_break(char c) { return c == '\n' || c == '\r'; }
 
 void move_block_comment_lines::with_their_first_lines(std::string const& before, engine_outcome& outcome) const {
     std::string const& after = outcome.text;
+    if (after == before || before.find("/*") == std::string::npos)
+        return;
     std::vector<comment_place> const old_comments = comments_in(before, language);
     std::vector<comment_place> const new_comments = comments_in(after, language);
     if (old_comments.size() != new_comments.size())

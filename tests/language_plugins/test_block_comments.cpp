@@ -1,5 +1,5 @@
 // The lines of a block comment move with its first line, in spaces and in tabs, right and left,
-// with and without a leading `*`, after code and before it, inside a directive and with CR LF;
+// with and without a leading `*`, after code and before it, inside a directive, with CR LF and CR;
 // a line with less white space than it should lose loses what it has. Each case goes through
 // our C and our C++ plugin, and revising the result again changes nothing.
 #include "helpers/our_plugins.h"
@@ -20,14 +20,11 @@ char const* const spaces_of_4 = "{BasedOnStyle: LLVM, IndentWidth: 4, TabWidth: 
 char const* const tabs_of_8 = "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, ColumnLimit: 100}";
 char const* const tabs_to_indent = "{BasedOnStyle: LLVM, IndentWidth: 4, TabWidth: 4, UseTab: ForIndentation, ColumnLimit: 100}";
 
-std::string with_cr_lf(std::string const& text) {
-    std::string crlf;
-    for (char c : text) {
-        if (c == '\n')
-            crlf += '\r';
-        crlf += c;
-    }
-    return crlf;
+std::string with_line_ending(std::string const& text, std::string const& ending) {
+    std::string ended;
+    for (char c : text)
+        ended += c == '\n' ? ending : std::string(1, c);
+    return ended;
 }
 
 }  // namespace
@@ -100,9 +97,12 @@ private slots:
         for (case_of_comment const& each : cases) {
             QTest::newRow(each.name) << QString(each.options) << QString::fromStdString(each.input)
                                      << QString::fromStdString(each.expected);
-            QTest::newRow((std::string(each.name) + ", CR LF").c_str())
-                << QString(each.options) << QString::fromStdString(with_cr_lf(each.input))
-                << QString::fromStdString(with_cr_lf(each.expected));
+            for (char const* const ending : {"\r\n", "\r"}) {
+                std::string const name = std::string(each.name) + (ending[1] ? ", CR LF" : ", CR");
+                QTest::newRow(name.c_str()) << QString(each.options)
+                                            << QString::fromStdString(with_line_ending(each.input, ending))
+                                            << QString::fromStdString(with_line_ending(each.expected, ending));
+            }
         }
     }
 
