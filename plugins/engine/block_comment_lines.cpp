@@ -67,8 +67,9 @@ void move_block_comment_lines::with_their_first_lines(std::string const& before,
     if (old_comments.size() != new_comments.size())
         return;
     unsigned const tab = style.TabWidth;
-    // The columns `text` takes from `from` to `to`, a tab reaching the next tab stop, a character
-    // of several bytes one column (the engine counts the same way).
+    // The columns `text` takes from `from` to `to`: a tab reaches the next tab stop, a character
+    // of several bytes takes one column (the engine gives East Asian wide characters two: only
+    // where such characters stand before a comment on its line is its move misjudged).
     auto const columns_of = [tab](std::string const& text, std::size_t from, std::size_t to) {
         unsigned column = 0;
         for (std::size_t at = from; at < to; ++at) {
