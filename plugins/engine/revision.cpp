@@ -3,6 +3,7 @@
 #include "revision.h"
 
 #include "addon_forms.h"
+#include "block_comment_lines.h"
 #include "bracket_balance.h"
 #include "deep_stack.h"
 #include "engine_call.h"
@@ -88,6 +89,7 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
         engine_outcome outcome = format_with(style).the_code(*decoded);
         if (!outcome.complete)
             return syntax_error;
+        move_block_comment_lines(style, language.lexing).with_their_first_lines(*decoded, outcome);
         // The result is stable when formatting it again changes nothing. Only the lines a round
         // changed, with a few around them, can change in the next: the others were laid out in
         // the same surroundings already.
@@ -96,6 +98,7 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
             engine_outcome again = format_with(style).the_lines_around(outcome.text, outcome.changed, lines_of_context);
             if (!again.complete)
                 break;  // the engine cannot settle this text: it stays unstable
+            move_block_comment_lines(style, language.lexing).with_their_first_lines(outcome.text, again);
             stable = again.text == outcome.text;
             outcome = std::move(again);
         }
