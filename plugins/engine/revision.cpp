@@ -106,14 +106,12 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
         // left as it is: never a half-settled or token-changing result. Only white space may
         // change, and white space alone can still join two tokens (`! =` to `!=`) or split one
         // (`u8"x"` to `u8 "x"`): the compiler's tokens must stay the same too.
-        if (!stable || !only_white_space_differs(*decoded, outcome.text))
+        if (!stable)
             return source;
-        if (!same_tokens_in(*decoded, outcome.text, language.lexing)) {
-            std::optional<std::string> kept = with_template_closers_kept_apart(*decoded, outcome.text, language.lexing);
-            if (!kept)
-                return source;
-            outcome.text = std::move(*kept);
-        }
+        std::optional<std::string> kept = result_with_the_tokens_of(*decoded, std::move(outcome.text), language.lexing);
+        if (!kept)
+            return source;
+        outcome.text = std::move(*kept);
         // The next revision checks the result as this one checked the source. An unclosed quote
         // (a stray apostrophe) ends at the end of its line; joined with the next line, it takes
         // in brackets that the source had outside it. Such code is no proper source anyway.

@@ -3,6 +3,7 @@
 #include "token_sequence.h"
 
 #include "lexing.h"
+#include "white_space.h"
 
 #include <clang/Lex/Lexer.h>
 
@@ -206,6 +207,14 @@ bool same_tokens_in(std::string const& before, std::string const& after, lexed_a
         if (!old_one)
             return true;
     }
+}
+
+std::optional<std::string> result_with_the_tokens_of(std::string const& before, std::string after, lexed_as language) {
+    if (!only_white_space_differs(before, after))
+        return std::nullopt;
+    if (same_tokens_in(before, after, language))
+        return after;
+    return with_template_closers_kept_apart(before, after, language);
 }
 
 }  // namespace tarnel_engine

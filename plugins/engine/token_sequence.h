@@ -29,6 +29,12 @@ bool same_tokens_in(std::string const& before, std::string const& after, lexed_a
 std::optional<std::string> with_template_closers_kept_apart(std::string const& before, std::string const& after,
                                                             lexed_as language);
 
+// The formatted text as a revision may give it back: `after` itself when it differs from `before`
+// in white space alone and holds the same tokens, with the template closers of `before` kept
+// apart where that is all that differs; nothing when more than white space would change, or when
+// white space alone joins or splits a token (`! =` to `!=`, `u8"x"` to `u8 "x"`).
+std::optional<std::string> result_with_the_tokens_of(std::string const& before, std::string after, lexed_as language);
+
 }  // namespace tarnel_engine
 
 #endif

@@ -412,6 +412,8 @@ void test_ci_and_editors::a_form_of_blanks_is_inferred_as_one_without_them() {
     run_result const in_style = bundle.run({"-l=C", "-s=GNU", "-p=-"}, options);
     options.timeout_ms = 20000;
     COMPARE_RUN(bundle.run({"--addon=Blanks[C].style", "-p=-", "--assume-filename=a.c"}, options), "", in_style.out, 0);
+}
+
 // 50,000 parentheses overflowed the engine's stack: the program died in every mode. A refusal
 // as a syntax error gives standard input back, lets a check answer 2, and a run revise the rest.
 void test_ci_and_editors::a_nesting_bomb_is_a_syntax_error_in_every_mode_data() {
@@ -453,6 +455,7 @@ void test_ci_and_editors::a_nesting_bomb_is_a_syntax_error_in_every_mode() {
         QVERIFY2(said.contains(("File '" + work + "/src/other.cpp' would be changed.").toUtf8()), said.constData());
         QCOMPARE(bundle.contents_of(work + "/src/other.cpp"), other);
     } else {
+        QCOMPARE(run.status, 0);
         QCOMPARE(bundle.contents_of(work + "/src/other.cpp"), QByteArray("int f() { return 1; }\n"));
     }
 }
