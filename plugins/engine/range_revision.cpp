@@ -8,6 +8,7 @@
 #include "engine_call.h"
 #include "engine_limits.h"
 #include "inference_cache.h"
+#include "revision.h"
 #include "text_encoding.h"
 #include "token_sequence.h"
 
@@ -147,18 +148,7 @@ std::string revise_lines_of::here(std::string const& source, std::string const& 
         }
         if (!stable)
             return source;
-        std::optional<std::string> kept = result_with_the_tokens_of(*decoded, std::move(outcome.text), language.lexing);
-        if (!kept)
-            return source;
-        outcome.text = std::move(*kept);
-        if (!brackets_are_balanced_in(outcome.text))
-            return syntax_error;
-        std::optional<std::string> encoded = encoding.encoded(outcome.text);
-        if (!encoded || *encoded == source)
-            return source;
-        if (!encoding.result_is_told_alike(source, *encoded))
-            return source;
-        return std::move(*encoded);
+        return answer_for(source, *decoded, std::move(outcome.text), encoding, language.lexing);
     } catch (...) {
         return syntax_error;
     }

@@ -102,31 +102,34 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
             stable = again.text == outcome.text;
             outcome = std::move(again);
         }
-        // A text the engine keeps changing, or one where more than white space would change, is
-        // left as it is: never a half-settled or token-changing result. Only white space may
-        // change, and white space alone can still join two tokens (`! =` to `!=`) or split one
-        // (`u8"x"` to `u8 "x"`): the compiler's tokens must stay the same too.
+        // A text the engine keeps changing is left as it is: never a half-settled result.
         if (!stable)
             return source;
-        std::optional<std::string> kept = result_with_the_tokens_of(*decoded, std::move(outcome.text), language.lexing);
-        if (!kept)
-            return source;
-        outcome.text = std::move(*kept);
-        // The next revision checks the result as this one checked the source. An unclosed quote
-        // (a stray apostrophe) ends at the end of its line; joined with the next line, it takes
-        // in brackets that the source had outside it. Such code is no proper source anyway.
-        if (!brackets_are_balanced_in(outcome.text))
-            return syntax_error;
-        std::optional<std::string> encoded = encoding.encoded(outcome.text);
-        if (!encoded || *encoded == source)
-            return source;
-        // Taken for text of another encoding, the result would be revised again differently.
-        if (!encoding.result_is_told_alike(source, *encoded))
-            return source;
-        return std::move(*encoded);
+        return answer_for(source, *decoded, std::move(outcome.text), encoding, language.lexing);
     } catch (...) {
         return syntax_error;
     }
+}
+
+std::string answer_for(std::string const& source, std::string const& decoded, std::string formatted,
+                       text_encoding const& encoding, lexed_as lexing) {
+    // Only white space may change, and white space alone can still join two tokens (`! =` to
+    // `!=`) or split one (`u8"x"` to `u8 "x"`): the compiler's tokens must stay the same too.
+    std::optional<std::string> kept = result_with_the_tokens_of(decoded, std::move(formatted), lexing);
+    if (!kept)
+        return source;
+    // The next revision checks the result as this one checked the source. An unclosed quote
+    // (a stray apostrophe) ends at the end of its line; joined with the next line, it takes
+    // in brackets that the source had outside it. Such code is no proper source anyway.
+    if (!brackets_are_balanced_in(*kept))
+        return syntax_error;
+    std::optional<std::string> encoded = encoding.encoded(*kept);
+    if (!encoded || *encoded == source)
+        return source;
+    // Taken for text of another encoding, the result would be revised again differently.
+    if (!encoding.result_is_told_alike(source, *encoded))
+        return source;
+    return std::move(*encoded);
 }
 
 std::string options_inferred_from(std::string const& addon, language_description const& language) {

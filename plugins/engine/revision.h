@@ -5,6 +5,7 @@
 
 #include "interface_to_language_plugin.h"
 #include "language.h"
+#include "text_encoding.h"
 
 #include <map>
 #include <memory>
@@ -40,6 +41,13 @@ private:
     std::mutex guard;
     std::shared_ptr<run_state const> run;
 };
+
+// What a revision answers for a source once the engine's result has settled: the result encoded
+// as the source was, when it keeps the source's tokens and changes something; the source itself
+// when it would change more than white space or nothing at all; STYLE_TARNEL_SYNTAX_ERROR_TEXT
+// when its brackets no longer pair up.
+std::string answer_for(std::string const& source, std::string const& decoded, std::string formatted,
+                       text_encoding const& encoding, lexed_as lexing);
 
 // The options inferred from an addon, in clang-format's configuration syntax.
 std::string options_inferred_from(std::string const& addon, language_description const& language);
