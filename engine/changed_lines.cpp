@@ -8,9 +8,13 @@
 
 struct changed_lines::work_tree {
     git_repository* repository = nullptr;
+    git_index* index = nullptr;
     // By the path below the root, as git names it.
     std::map<QByteArray, std::vector<line_range>> changed;
-    ~work_tree() { git_repository_free(repository); }
+    ~work_tree() {
+        git_index_free(index);
+        git_repository_free(repository);
+    }
 };
 
 namespace {
@@ -91,6 +95,8 @@ changed_lines_fault changed_lines::prepared_for(QString const& path) {
         failed = git_diff_find_similar(diff, &finding);
     }
     if (failed == 0)
+        failed = git_repository_index(&tree->index, tree->repository);
+    if (failed == 0)
         failed = git_diff_foreach(diff, on_file, nullptr, on_hunk, nullptr, &tree->changed);
     git_diff_free(diff);
     if (failed != 0)
@@ -109,11 +115,11 @@ std::vector<line_range> changed_lines::of(QString const& file) const {
         auto const found = tree->changed.find(below);
         if (found != tree->changed.end())
             return found->second;
-        // Not in the diff: unchanged, or a file git ignores (named directly), which it does not track.
-        unsigned int status = 0;
-        if (git_status_file(&status, tree->repository, below.constData()) == 0 && (status & GIT_STATUS_IGNORED) != 0)
-            return {{1, to_the_end}};
-        return {};
+        // Not in the diff: unchanged when git tracks it, otherwise a file git ignores (named
+        // directly), which it does not track either.
+        if (git_index_get_bypath(tree->index, below.constData(), 0) != nullptr)
+            return {};
+        return {{1, to_the_end}};
     }
     return {};
 }
