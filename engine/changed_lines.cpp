@@ -62,9 +62,7 @@ changed_lines::~changed_lines() {
 
 changed_lines_fault changed_lines::prepared_for(QString const& path) {
     QByteArray const directory = real_directory_of(path);
-    for (auto const& opened : work_trees)
-        if (directory == opened.first || directory.startsWith(opened.first + '/'))
-            return changed_lines_fault::none;
+    // Opened for every path, so that a repository nested in another's work tree answers for its own.
     auto tree = std::make_unique<work_tree>();
     if (git_repository_open_ext(&tree->repository, directory.constData(), 0, nullptr) != 0 ||
         git_repository_workdir(tree->repository) == nullptr)
@@ -108,7 +106,10 @@ changed_lines_fault changed_lines::prepared_for(QString const& path) {
 std::vector<line_range> changed_lines::of(QString const& file) const {
     QFileInfo const info(file);
     QByteArray const real = (info.canonicalPath() + '/' + info.fileName()).toUtf8();
-    for (auto const& [root, tree] : work_trees) {
+    // The innermost work tree that holds the file: the roots come in byte order, nested ones later.
+    for (auto opened = work_trees.rbegin(); opened != work_trees.rend(); ++opened) {
+        QByteArray const& root = opened->first;
+        work_tree const* const tree = opened->second.get();
         if (!real.startsWith(root + '/'))
             continue;
         QByteArray const below = real.mid(root.size() + 1);
