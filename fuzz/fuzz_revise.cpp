@@ -1,12 +1,14 @@
 // Our C or C++ plugin's revise() (built once for each, FUZZED_LANGUAGE "C" or "C++") on any
 // source, in the style of a shipped addon of that language chosen by the input's first byte.
-// Promises: the result is the syntax-error text or has the source's non-white-space bytes, and
-// revising the result again changes nothing.
+// Promises: the result is the syntax-error text or has the source's non-white-space bytes and its
+// tokens (read by the plugins' own lexer, in the language's latest standard), and revising the
+// result again changes nothing.
 #include "fuzz_support.h"
 
 #include "c_language.h"
 #include "cpp_language.h"
 #include "language_plugin_base.h"
+#include "token_sequence.h"
 
 #include <cstring>
 
@@ -21,11 +23,15 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
 }
 
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
-    static tarnel_engine::language_plugin_base plugin(std::strcmp(FUZZED_LANGUAGE, "C") == 0 ? c_language()
-                                                                                          : cpp_language());
+    static tarnel_engine::language_description const& language =
+        std::strcmp(FUZZED_LANGUAGE, "C") == 0 ? c_language() : cpp_language();
+    static tarnel_engine::language_plugin_base plugin(language);
     if (size == 0 || addons.empty())
         return 0;
+    auto const same_tokens = [](std::string const& before, std::string const& after) {
+        return tarnel_engine::same_tokens_in(before, after, language.lexing);
+    };
     fuzz::check_revise_promises(plugin, std::string(reinterpret_cast<char const*>(data) + 1, size - 1),
-                                addons[data[0] % addons.size()]);
+                                addons[data[0] % addons.size()], same_tokens);
     return 0;
 }

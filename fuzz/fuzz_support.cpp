@@ -115,7 +115,7 @@ bool same_non_white_space(std::string const& a, std::string const& b, code_units
 }
 
 void check_revise_promises(interface_to_language_plugin& plugin, std::string const& source,
-                           std::string const& addon) {
+                           std::string const& addon, token_comparison const& same_tokens) {
     line_ending_traits const traits = detail::traits_of()(source);
     std::string const result = plugin.revise(source, addon, traits);
     if (result == STYLE_TARNEL_SYNTAX_ERROR_TEXT)
@@ -123,6 +123,10 @@ void check_revise_promises(interface_to_language_plugin& plugin, std::string con
     if (!same_non_white_space(result, source, code_units_of(source, traits))) {
         std::fprintf(stderr, "--- source\n%s\n--- result\n%s\n---\n", source.c_str(), result.c_str());
         check(false, "revise changed more than white space");
+    }
+    if (code_units_of(source, traits).size == 1 && !same_tokens(source, result)) {
+        std::fprintf(stderr, "--- source\n%s\n--- result\n%s\n---\n", source.c_str(), result.c_str());
+        check(false, "revise changed the tokens");
     }
     std::string const again = plugin.revise(result, addon, detail::traits_of()(result));
     check(again == result, "revising the result again changed it");

@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -40,11 +41,14 @@ code_units code_units_of(std::string const& text, line_ending_traits const& trai
 // moving and removing those.
 bool same_non_white_space(std::string const& a, std::string const& b, code_units units);
 
+// Whether two 8-bit texts hold the same tokens, as the plugin's language reads them.
+using token_comparison = std::function<bool(std::string const& before, std::string const& after)>;
+
 // Revises `source` with `plugin` in the style of `addon` and checks the product's promises: the
-// result is the syntax-error text or has the same non-white-space bytes as the source, and
-// revising the result again gives it back unchanged.
+// result is the syntax-error text or has the same non-white-space bytes as the source and, for
+// 8-bit text, the same tokens, and revising the result again gives it back unchanged.
 void check_revise_promises(interface_to_language_plugin& plugin, std::string const& source,
-                           std::string const& addon);
+                           std::string const& addon, token_comparison const& same_tokens);
 
 // Splits fuzz input at its first byte 0: the part before and the rest (empty when there is none).
 std::pair<std::string, std::string> split_at_first_zero(std::uint8_t const* data, std::size_t size);

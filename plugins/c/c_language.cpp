@@ -15,6 +15,7 @@ tarnel_engine::language_description const& c_language() {
          "_Thread_local"},
         {"c", "h"},
         c_family_structures(),
+        tarnel_engine::lexed_as::latest_c,
     };
     return language;
 }

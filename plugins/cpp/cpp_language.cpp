@@ -34,6 +34,7 @@ tarnel_engine::language_description const& cpp_language() {
          "override", "import", "module"},
         {"cpp", "cc", "cxx", "c++", "hpp", "hh", "hxx", "h++", "h"},
         all_cpp_structures(),
+        tarnel_engine::lexed_as::latest_cpp,
     };
     return language;
 }

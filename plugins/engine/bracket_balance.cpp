@@ -1,8 +1,9 @@
 // The brackets are read with clang's raw lexer, so that those in comments, strings and character
-// literals do not count.
+// literals do not count; digraphs are brackets, as the engine reads them.
 #include "bracket_balance.h"
 
-#include <clang/Basic/LangOptions.h>
+#include "lexing.h"
+
 #include <clang/Lex/Lexer.h>
 
 #include <vector>
@@ -37,22 +38,30 @@ char opener_of(clang::tok::TokenKind kind) {
 
 }  // namespace
 
-bool brackets_are_balanced_in(std::string const& code) {
-    clang::LangOptions options;
-    options.CPlusPlus = options.CPlusPlus11 = options.CPlusPlus14 = options.CPlusPlus17 = true;
-    options.LineComment = true;
-    options.Digraphs = false;
+bool walk_brackets_of(std::string const& code, std::function<void(bracket_step const&)> const& visit) {
+    clang::LangOptions const options = lexer_options_for(lexed_as::latest_cpp);
     clang::Lexer lexer(clang::SourceLocation(), options, code.data(), code.data(), code.data() + code.size());
     lexer.SetCommentRetentionState(false);
 
     std::vector<char> open;
     std::vector<open_conditional> conditionals;
+    bool balanced = true;
     clang::Token token;
     bool in_directive = false;
     bool have_token = false;  // a token read ahead after a lone "#" that still needs counting
+    std::string spelling;
+    auto const tell = [&](clang::Token const& told, char const* end) {
+        if (!visit)
+            return;
+        spelling.assign(end - told.getLength(), end);
+        visit(bracket_step{spelling, in_directive, told.isAtStartOfLine(), open.size()});
+    };
+    char const* token_end = nullptr;
     while (true) {
-        if (!have_token)
+        if (!have_token) {
             lexer.LexFromRawLexer(token);
+            token_end = lexer.getBufferLocation();
+        }
         have_token = false;
         if (token.is(clang::tok::eof))
             break;
@@ -60,13 +69,17 @@ bool brackets_are_balanced_in(std::string const& code) {
             in_directive = false;
         if (token.isAtStartOfLine() && token.is(clang::tok::hash)) {
             in_directive = true;
+            tell(token, token_end);
             clang::Token name;
             lexer.LexFromRawLexer(name);
+            char const* const name_end = lexer.getBufferLocation();
             if (name.is(clang::tok::eof) || name.isAtStartOfLine()) {
                 token = name;
+                token_end = name_end;
                 have_token = true;
                 continue;
             }
+            tell(name, name_end);
             std::string const directive = name.is(clang::tok::raw_identifier) ? name.getRawIdentifier().str() : std::string();
             if (directive == "if" || directive == "ifdef" || directive == "ifndef") {
                 conditionals.push_back({open, {}, false});
@@ -84,17 +97,21 @@ bool brackets_are_balanced_in(std::string const& code) {
             }
             continue;
         }
-        if (in_directive)
-            continue;
-        if (char const opener = opener_of(token.getKind())) {
-            open.push_back(opener);
-        } else if (char const closed = closer_of(token.getKind())) {
-            if (open.empty() || open.back() != closed)
-                return false;
-            open.pop_back();
+        if (!in_directive) {
+            if (char const opener = opener_of(token.getKind())) {
+                open.push_back(opener);
+            } else if (char const closed = closer_of(token.getKind())) {
+                if (open.empty() || open.back() != closed)
+                    balanced = false;
+                else
+                    open.pop_back();
+            }
         }
+        tell(token, token_end);
     }
-    return open.empty();
+    return balanced && open.empty();
 }
+
+bool brackets_are_balanced_in(std::string const& code) { return walk_brackets_of(code, {}); }
 
 }  // namespace tarnel_engine

@@ -1,8 +1,9 @@
-// Whether the brackets of a source pair up. The engine formats code with a missing or extra brace
-// without complaint, so this check stands before it.
+// Whether the brackets of a source pair up, and how deep they nest. The engine formats code with
+// a missing or extra brace without complaint, so this check stands before it.
 #ifndef TARNEL_ENGINE_BRACKET_BALANCE_H
 #define TARNEL_ENGINE_BRACKET_BALANCE_H
 
+#include <functional>
 #include <string>
 
 namespace tarnel_engine {
@@ -11,6 +12,20 @@ namespace tarnel_engine {
 // are skipped; of the branches of a conditional (#if ... #elif/#else ... #endif) the first counts,
 // as the same code opens a block once in each branch in real sources.
 bool brackets_are_balanced_in(std::string const& code);
+
+// What the walk over the brackets tells about each token it reads (those of preprocessor lines
+// included): its spelling, whether it stands in a preprocessor line, and how many brackets of the
+// code outside preprocessor lines are open after it.
+struct bracket_step {
+    std::string const& spelling;
+    bool in_directive;
+    bool starts_line;
+    unsigned long open;
+};
+
+// Walks the code as brackets_are_balanced_in() does and tells `visit` about every token; false
+// when the brackets do not pair up (the walk still goes to the end).
+bool walk_brackets_of(std::string const& code, std::function<void(bracket_step const&)> const& visit);
 
 }  // namespace tarnel_engine
 

@@ -5,6 +5,7 @@
 #include "inference_cache.h"
 
 #include "addon_forms.h"
+#include "engine_limits.h"
 #include "match_in_full.h"
 #include "option_inference.h"
 #include "placeholder_instances.h"
@@ -23,7 +24,7 @@ namespace tarnel_engine {
 namespace {
 
 // Raise when the search itself changes, so that entries written by an older search are not used.
-char const* const search_revision = "3";
+char const* const search_revision = "4";
 
 std::string key_of(std::string const& addon, language_description const& language) {
     QCryptographicHash hash(QCryptographicHash::Sha256);
@@ -130,7 +131,8 @@ std::vector<form_case> form_cases_in(std::string const& addon, language_descript
     std::vector<form_case> cases;
     for (structure const& each : language.structures) {
         std::string const form = form_of_structure(each.name).in(addon);
-        if (form.empty() || !style_tarnel::match_in_full(expressions.at(each.name)).of(form))
+        if (form.empty() || !style_tarnel::match_in_full(expressions.at(each.name)).of(form) ||
+            !the_engine_takes(form))
             continue;
         cases.push_back({each.name, with_instances(form_as_code(with_white_space_runs_bounded(form))), each.decides});
     }

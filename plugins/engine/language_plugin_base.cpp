@@ -2,6 +2,7 @@
 #include "language_plugin_base.h"
 
 #include "range_revision.h"
+#include "deep_stack.h"
 #include "style_learning.h"
 
 namespace tarnel_engine {
@@ -37,7 +38,10 @@ void language_plugin_base::end_of_revision() { revisions.forget_the_run(); }
 
 learned_style language_plugin_base::learn_style(std::vector<std::string> const& sources, std::string const& style_name,
                                                 std::function<bool(unsigned long, unsigned long)> const& going_on) {
-    return learn_style_of(language).from(sources, style_name, going_on);
+    // The search formats pieces of the sources on this thread: on the engine's own stack too.
+    learned_style learned;
+    run_on_a_deep_stack([&] { learned = learn_style_of(language).from(sources, style_name, going_on); });
+    return learned;
 }
 
 }  // namespace tarnel_engine

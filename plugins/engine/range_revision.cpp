@@ -4,10 +4,12 @@
 #include "range_revision.h"
 
 #include "bracket_balance.h"
+#include "deep_stack.h"
 #include "engine_call.h"
+#include "engine_limits.h"
 #include "inference_cache.h"
 #include "text_encoding.h"
-#include "white_space.h"
+#include "token_sequence.h"
 
 #include <algorithm>
 
@@ -102,6 +104,14 @@ clang::format::FormatStyle::LineEndingStyle engine_line_ending(line_ending endin
 
 std::string revise_lines_of::in(std::string const& source, std::string const& addon,
                                 line_ending_traits const& traits, std::vector<line_range> const& ranges) const {
+    // The engine parses the whole source for a range too: on the same stack of its own.
+    std::string revised;
+    run_on_a_deep_stack([&] { revised = here(source, addon, traits, ranges); });
+    return revised;
+}
+
+std::string revise_lines_of::here(std::string const& source, std::string const& addon,
+                                  line_ending_traits const& traits, std::vector<line_range> const& ranges) const {
     try {
         text_encoding const encoding = text_encoding::of(source, traits);
         if (encoding.contradicts_byte_order_mark_of(source))
@@ -113,7 +123,8 @@ std::string revise_lines_of::in(std::string const& source, std::string const& ad
         if (lines.empty())
             return source;
         // The whole source must pair its brackets: a range may open a block that closes outside it.
-        if (!brackets_are_balanced_in(*decoded))
+        // The engine parses all of it, so what it cannot take is refused as for a whole revision.
+        if (!brackets_are_balanced_in(*decoded) || !the_engine_takes(*decoded))
             return syntax_error;
         clang::format::FormatStyle style = inference_cache::shared().style_for(addon, language);
         style.LineEnding = engine_line_ending(encoding.ending());
@@ -134,8 +145,12 @@ std::string revise_lines_of::in(std::string const& source, std::string const& ad
             stable = again.text == outcome.text;
             outcome = std::move(again);
         }
-        if (!stable || !only_white_space_differs(*decoded, outcome.text))
+        if (!stable)
             return source;
+        std::optional<std::string> kept = result_with_the_tokens_of(*decoded, std::move(outcome.text), language.lexing);
+        if (!kept)
+            return source;
+        outcome.text = std::move(*kept);
         if (!brackets_are_balanced_in(outcome.text))
             return syntax_error;
         std::optional<std::string> encoded = encoding.encoded(outcome.text);

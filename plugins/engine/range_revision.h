@@ -24,6 +24,10 @@ public:
                    std::vector<line_range> const& ranges) const;
 
 private:
+    // in() on the calling thread's stack.
+    std::string here(std::string const& source, std::string const& addon, line_ending_traits const& traits,
+                     std::vector<line_range> const& ranges) const;
+
     language_description const& language;
 };
 

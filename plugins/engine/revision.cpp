@@ -1,15 +1,19 @@
-// The revision pipeline: decode, check brackets, format until stable, check that only white space
-// changed, encode back.
+// The revision pipeline: decode, check brackets and what the engine can take, format until
+// stable, check that only white space changed and every token stayed, encode back.
 #include "revision.h"
 
 #include "addon_forms.h"
+#include "block_comment_lines.h"
 #include "bracket_balance.h"
+#include "deep_stack.h"
 #include "engine_call.h"
 #include "engine_hazards.h"
+#include "engine_limits.h"
 #include "inference_cache.h"
 #include "placeholder_instances.h"
 #include "text_encoding.h"
 #include "token_safe_settings.h"
+#include "token_sequence.h"
 #include "white_space.h"
 
 #include <map>
@@ -62,6 +66,12 @@ std::shared_ptr<reviser::run_state const> reviser::options_for(std::string const
 }
 
 std::string reviser::revise(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
+    std::string revised;
+    run_on_a_deep_stack([&] { revised = revise_here(source, addon, traits); });
+    return revised;
+}
+
+std::string reviser::revise_here(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
     try {
         text_encoding const encoding = text_encoding::of(source, traits);
         if (encoding.contradicts_byte_order_mark_of(source))
@@ -69,7 +79,9 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
         std::optional<std::string> const decoded = encoding.decoded(source);
         if (!decoded || decoded->find('\0') != std::string::npos)
             return source;
-        if (!brackets_are_balanced_in(*decoded))
+        // Nested deeper than the engine's stack survives, or larger than memory allows, the code
+        // would crash the engine or abort the process: it is refused before the engine sees it.
+        if (!brackets_are_balanced_in(*decoded) || !the_engine_takes(*decoded))
             return syntax_error;
         clang::format::FormatStyle style = options_for(addon)->style;
         style.LineEnding = engine_line_ending(encoding.ending());
@@ -77,6 +89,7 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
         engine_outcome outcome = format_with(style).the_code(*decoded);
         if (!outcome.complete)
             return syntax_error;
+        move_block_comment_lines(style, language.lexing).with_their_first_lines(*decoded, outcome);
         // The result is stable when formatting it again changes nothing. Only the lines a round
         // changed, with a few around them, can change in the next: the others were laid out in
         // the same surroundings already.
@@ -85,13 +98,20 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
             engine_outcome again = format_with(style).the_lines_around(outcome.text, outcome.changed, lines_of_context);
             if (!again.complete)
                 break;  // the engine cannot settle this text: it stays unstable
+            move_block_comment_lines(style, language.lexing).with_their_first_lines(outcome.text, again);
             stable = again.text == outcome.text;
             outcome = std::move(again);
         }
         // A text the engine keeps changing, or one where more than white space would change, is
-        // left as it is: never a half-settled or token-changing result.
-        if (!stable || !only_white_space_differs(*decoded, outcome.text))
+        // left as it is: never a half-settled or token-changing result. Only white space may
+        // change, and white space alone can still join two tokens (`! =` to `!=`) or split one
+        // (`u8"x"` to `u8 "x"`): the compiler's tokens must stay the same too.
+        if (!stable)
             return source;
+        std::optional<std::string> kept = result_with_the_tokens_of(*decoded, std::move(outcome.text), language.lexing);
+        if (!kept)
+            return source;
+        outcome.text = std::move(*kept);
         // The next revision checks the result as this one checked the source. An unclosed quote
         // (a stray apostrophe) ends at the end of its line; joined with the next line, it takes
         // in brackets that the source had outside it. Such code is no proper source anyway.
@@ -122,6 +142,8 @@ std::map<std::string, std::string> forms_formatted_by_inferred_options(std::stri
         if (form.empty())
             continue;
         std::string const code = form_as_code(form);
+        if (!the_engine_takes(code))
+            continue;
         formatted[each.name] =
             form_as_code(without_instances(format_with(style).the_code(with_instances(code) + "\n").text));
     }

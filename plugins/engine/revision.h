@@ -21,7 +21,9 @@ public:
 
     // The source in the addon's style; the source itself, byte for byte, when nothing changes or
     // when the only result would change more than white space; STYLE_TARNEL_SYNTAX_ERROR_TEXT for
-    // code the engine cannot format completely or whose brackets do not pair up. Never throws.
+    // code the engine cannot format completely, whose brackets do not pair up, or that the engine
+    // cannot take (engine_limits.h). Never throws. The engine runs on a stack of its own
+    // (deep_stack.h), whatever the calling thread's.
     std::string revise(std::string const& source, std::string const& addon, line_ending_traits const& traits);
 
     // Drops what this run remembered (the last addon and its options); the inference caches stay.
@@ -29,6 +31,8 @@ public:
 
 private:
     struct run_state;
+    // revise() on the calling thread's stack.
+    std::string revise_here(std::string const& source, std::string const& addon, line_ending_traits const& traits);
     // The options of the addon last asked for; revisions on several threads share it.
     std::shared_ptr<run_state const> options_for(std::string const& addon);
 

@@ -5,6 +5,7 @@
 #include "bracket_balance.h"
 #include "code_sample.h"
 #include "conditional_passes.h"
+#include "engine_limits.h"
 #include "form_conflicts.h"
 #include "option_inference.h"
 #include "revision.h"
@@ -291,7 +292,7 @@ learned_style learn_style_of::from(std::vector<std::string> const& sources, std:
         std::vector<std::size_t> used;
         for (std::size_t i = 0; i < sources.size(); ++i)
             if (sources[i].find('\0') == std::string::npos && brackets_are_balanced_in(sources[i]) &&
-                conditional_branches_of(sources[i]).lines_read() <= most_lines_read) {
+                the_engine_takes(sources[i]) && conditional_branches_of(sources[i]).lines_read() <= most_lines_read) {
                 texts.push_back(sources[i]);
                 used.push_back(i);
             }

@@ -23,6 +23,10 @@ void make_token_safe(clang::format::FormatStyle& style) {
     style.InsertNewlineAtEOF = false;
     style.KeepEmptyLines.AtEndOfFile = true;
     style.ObjCPropertyAttributeOrder.clear();
+    // Read as an older standard, the engine splits what later ones made single tokens: digit
+    // separators, encoding prefixes, digraphs. The latest standard reads every older program alike
+    // (a few old names that became keywords aside).
+    style.Standard = FormatStyle::LS_Latest;
 }
 
 std::vector<std::string> const& names_of_predefined_styles() {

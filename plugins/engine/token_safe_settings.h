@@ -13,7 +13,8 @@ namespace tarnel_engine {
 // Switches off include sorting and regrouping, brace insertion and removal, namespace end
 // comments, comment reflow, qualifier reordering, semicolon and parenthesis removal, literal
 // separators, trailing commas, quote rewriting, string splitting and using-declaration sorting,
-// and keeps the end of the file as it is: whatever the style says, only white space may change.
+// keeps the end of the file as it is, and reads code in the latest language standard: whatever the
+// style says, only white space may change.
 void make_token_safe(clang::format::FormatStyle& style);
 
 // The engine's predefined styles, in the order the inference prefers them on a tie.

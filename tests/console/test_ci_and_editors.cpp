@@ -77,6 +77,8 @@ private slots:
     void a_damaged_inference_cache_entry_is_inferred_again();
     void a_form_of_blanks_is_inferred_as_one_without_them_data();
     void a_form_of_blanks_is_inferred_as_one_without_them();
+    void a_nesting_bomb_is_a_syntax_error_in_every_mode_data();
+    void a_nesting_bomb_is_a_syntax_error_in_every_mode();
 };
 
 // The rows come from checks.txt, which tells what each column holds.
@@ -422,6 +424,52 @@ void test_ci_and_editors::a_form_of_blanks_is_inferred_as_one_without_them() {
     run_result const in_style = bundle.run({"-l=C", "-s=GNU", "-p=-"}, options);
     options.timeout_ms = 20000;
     COMPARE_RUN(bundle.run({"--addon=Blanks[C].style", "-p=-", "--assume-filename=a.c"}, options), "", in_style.out, 0);
+}
+
+// 50,000 parentheses overflowed the engine's stack: the program died in every mode. A refusal
+// as a syntax error gives standard input back, lets a check answer 2, and a run revise the rest.
+void test_ci_and_editors::a_nesting_bomb_is_a_syntax_error_in_every_mode_data() {
+    QTest::addColumn<QString>("mode");
+    QTest::newRow("standard input") << "-";
+    QTest::newRow("check") << "--check";
+    QTest::newRow("tree") << "src";
+}
+
+void test_ci_and_editors::a_nesting_bomb_is_a_syntax_error_in_every_mode() {
+    QFETCH(QString, mode);
+    installed_bundle bundle;
+    bundle.add_plugin(built::build_dir() + "/PlugIns/languages/libcpp-language-plugin.so");
+    bundle.add_addon("Google[C++].style", bundle.contents_of(built::build_dir() + "/PlugIns/styles/Google[C++].style"));
+    QByteArray const bomb = "int x = " + QByteArray(50000, '(') + "1" + QByteArray(50000, ')') + ";\n";
+    QByteArray const other = "int  f( ){return 1;}\n";
+    bundle.write_file("src/bomb.cpp", bomb);
+    bundle.write_file("src/other.cpp", other);
+    QString const work = bundle.work_directory();
+    QStringList words{"-l=C++", "-s=Google"};
+    run_options options;
+    if (mode == "-")
+        options.input = bomb;
+    words << (mode == "--check" ? QStringList{"-p=src", "--check"} : QStringList{"-p=" + mode});
+    run_result const run = bundle.run(words, options);
+    QVERIFY(!run.crashed);
+    QString const refused = "Sorry, I can't revise file '%1', because it contains syntax error";
+    if (mode == "-") {
+        QCOMPARE(run.status, 2);
+        QCOMPARE(run.out, bomb);
+        QVERIFY2(run.err.contains(refused.arg("-").toUtf8()), run.err.constData());
+        return;
+    }
+    QByteArray const said = run.out + run.err;
+    QVERIFY2(said.contains(refused.arg(work + "/src/bomb.cpp").toUtf8()), said.constData());
+    QCOMPARE(bundle.contents_of(work + "/src/bomb.cpp"), bomb);
+    if (mode == "--check") {
+        QCOMPARE(run.status, 2);
+        QVERIFY2(said.contains(("File '" + work + "/src/other.cpp' would be changed.").toUtf8()), said.constData());
+        QCOMPARE(bundle.contents_of(work + "/src/other.cpp"), other);
+    } else {
+        QCOMPARE(run.status, 0);
+        QCOMPARE(bundle.contents_of(work + "/src/other.cpp"), QByteArray("int f() { return 1; }\n"));
+    }
 }
 
 QTEST_GUILESS_MAIN(test_ci_and_editors)

@@ -72,6 +72,11 @@ private slots:
         // Fault: a range past the end taken as the last line, or as the whole file.
         QTest::newRow("C++: a range past the end changes nothing")
             << "C++" << "LLVM[C++].style" << cpp << "7:9" << cpp;
+        // Fault: white space alone joining two tokens of the range (`! =` to `!=`), or a closer of
+        // C++03 templates, accepted because only white space changed.
+        QByteArray const joined = "int  f( );\nbool  y = a ! = b;\nstd::vector<std::vector<int> >  v;\n";
+        QTest::newRow("C++: tokens the range would join are kept apart")
+            << "C++" << "GNU[C++].style" << joined << "2:3" << joined;
     }
     // Faults: lines outside the ranges changed; revised lines that change when revised again;
     // more than white space changed.

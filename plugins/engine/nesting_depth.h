@@ -1,0 +1,24 @@
+// How deep a source makes the engine's parser recurse, and how many tokens it holds. The parser
+// descends once for every open bracket, every `?` and `<` of a statement, every control statement
+// without braces in a row (`if (a) if (b) ...`, `else if` chains) and every prefix operator in a
+// row; at tens of thousands of levels it overflows its stack.
+#ifndef TARNEL_ENGINE_NESTING_DEPTH_H
+#define TARNEL_ENGINE_NESTING_DEPTH_H
+
+#include <string>
+
+namespace tarnel_engine {
+
+struct nesting_reading {
+    // The largest of: brackets open at once (in the code, and in one preprocessor line), `?` in
+    // one statement (a comma after the last `:` starts afresh), `<` in one statement, control
+    // keywords in a row without a brace, and prefix operators in a row.
+    unsigned long deepest = 0;
+    unsigned long tokens = 0;
+};
+
+nesting_reading nesting_of(std::string const& code);
+
+}  // namespace tarnel_engine
+
+#endif

@@ -1,0 +1,220 @@
+// clang's own lexer in raw mode (no preprocessor, no file): every byte of the text is either white
+// space or part of a token, so two texts with the same tokens differ in white space alone.
+#include "token_sequence.h"
+
+#include "lexing.h"
+#include "white_space.h"
+
+#include <clang/Lex/Lexer.h>
+
+#include <algorithm>
+#include <string_view>
+#include <utility>
+
+namespace tarnel_engine {
+
+clang::LangOptions lexer_options_for(lexed_as language) {
+    clang::LangOptions options;
+    if (language == lexed_as::latest_cpp) {
+        options.CPlusPlus = options.CPlusPlus11 = options.CPlusPlus14 = options.CPlusPlus17 = true;
+        options.CPlusPlus20 = options.CPlusPlus23 = options.CPlusPlus26 = true;
+        options.Char8 = true;
+        options.CXXOperatorNames = true;
+    } else {
+        options.C99 = options.C11 = options.C17 = options.C23 = true;
+    }
+    options.LineComment = true;
+    options.Digraphs = true;
+    options.RawStringLiterals = true;
+    options.Bool = true;
+    return options;
+}
+
+namespace {
+
+bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f'; }
+
+// A backslash at the end of a line (blanks may stand between; the line may end with LF, CR LF or
+// CR) continues the line: the compiler reads the two lines as one.
+std::string without_line_continuations(std::string const& text) {
+    std::string joined;
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == '\\') {
+            std::size_t next = at + 1;
+            while (next < text.size() && (text[next] == ' ' || text[next] == '\t' || text[next] == '\v' || text[next] == '\f'))
+                ++next;
+            if (next < text.size() && (text[next] == '\n' || text[next] == '\r')) {
+                at = next + (text[next] == '\r' && next + 1 < text.size() && text[next + 1] == '\n' ? 1 : 0);
+                continue;
+            }
+        }
+        joined += text[at];
+    }
+    return joined;
+}
+
+// Markers that no token's spelling can be: a line break leads them.
+std::string const directive_begins = "\n#";
+std::string const directive_ends = "\n";
+
+// Reads the tokens of a text one at a time, the markers of directives among them, reusing its
+// buffers: two texts are compared without holding either's tokens.
+class token_reader {
+public:
+    token_reader(std::string const& code, lexed_as language)
+        : begin(code.data()), options(lexer_options_for(language)),
+          lexer(clang::SourceLocation(), options, begin, begin, begin + code.size()) {
+        lexer.SetCommentRetentionState(true);
+    }
+
+    // The next token and the offset just past it in the code; false at the end. The text stays
+    // valid until the next call.
+    bool next(std::string_view& text, std::size_t& end) {
+        if (at == count) {
+            if (done)
+                return false;
+            read();
+            if (at == count)
+                return false;
+        }
+        text = queued[at];
+        end = queued_end[at];
+        ++at;
+        return true;
+    }
+
+private:
+    std::string& queue(std::size_t end) {
+        queued_end[count] = end;
+        return queued[count++];
+    }
+
+    void read() {
+        at = count = 0;
+        clang::Token token;
+        lexer.LexFromRawLexer(token);
+        std::size_t const end = static_cast<std::size_t>(lexer.getBufferLocation() - begin);
+        if (token.isAtStartOfLine()) {
+            line_start = true;
+            if (in_directive)
+                queue(end).assign(directive_ends);
+            in_directive = false;
+        }
+        if (token.is(clang::tok::eof)) {
+            if (in_directive)
+                queue(end).assign(directive_ends);
+            done = true;
+            return;
+        }
+        std::string& text = queue(end);
+        text.assign(begin + end - token.getLength(), begin + end);
+        if (token.needsCleaning())
+            text = without_line_continuations(text);
+        if (token.is(clang::tok::comment)) {
+            text.erase(std::remove_if(text.begin(), text.end(), is_blank), text.end());
+            return;
+        }
+        if (line_start && token.is(clang::tok::hash)) {
+            in_directive = true;
+            text.insert(0, directive_begins);
+        }
+        line_start = false;
+    }
+
+    char const* const begin;
+    clang::LangOptions const options;  // the lexer keeps a reference
+    clang::Lexer lexer;
+    bool in_directive = false;
+    bool line_start = true;  // nothing but comments yet on this line
+    bool done = false;
+    // A token, with the end of a directive before it.
+    std::string queued[2];
+    std::size_t queued_end[2] = {0, 0};
+    int count = 0;
+    int at = 0;
+};
+
+struct placed_token {
+    std::string text;
+    std::size_t end = 0;  // the offset just past it in the code
+};
+
+std::vector<placed_token> placed_tokens_of(std::string const& code, lexed_as language) {
+    token_reader reader(code, language);
+    std::vector<placed_token> tokens;
+    std::string_view text;
+    std::size_t end = 0;
+    while (reader.next(text, end))
+        tokens.push_back({std::string(text), end});
+    return tokens;
+}
+
+}  // namespace
+
+std::vector<std::string> tokens_of(std::string const& code, lexed_as language) {
+    std::vector<std::string> texts;
+    for (placed_token& token : placed_tokens_of(code, language))
+        texts.push_back(std::move(token.text));
+    return texts;
+}
+
+std::optional<std::string> with_template_closers_kept_apart(std::string const& before, std::string const& after,
+                                                            lexed_as language) {
+    std::vector<placed_token> const old_tokens = placed_tokens_of(before, language);
+    std::vector<placed_token> const new_tokens = placed_tokens_of(after, language);
+    std::string kept;
+    std::size_t copied = 0;
+    std::size_t old_at = 0;
+    std::size_t new_at = 0;
+    for (; old_at < old_tokens.size() && new_at < new_tokens.size(); ++old_at, ++new_at) {
+        if (old_tokens[old_at].text == new_tokens[new_at].text)
+            continue;
+        bool const joined = new_tokens[new_at].text == ">>" && old_tokens[old_at].text == ">" &&
+                            old_at + 1 < old_tokens.size() && old_tokens[old_at + 1].text == ">";
+        if (!joined)
+            return std::nullopt;
+        std::size_t const between = new_tokens[new_at].end - 1;
+        kept += after.substr(copied, between - copied) + " ";
+        copied = between;
+        // `>>>` is read as `>>` and `>`: the blank goes after the second `>` too.
+        std::size_t const end = new_tokens[new_at].end;
+        if (end < after.size() && after[end] == '>') {
+            kept += after.substr(copied, end - copied) + " ";
+            copied = end;
+        }
+        ++old_at;
+    }
+    if (old_at != old_tokens.size() || new_at != new_tokens.size())
+        return std::nullopt;
+    kept += after.substr(copied);
+    // A blank put back can make other tokens: `>>>` read as `>>` and `>` becomes `> >>`.
+    if (!same_tokens_in(before, kept, language))
+        return std::nullopt;
+    return kept;
+}
+
+bool same_tokens_in(std::string const& before, std::string const& after, lexed_as language) {
+    token_reader old_tokens(before, language);
+    token_reader new_tokens(after, language);
+    std::string_view old_text;
+    std::string_view new_text;
+    std::size_t end = 0;
+    while (true) {
+        bool const old_one = old_tokens.next(old_text, end);
+        bool const new_one = new_tokens.next(new_text, end);
+        if (old_one != new_one || old_text != new_text)
+            return false;
+        if (!old_one)
+            return true;
+    }
+}
+
+std::optional<std::string> result_with_the_tokens_of(std::string const& before, std::string after, lexed_as language) {
+    if (!only_white_space_differs(before, after))
+        return std::nullopt;
+    if (same_tokens_in(before, after, language))
+        return after;
+    return with_template_closers_kept_apart(before, after, language);
+}
+
+}  // namespace tarnel_engine

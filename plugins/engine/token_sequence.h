@@ -1,0 +1,40 @@
+// The tokens of a source as a compiler of its language reads them: what a revision must keep. The
+// same lexer serves the plugins' check of every result and the fuzz targets' check of the plugins.
+#ifndef TARNEL_ENGINE_TOKEN_SEQUENCE_H
+#define TARNEL_ENGINE_TOKEN_SEQUENCE_H
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace tarnel_engine {
+
+// The latest standard of a language, as its lexer reads it: digraphs, raw strings, digit
+// separators, encoding prefixes (and, in C++, user-defined literals) included.
+enum class lexed_as { latest_c, latest_cpp };
+
+// The spelling of each token, in order, with lines continued by a backslash joined. Comments are
+// tokens too, their white space left out (the engine indents the lines of a block comment again);
+// a preprocessor directive is marked where it begins and where its line ends, so that code moved
+// into or out of a directive changes the sequence.
+std::vector<std::string> tokens_of(std::string const& code, lexed_as language);
+
+// Whether both texts hold the same token sequence.
+bool same_tokens_in(std::string const& before, std::string const& after, lexed_as language);
+
+// `after` with a blank put back into each `>>` that stands for `> >` of `before`, when that is all
+// that makes their tokens differ; nothing otherwise. The engine reads the two closers of nested
+// templates alike either way, and in the latest standard it writes them as `>>`: without the
+// blank, code written for C++03 would never be revised.
+std::optional<std::string> with_template_closers_kept_apart(std::string const& before, std::string const& after,
+                                                            lexed_as language);
+
+// The formatted text as a revision may give it back: `after` itself when it differs from `before`
+// in white space alone and holds the same tokens, with the template closers of `before` kept
+// apart where that is all that differs; nothing when more than white space would change, or when
+// white space alone joins or splits a token (`! =` to `!=`, `u8"x"` to `u8 "x"`).
+std::optional<std::string> result_with_the_tokens_of(std::string const& before, std::string after, lexed_as language);
+
+}  // namespace tarnel_engine
+
+#endif
