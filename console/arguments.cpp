@@ -11,7 +11,7 @@ std::vector<std::string> const& known_names() {
         "-h", "--help", "-v", "--version", "-l", "--lang", "-s", "--style", "-p", "--path",
         "-f", "--force", "--exts", "--import", "--export", "--delete", "--rename", "--ls",
         "--update", "--check", "--diff", "--addon", "--assume-filename", "--learn", "--exclude",
-        "--no-gitignore", "--quiet", "--lines"};
+        "--no-gitignore", "--quiet", "--lines", "--changed"};
     return names;
 }
 

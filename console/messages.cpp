@@ -117,6 +117,9 @@ std::string lines_of_several_paths() {
 std::string lines_of_a_directory(std::string const& path) {
     return "Lines ('--lines') can be revised in one file only, but '" + path + "' is a directory.";
 }
+std::string changed_lines_of_given_lines_or_standard_input() {
+    return "Changed lines ('--changed') are found in files of a git work tree, not with '--lines' or std input.";
+}
 std::string invalid_lines(std::string const& value) {
     return "Invalid lines '" + value + "', please specify them as '--lines=N:M' with 1 <= N <= M.";
 }

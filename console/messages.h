@@ -63,6 +63,7 @@ std::string standard_input_with_other_paths();
 std::string lines_of_several_paths();
 std::string lines_of_a_directory(std::string const& path);
 std::string invalid_lines(std::string const& value);
+std::string changed_lines_of_given_lines_or_standard_input();
 std::string no_language_for_standard_input();
 std::string cannot_write_standard_output();
 std::string left_out_of_diff(std::string const& name);

@@ -46,6 +46,8 @@ struct revision_wishes {
     bool quiet = false;
     // The values of --lines, as typed.
     std::vector<std::string> lines;
+    // The revision of --changed ("HEAD" when none is given); empty: not asked.
+    std::string changed_since;
 
     bool writes_nothing() const { return check || diff; }
     // A check that cannot start says so with 2, apart from the 1 of files that would change.
@@ -81,6 +83,8 @@ revision_wishes revision_wishes_from(argument_list const& arguments) {
             wishes.quiet = true;
         else if (name == "--lines")
             wishes.lines.push_back(value);
+        else if (name == "--changed")
+            wishes.changed_since = value.empty() ? std::string("HEAD") : value;
     }
     // The words come in byte order, not as typed: a pattern that brings a path back weighs more
     // than one that leaves paths out, whatever their order.
@@ -386,6 +390,10 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
         say(message::lines_of_several_paths());
         return wishes.refusal();
     }
+    if (!wishes.changed_since.empty() && (from_standard_input || !lines.empty())) {
+        say(message::changed_lines_of_given_lines_or_standard_input());
+        return wishes.refusal();
+    }
     if (from_standard_input)
         return revise_standard_input(wishes, lines);
 
@@ -405,7 +413,7 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
     // Forgotten before anything else is checked: a forced run that then fails on a bad style
     // name has still forgotten the records. A check writes nothing: it ignores them instead; so
     // does a revision of lines, which neither asks nor keeps them.
-    if (wishes.force && !wishes.writes_nothing() && lines.empty())
+    if (wishes.force && !wishes.writes_nothing() && lines.empty() && wishes.changed_since.empty())
         kernel().forget_change_records_of(paths);
 
     // One run per language and style, with the paths in the order given.
@@ -425,6 +433,7 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
         if (!task_can_start(chosen, wishes.extensions, revised_languages, task))
             return wishes.refusal();
         task.lines = lines;
+        task.changed_since = wishes.changed_since;
     }
 
     int status = 0;

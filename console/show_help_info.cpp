@@ -53,6 +53,7 @@ char const* const usage_lines[] = {
     "      --no-gitignore  Do not leave out the files which git ignores.",
     "      --quiet         Write no progress line, even on a terminal.",
     "      --lines=N:M     Revise only lines N to M (repeatable) of one file or of std input (--path=-).",
+    "      --changed[=REV] Revise only lines that differ in git from REV (default HEAD), untracked files whole.",
     "",
     "  --path=- reads source from std input and writes revised text to std output. Without --lang",
     "  and --style (or --addon), styles are taken from file '.style-tarnel' found in directory of",

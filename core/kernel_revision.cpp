@@ -64,7 +64,8 @@ revision_request request_for(revision_task const& task) {
     request.ignoring.excluded_from = task.excluded_from;
     request.ignoring.git_followed = task.git_followed;
     request.quiet = task.quiet;
-    request.lines = task.lines;
+    request.lines.given = task.lines;
+    request.lines.changed_since = task.changed_since;
     request.records = where_change_records_live();
     request.addon_manual = std::string(product::web_site) + "/user-guide/style-addon-by-hand";
     return request;

@@ -31,6 +31,9 @@ struct revision_task {
     // Only these lines (of the task's one file, or of a text) are revised; empty: whole files.
     // The language's plugin must offer the range interface, and no change record is kept.
     std::vector<line_range> lines = {};
+    // Only the lines of each file that differ in git from this revision ("HEAD", "origin/main"),
+    // staged or not, are revised; a file git does not track is wholly changed. Empty: not asked.
+    std::string changed_since = std::string();
 };
 
 #endif

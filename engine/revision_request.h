@@ -14,6 +14,16 @@
 #include <string>
 #include <vector>
 
+// Which lines of each file a run revises: all of them, the ranges given (of the run's one file or
+// text), or those that differ in git from a revision.
+struct lines_to_revise {
+    std::vector<line_range> given;
+    // A revision as git names it ("HEAD", "origin/main"); empty: not asked.
+    std::string changed_since;
+
+    bool all() const { return given.empty() && changed_since.empty(); }
+};
+
 struct revision_request {
     // The names inside the addon, which the change records keep.
     QString language;
@@ -47,13 +57,14 @@ struct revision_request {
     // them).
     bool records_ignored = false;
 
-    // Only these lines of each file are revised, through the plugin's range interface (a plugin
-    // without it is refused); empty: whole files. Such a run neither asks nor keeps change
-    // records: a file revised in part is not "unchanged since its last revision".
-    std::vector<line_range> lines;
+    // Which lines of each file are revised; all but whole files go through the plugin's range
+    // interface (a plugin without it is refused). Such a run neither asks nor keeps change
+    // records: a file revised in part is not "unchanged since its last revision". A file with no
+    // changed line is found but not read.
+    lines_to_revise lines;
 
-    bool keeps_records() const { return !writes_nothing && lines.empty(); }
-    bool asks_records() const { return !records_ignored && lines.empty(); }
+    bool keeps_records() const { return !writes_nothing && lines.all(); }
+    bool asks_records() const { return !records_ignored && lines.all(); }
 };
 
 #endif

@@ -1,6 +1,7 @@
 #include "engine/revision_run.h"
 
 #include "engine/change_records.h"
+#include "engine/changed_lines.h"
 #include "engine/file_collection.h"
 #include "engine/file_status.h"
 #include "engine/format_of_this.h"
@@ -54,7 +55,7 @@ bool revision_run::prepare() {
             write.about_problem_with_plugin(request.plugin_file);
         return false;
     }
-    if (!request.lines.empty()) {
+    if (!request.lines.all()) {
         lines_plugin = plugin_obtainer(loader).range_revision();
         if (lines_plugin == nullptr) {
             write.about_plugin_without_line_ranges(request.language);
@@ -90,7 +91,28 @@ bool revision_run::prepare() {
             write.about_file_left_by_a_run_that_died(left);
     }
     collected = obtain_full_file_paths_from(request.paths).following(request.ignoring).with(QString::fromStdString(request.extensions));
+    if (!request.lines.changed_since.empty() && !changed_lines_found())
+        return false;
     worker_count = workers_for(loader);
+    return true;
+}
+
+bool revision_run::changed_lines_found() {
+    changed_lines changed(request.lines.changed_since);
+    for (QString const& path : request.paths) {
+        switch (changed.prepared_for(path)) {
+        case changed_lines_fault::none:
+            break;
+        case changed_lines_fault::outside_work_tree:
+            write_in(report).about_path_outside_git(path);
+            return false;
+        case changed_lines_fault::unknown_revision:
+            write_in(report).about_revision_unknown_to_git(request.lines.changed_since, path);
+            return false;
+        }
+    }
+    for (QString const& file : collected)
+        changed_in_git.insert(file, changed.of(file));
     return true;
 }
 
@@ -156,6 +178,12 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
         outcome.failed = true;
         return outcome;
     }
+    std::vector<line_range> ranges = request.lines.given;
+    if (!request.lines.changed_since.empty()) {
+        ranges = changed_in_git.value(path);
+        if (ranges.empty())  // found, but no line of it to revise
+            return outcome;
+    }
     std::string text;
     file_status as_read;
     if (!read_from(path).to(text, as_read))
@@ -171,7 +199,9 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
     QString const stamp_as_read = request.keeps_records() ? as_read.stamp() : QString();
     if (hands)
         hands->given(path, stamp_as_read);
-    plugin_answer const answer = asked(text, result);
+    if (!request.lines.changed_since.empty())
+        ranges = clamped_to(text, ranges);
+    plugin_answer const answer = asked(text, ranges, result);
     if (hands)
         hands->taken_back(path);
     if (answer == plugin_answer::crashed) {
@@ -276,14 +306,15 @@ plugin_answer revision_run::revise_text(std::string const& text, std::string& re
         result.clear();
         return plugin_answer::revised;
     }
-    plugin_answer const answer = asked(text, result);
+    plugin_answer const answer = asked(text, request.lines.given, result);
     if (answer == plugin_answer::crashed)
         plugin_crashed = true;
     return answer;
 }
 
-plugin_answer revision_run::asked(std::string const& text, std::string& result) const {
-    if (lines_plugin != nullptr)
-        return ask_for_lines(*lines_plugin, text, addon_text, request.lines, result);
+plugin_answer revision_run::asked(std::string const& text, std::vector<line_range> const& ranges,
+                                  std::string& result) const {
+    if (lines_plugin != nullptr && !ranges.empty())
+        return ask_for_lines(*lines_plugin, text, addon_text, ranges, result);
     return ask(*plugin, text, addon_text, result);
 }

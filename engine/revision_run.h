@@ -10,6 +10,7 @@
 #include "engine/revision_request.h"
 #include "interface_to_language_plugin.h"
 
+#include <QHash>
 #include <QPluginLoader>
 #include <QString>
 #include <QStringList>
@@ -58,8 +59,12 @@ private:
     // The steps for one file, on any worker: everything but what the run keeps in order.
     file_outcome revise(QString const& path) const;
     // What the run keeps of one file's outcome, in the order of the files.
-    // The plugin's answer for one text: its whole revision, or that of the request's lines.
-    plugin_answer asked(std::string const& text, std::string& result) const;
+    // The plugin's answer for one text: its whole revision, or that of `ranges` (none: whole).
+    plugin_answer asked(std::string const& text, std::vector<line_range> const& ranges,
+                        std::string& result) const;
+    // The changed lines of each collected file, for a request of lines changed in git; false, with
+    // the reason written, for a path outside any work tree or a revision git does not know.
+    bool changed_lines_found();
     void take(QString const& path, file_outcome& outcome,
               std::function<void(unsigned long, int)> const& reached);
 
@@ -75,6 +80,8 @@ private:
     // and it is not told that the run is over.
     mutable std::atomic<bool> plugin_crashed{false};
     QStringList collected;
+    // For a request of lines changed in git: each collected file's changed lines (none: not read).
+    QHash<QString, std::vector<line_range>> changed_in_git;
     unsigned long revised_count = 0;
     unsigned long changed_count = 0;
     unsigned long failed_count = 0;

@@ -25,6 +25,16 @@ void write_in::about_plugin_without_line_ranges(QString const& language) const {
               "' revises whole files only.\n\n";
 }
 
+void write_in::about_path_outside_git(QString const& path) const {
+    report += "Sorry, I can't revise changed lines: '" + path.toStdString() +
+              "' is not in a git work tree.\n\n";
+}
+
+void write_in::about_revision_unknown_to_git(std::string const& revision, QString const& path) const {
+    report += "Sorry, I can't revise changed lines: git does not know revision '" + revision +
+              "' in the work tree of '" + path.toStdString() + "'.\n\n";
+}
+
 void write_in::about_problem_with_addon(std::string const& addon_file) const {
     report += "Sorry, I can't revise, something wrong with addon '" + addon_file + "'.\n\n";
 }

@@ -19,6 +19,8 @@ public:
     void about_problem_with_addon(std::string const& addon_file) const;
     // Lines were asked for, and the language's plugin revises whole files only.
     void about_plugin_without_line_ranges(QString const& language) const;
+    void about_path_outside_git(QString const& path) const;
+    void about_revision_unknown_to_git(std::string const& revision, QString const& path) const;
     void about_invalid_format_of_addon(std::string const& structure, std::string const& addon_file,
                                        std::string const& manual) const;
     void about_invalid_file(QString const& path) const;

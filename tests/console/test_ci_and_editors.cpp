@@ -45,7 +45,8 @@ void write_files(temporary_bundle const& bundle, QString const& files, QString c
 int git(QString const& directory, QStringList const& arguments, QByteArray const& input = QByteArray()) {
     QProcess process;
     process.setWorkingDirectory(directory);
-    process.start("git", arguments);
+    // A commit needs a name, which the machine's settings need not give.
+    process.start("git", QStringList{"-c", "user.name=Tester", "-c", "user.email=tester@example.org"} + arguments);
     process.waitForStarted();
     process.write(input);
     process.closeWriteChannel();
@@ -90,13 +91,16 @@ void test_ci_and_editors::answers_data() {
     QTest::addColumn<QByteArray>("out");
     QTest::addColumn<QByteArray>("err");
     QTest::addColumn<QString>("after");
-    QTest::addColumn<bool>("in_git");
+    QTest::addColumn<QStringList>("git_steps");
+    QTest::addColumn<QStringList>("then");
     QTest::addColumn<QString>("setup");
     for (auto const& row : cases_in(QFINDTESTDATA("checks.txt")))
         QTest::newRow(qPrintable(row["case"]))
             << row["files"] << (row["first"].isEmpty() ? QStringList() : row["first"].split(" | "))
             << row["words"].split(" | ") << unescaped(row["input"]) << row["status"].toInt() << unescaped(row["out"])
-            << unescaped(row["err"]) << row["after"] << (row["git"] == "init") << row["setup"];
+            << unescaped(row["err"]) << row["after"]
+            << (row["git"].isEmpty() ? QStringList() : row["git"].split(" | "))
+            << (row["then"].isEmpty() ? QStringList() : row["then"].split(" | ")) << row["setup"];
 }
 
 void test_ci_and_editors::answers() {
@@ -108,7 +112,8 @@ void test_ci_and_editors::answers() {
     QFETCH(QByteArray, out);
     QFETCH(QByteArray, err);
     QFETCH(QString, after);
-    QFETCH(bool, in_git);
+    QFETCH(QStringList, git_steps);
+    QFETCH(QStringList, then);
     QFETCH(QString, setup);
     installed_bundle bundle;
     if (setup == "SDK example") {
@@ -116,8 +121,15 @@ void test_ci_and_editors::answers() {
         bundle.add_addon("Spaced[INI].style", bundle.contents_of(built::source_dir() + "/sdk/example/Spaced[INI].style"));
     }
     write_files(bundle, files);
-    if (in_git)
-        QCOMPARE(git(bundle.work_directory(), {"init", "-q"}), 0);
+    for (QString const& step : git_steps)
+        QVERIFY2(git(bundle.work_directory(), step == "init" ? QStringList{"init", "-q"} : step.split(' ')) == 0,
+                 qPrintable(step));
+    for (QString const& step : then) {
+        if (step.startsWith("git "))
+            QVERIFY2(git(bundle.work_directory(), step.mid(4).split(' ')) == 0, qPrintable(step));
+        else
+            write_files(bundle, step);
+    }
     if (!first.isEmpty())
         QCOMPARE(bundle.run(first).status, 0);
     QMap<QString, QByteArray> const work = snapshot_of(bundle.work_directory());
@@ -131,7 +143,7 @@ void test_ci_and_editors::answers() {
         QCOMPARE(snapshot_of(bundle.config_home()), settings);
     }
     // A run of some lines neither reads nor writes change records.
-    if (!words.filter(QRegularExpression("^--lines=")).isEmpty())
+    if (!words.filter(QRegularExpression("^--(lines=|changed)")).isEmpty())
         QCOMPARE(snapshot_of(bundle.config_home()), settings);
     if (!after.isEmpty())
         for (QString const& file : after.split(" | "))
