@@ -71,14 +71,19 @@ changed_lines_fault changed_lines::prepared_for(QString const& path) {
     if (work_trees.count(root) != 0)
         return changed_lines_fault::none;
 
-    git_object* object = nullptr;
     git_tree* base = nullptr;
-    if (git_revparse_single(&object, tree->repository, revision.c_str()) != 0)
-        return changed_lines_fault::unknown_revision;
-    int const peeled = git_object_peel(reinterpret_cast<git_object**>(&base), object, GIT_OBJECT_TREE);
-    git_object_free(object);
-    if (peeled != 0)
-        return changed_lines_fault::unknown_revision;
+    // Before the first commit HEAD names nothing yet: every line of the work tree is new, as if
+    // compared with an empty tree (no base).
+    bool const before_first_commit = revision == "HEAD" && git_repository_head_unborn(tree->repository) == 1;
+    if (!before_first_commit) {
+        git_object* object = nullptr;
+        if (git_revparse_single(&object, tree->repository, revision.c_str()) != 0)
+            return changed_lines_fault::unknown_revision;
+        int const peeled = git_object_peel(reinterpret_cast<git_object**>(&base), object, GIT_OBJECT_TREE);
+        git_object_free(object);
+        if (peeled != 0)
+            return changed_lines_fault::unknown_revision;
+    }
 
     git_diff_options options = GIT_DIFF_OPTIONS_INIT;
     options.context_lines = 0;
