@@ -416,6 +416,23 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
     if (wishes.force && !wishes.writes_nothing() && lines.empty() && wishes.changed_since.empty())
         kernel().forget_change_records_of(paths);
 
+    // Where project files name the styles, the nearest one above each file decides, also in a
+    // walk: a directory below a walked one that holds its own is walked as a path of its own, in
+    // its own styles, and left out of the walk above it.
+    bool const project_files_decide = wishes.addon.empty() && (wishes.language.empty() || wishes.style.empty());
+    if (project_files_decide) {
+        QStringList with_nested;
+        for (QString const& path : paths) {
+            if (!with_nested.contains(path))
+                with_nested << path;
+            if (QFileInfo(path).isDir())
+                for (QString const& nested : read_project_styles().directories_with_their_own_below(path))
+                    if (!with_nested.contains(nested))
+                        with_nested << nested;
+        }
+        paths = with_nested;
+    }
+
     // One run per language and style, with the paths in the order given.
     std::map<chosen_style, revision_task> tasks;
     for (auto const& path : paths) {
@@ -426,10 +443,14 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
         for (auto const& style : chosen)
             tasks[style].paths << path;
     }
-    std::set<std::string> revised_languages;
-    for (auto const& task : tasks)
-        revised_languages.insert(task.first.language);
     for (auto& [chosen, task] : tasks) {
+        // The languages a path of this task is revised in: an extension two of them know must go
+        // to one only. Paths of other tasks (a nested project file's directory) do not count.
+        std::set<std::string> revised_languages;
+        for (auto const& [other_chosen, other] : tasks)
+            for (QString const& path : task.paths)
+                if (other.paths.contains(path))
+                    revised_languages.insert(other_chosen.language);
         if (!task_can_start(chosen, wishes.extensions, revised_languages, task))
             return wishes.refusal();
         task.lines = lines;
@@ -443,6 +464,8 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
         task.excluded_from = QDir::currentPath();
         task.git_followed = wishes.git_followed;
         task.quiet = wishes.quiet;
+        if (project_files_decide)
+            task.subtrees_marked_by = project_styles_file_name();
         int const run_status =
             wishes.writes_nothing()
                 ? kernel().start_check(task, check_options{wishes.diff, wishes.force, &found})

@@ -63,6 +63,7 @@ revision_request request_for(revision_task const& task) {
     request.ignoring.excluded = task.excluded;
     request.ignoring.excluded_from = task.excluded_from;
     request.ignoring.git_followed = task.git_followed;
+    request.ignoring.subtrees_marked_by = task.subtrees_marked_by;
     request.quiet = task.quiet;
     request.lines.given = task.lines;
     request.lines.changed_since = task.changed_since;

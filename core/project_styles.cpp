@@ -4,6 +4,7 @@
 #include "engine/read_from.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
 #include <boost/algorithm/string/classification.hpp>
 #include <boost/algorithm/string/trim.hpp>
@@ -115,4 +116,16 @@ project_styles read_project_styles::from(QString const& file) const {
         }
     }
     return styles;
+}
+
+QStringList read_project_styles::directories_with_their_own_below(QString const& directory) const {
+    QStringList found;
+    QDirIterator walk(directory, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDirIterator::Subdirectories);
+    while (walk.hasNext()) {
+        QString const below = walk.next();
+        if (QFileInfo::exists(below + "/" + project_styles_file_name()))
+            found << below;
+    }
+    found.sort();
+    return found;
 }

@@ -10,6 +10,7 @@
 #define STYLE_TARNEL_CORE_PROJECT_STYLES_H
 
 #include <QString>
+#include <QStringList>
 
 #include <map>
 #include <string>
@@ -63,6 +64,9 @@ public:
     project_styles nearest_to(QString const& path) const;
     // The file at `file`.
     project_styles from(QString const& file) const;
+    // The directories below `directory`, at any depth, that hold a project file of their own, in
+    // the order of a walk; hidden directories and symbolic links are not entered.
+    QStringList directories_with_their_own_below(QString const& directory) const;
 };
 
 #endif

@@ -26,6 +26,9 @@ struct revision_task {
     QString excluded_from = QString();
     // Files that git ignores are left out of a walk in a git work tree.
     bool git_followed = true;
+    // A directory below a walked one that holds a file of this name is left out of the walk: it
+    // is revised by a task of its own (the project file there names its styles).
+    QString subtrees_marked_by = QString();
     // No progress line, even on a terminal.
     bool quiet = false;
     // Only these lines (of the task's one file, or of a text) are revised; empty: whole files.

@@ -70,6 +70,7 @@ struct leaving_out {
     git_ignores* git = nullptr;
     QByteArray work_tree;   // where the walked directory's git work tree begins; empty: none
     bool git_followed = false;
+    QByteArray subtree_mark;  // a directory holding a file of this name is walked on its own
     int count = 0;          // files of the walk's extensions left out
 };
 
@@ -128,6 +129,11 @@ void add_files_below(int directory, QByteArray const& path, QList<QRegExp> const
             int const below = ::openat(::dirfd(listing), entry->d_name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
             if (below < 0)
                 continue;
+            if (leaving != nullptr && !leaving->subtree_mark.isEmpty() &&
+                ::faccessat(below, leaving->subtree_mark.constData(), F_OK, AT_SYMLINK_NOFOLLOW) == 0) {
+                ::close(below);
+                continue;
+            }
             if (leaving != nullptr && left_out_by(rules, *leaving, full, true))
                 leaving->count += count_files_below(below, filters);
             else
@@ -190,6 +196,7 @@ QStringList obtain_full_file_paths_from::paths_from_this(QString const& path,
         leaving_out leaving;
         leaving.git = git != nullptr ? git : &own_repositories;
         leaving.git_followed = ignoring->git_followed;
+        leaving.subtree_mark = QFile::encodeName(ignoring->subtrees_marked_by);
         leaving.work_tree = leaving.git->work_tree_of(directory);
         QByteArray const from = QFile::encodeName(QDir::cleanPath(ignoring->excluded_from));
         for (QString const& pattern : ignoring->excluded)

@@ -15,6 +15,10 @@ struct ignore_request {
     QString excluded_from;
     // Files that git ignores are left out when the walked directory lies in a git work tree.
     bool git_followed = true;
+    // A directory below the walked one that holds a file of this name is walked by a run of its
+    // own (it names its own styles): it is left out here, and not counted as left out by rules.
+    // Empty: none is.
+    QString subtrees_marked_by;
     // Told once the files are collected: how many were found, and how many of the task's
     // extensions the rules left out.
     std::function<void(int found, int left_out)> collected;
