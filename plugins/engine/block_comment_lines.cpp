@@ -13,27 +13,6 @@ namespace tarnel_engine {
 
 namespace {
 
-struct comment_place {
-    std::size_t begin = 0;
-    std::size_t length = 0;
-};
-
-std::vector<comment_place> comments_in(std::string const& code, lexed_as language) {
-    clang::LangOptions const options = lexer_options_for(language);
-    char const* const begin = code.data();
-    clang::Lexer lexer(clang::SourceLocation(), options, begin, begin, begin + code.size());
-    lexer.SetCommentRetentionState(true);
-    std::vector<comment_place> comments;
-    clang::Token token;
-    for (lexer.LexFromRawLexer(token); token.isNot(clang::tok::eof); lexer.LexFromRawLexer(token)) {
-        if (token.is(clang::tok::comment)) {
-            std::size_t const end = static_cast<std::size_t>(lexer.getBufferLocation() - begin);
-            comments.push_back({end - token.getLength(), token.getLength()});
-        }
-    }
-    return comments;
-}
-
 bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f'; }
 
 std::string without_blanks(std::string text) {

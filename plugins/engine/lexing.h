@@ -7,10 +7,22 @@
 
 #include <clang/Basic/LangOptions.h>
 
+#include <string>
+#include <vector>
+
 namespace tarnel_engine {
 
 // The latest standard of the language, digraphs and raw strings on.
 clang::LangOptions lexer_options_for(lexed_as language);
+
+// Where a comment stands in a text: its first byte and its length.
+struct comment_place {
+    std::size_t begin = 0;
+    std::size_t length = 0;
+};
+
+// The comments of a text, in order, as the lexer of the checks reads it.
+std::vector<comment_place> comments_in(std::string const& code, lexed_as language);
 
 }  // namespace tarnel_engine
 

@@ -8,6 +8,7 @@
 #include "engine_call.h"
 #include "engine_limits.h"
 #include "inference_cache.h"
+#include "kept_regions.h"
 #include "revision.h"
 #include "text_encoding.h"
 #include "token_sequence.h"
@@ -130,13 +131,16 @@ std::string revise_lines_of::here(std::string const& source, std::string const& 
         clang::format::FormatStyle style = inference_cache::shared().style_for(addon, language);
         style.LineEnding = engine_line_ending(encoding.ending());
 
+        // Our markers of regions kept as written, in the engine's words: line for line the same.
+        kept_regions const regions(*decoded, language.lexing);
+        std::string const& told = regions.for_the_engine();
         std::vector<unsigned> edges;
-        std::vector<clang::tooling::Range> characters = characters_of(*decoded, lines, edges);
-        engine_outcome outcome = format_with(style).the_ranges(*decoded, characters, edges);
+        std::vector<clang::tooling::Range> characters = characters_of(told, lines, edges);
+        engine_outcome outcome = format_with(style).the_ranges(told, characters, edges);
         if (!outcome.complete)
             return syntax_error;
         // Stable when formatting the revised lines again, where they stand now, changes nothing.
-        bool stable = outcome.text == *decoded;
+        bool stable = outcome.text == told;
         for (int round = 0; round < rounds_to_stability && !stable; ++round) {
             lines = lines_at(outcome.text, edges);
             characters = characters_of(outcome.text, lines, edges);
@@ -148,7 +152,8 @@ std::string revise_lines_of::here(std::string const& source, std::string const& 
         }
         if (!stable)
             return source;
-        return answer_for(source, *decoded, std::move(outcome.text), encoding, language.lexing);
+        return answer_for(source, *decoded, regions.with_markers_put_back(std::move(outcome.text)), encoding,
+                          language.lexing);
     } catch (...) {
         return syntax_error;
     }

@@ -10,6 +10,7 @@
 #include "engine_hazards.h"
 #include "engine_limits.h"
 #include "inference_cache.h"
+#include "kept_regions.h"
 #include "placeholder_instances.h"
 #include "text_encoding.h"
 #include "token_safe_settings.h"
@@ -86,14 +87,17 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
         clang::format::FormatStyle style = options_for(addon)->style;
         style.LineEnding = engine_line_ending(encoding.ending());
 
-        engine_outcome outcome = format_with(style).the_code(*decoded);
+        // The engine is told our markers of regions kept as written in its own words.
+        kept_regions const regions(*decoded, language.lexing);
+        std::string const& told = regions.for_the_engine();
+        engine_outcome outcome = format_with(style).the_code(told);
         if (!outcome.complete)
             return syntax_error;
-        move_block_comment_lines(style, language.lexing).with_their_first_lines(*decoded, outcome);
+        move_block_comment_lines(style, language.lexing).with_their_first_lines(told, outcome);
         // The result is stable when formatting it again changes nothing. Only the lines a round
         // changed, with a few around them, can change in the next: the others were laid out in
         // the same surroundings already.
-        bool stable = outcome.text == *decoded;
+        bool stable = outcome.text == told;
         for (int round = 0; round < rounds_to_stability && !stable; ++round) {
             engine_outcome again = format_with(style).the_lines_around(outcome.text, outcome.changed, lines_of_context);
             if (!again.complete)
@@ -105,7 +109,8 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
         // A text the engine keeps changing is left as it is: never a half-settled result.
         if (!stable)
             return source;
-        return answer_for(source, *decoded, std::move(outcome.text), encoding, language.lexing);
+        return answer_for(source, *decoded, regions.with_markers_put_back(std::move(outcome.text)), encoding,
+                          language.lexing);
     } catch (...) {
         return syntax_error;
     }

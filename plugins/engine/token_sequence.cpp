@@ -13,22 +13,6 @@
 
 namespace tarnel_engine {
 
-clang::LangOptions lexer_options_for(lexed_as language) {
-    clang::LangOptions options;
-    if (language == lexed_as::latest_cpp) {
-        options.CPlusPlus = options.CPlusPlus11 = options.CPlusPlus14 = options.CPlusPlus17 = true;
-        options.CPlusPlus20 = options.CPlusPlus23 = options.CPlusPlus26 = true;
-        options.Char8 = true;
-        options.CXXOperatorNames = true;
-    } else {
-        options.C99 = options.C11 = options.C17 = options.C23 = true;
-    }
-    options.LineComment = true;
-    options.Digraphs = true;
-    options.RawStringLiterals = true;
-    options.Bool = true;
-    return options;
-}
 
 namespace {
 

@@ -1,0 +1,41 @@
+// The lexer settings and the comments of a text, as every check of the engine library reads them.
+#include "lexing.h"
+
+#include <clang/Lex/Lexer.h>
+
+namespace tarnel_engine {
+
+clang::LangOptions lexer_options_for(lexed_as language) {
+    clang::LangOptions options;
+    if (language == lexed_as::latest_cpp) {
+        options.CPlusPlus = options.CPlusPlus11 = options.CPlusPlus14 = options.CPlusPlus17 = true;
+        options.CPlusPlus20 = options.CPlusPlus23 = options.CPlusPlus26 = true;
+        options.Char8 = true;
+        options.CXXOperatorNames = true;
+    } else {
+        options.C99 = options.C11 = options.C17 = options.C23 = true;
+    }
+    options.LineComment = true;
+    options.Digraphs = true;
+    options.RawStringLiterals = true;
+    options.Bool = true;
+    return options;
+}
+
+std::vector<comment_place> comments_in(std::string const& code, lexed_as language) {
+    clang::LangOptions const options = lexer_options_for(language);
+    char const* const begin = code.data();
+    clang::Lexer lexer(clang::SourceLocation(), options, begin, begin, begin + code.size());
+    lexer.SetCommentRetentionState(true);
+    std::vector<comment_place> comments;
+    clang::Token token;
+    for (lexer.LexFromRawLexer(token); token.isNot(clang::tok::eof); lexer.LexFromRawLexer(token)) {
+        if (token.is(clang::tok::comment)) {
+            std::size_t const end = static_cast<std::size_t>(lexer.getBufferLocation() - begin);
+            comments.push_back({end - token.getLength(), token.getLength()});
+        }
+    }
+    return comments;
+}
+
+}  // namespace tarnel_engine
