@@ -85,7 +85,10 @@ changed_lines_fault changed_lines::prepared_for(QString const& path) {
             return changed_lines_fault::unknown_revision;
     }
 
-    git_diff_options options = GIT_DIFF_OPTIONS_INIT;
+    // Initialised by libgit2's functions: its macros leave fields to the compiler's zeroing, which
+    // clang's -Wextra reports.
+    git_diff_options options;
+    git_diff_options_init(&options, GIT_DIFF_OPTIONS_VERSION);
     options.context_lines = 0;
     options.flags = GIT_DIFF_INCLUDE_UNTRACKED | GIT_DIFF_RECURSE_UNTRACKED_DIRS;
     git_diff* diff = nullptr;
@@ -93,7 +96,8 @@ changed_lines_fault changed_lines::prepared_for(QString const& path) {
     git_tree_free(base);
     if (failed == 0) {
         // A renamed file (staged with its new name) keeps its old lines as unchanged.
-        git_diff_find_options finding = GIT_DIFF_FIND_OPTIONS_INIT;
+        git_diff_find_options finding;
+        git_diff_find_options_init(&finding, GIT_DIFF_FIND_OPTIONS_VERSION);
         finding.flags = GIT_DIFF_FIND_RENAMES | GIT_DIFF_FIND_FOR_UNTRACKED;
         failed = git_diff_find_similar(diff, &finding);
     }
