@@ -67,6 +67,11 @@ unsigned end_of_line(std::string const& code, unsigned offset, unsigned ahead) {
 
 }  // namespace
 
+clang::format::FormatStyle::LineEndingStyle engine_line_ending(line_ending ending) {
+    return ending == line_ending::carriage_return_line_feed ? clang::format::FormatStyle::LE_DeriveCRLF
+                                                            : clang::format::FormatStyle::LE_DeriveLF;
+}
+
 engine_outcome format_with::the_code(std::string const& code) const {
     return formatted(style, code, {clang::tooling::Range(0, static_cast<unsigned>(code.size()))});
 }

@@ -2,12 +2,19 @@
 #ifndef TARNEL_ENGINE_ENGINE_CALL_H
 #define TARNEL_ENGINE_ENGINE_CALL_H
 
+#include "text_encoding.h"
+
 #include <clang/Format/Format.h>
 
 #include <string>
 #include <vector>
 
 namespace tarnel_engine {
+
+// The engine's line ending for a text whose traits say `ending`: the file's own majority decides;
+// the traits only break a tie. The host looks at the first line break alone, and in UTF-16 it may
+// take a CR LF that is not aligned to four bytes for an LF.
+clang::format::FormatStyle::LineEndingStyle engine_line_ending(line_ending ending);
 
 struct engine_outcome {
     std::string text;

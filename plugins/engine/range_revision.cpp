@@ -96,12 +96,6 @@ std::vector<line_range> lines_at(std::string const& code, std::vector<unsigned> 
     return lines_within(code, lines);
 }
 
-// The file's own majority decides; the traits only break a tie, as in a whole revision.
-clang::format::FormatStyle::LineEndingStyle engine_line_ending(line_ending ending) {
-    return ending == line_ending::carriage_return_line_feed ? clang::format::FormatStyle::LE_DeriveCRLF
-                                                            : clang::format::FormatStyle::LE_DeriveLF;
-}
-
 }  // namespace
 
 std::string revise_lines_of::in(std::string const& source, std::string const& addon,
@@ -116,10 +110,8 @@ std::string revise_lines_of::here(std::string const& source, std::string const& 
                                   line_ending_traits const& traits, std::vector<line_range> const& ranges) const {
     try {
         text_encoding const encoding = text_encoding::of(source, traits);
-        if (encoding.contradicts_byte_order_mark_of(source))
-            return source;
-        std::optional<std::string> const decoded = encoding.decoded(source);
-        if (!decoded || decoded->find('\0') != std::string::npos)
+        std::optional<std::string> const decoded = encoding.decoded_for_revision(source);
+        if (!decoded)
             return source;
         std::vector<line_range> lines = lines_within(*decoded, ranges);
         if (lines.empty())

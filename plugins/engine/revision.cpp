@@ -31,13 +31,6 @@ unsigned const lines_of_context = 3;
 
 std::string const syntax_error = STYLE_TARNEL_SYNTAX_ERROR_TEXT;
 
-// The file's own majority decides; the traits only break a tie. The host looks at the first line
-// break alone, and in UTF-16 it may take a CR LF that is not aligned to four bytes for an LF.
-clang::format::FormatStyle::LineEndingStyle engine_line_ending(line_ending ending) {
-    return ending == line_ending::carriage_return_line_feed ? clang::format::FormatStyle::LE_DeriveCRLF
-                                                            : clang::format::FormatStyle::LE_DeriveLF;
-}
-
 }  // namespace
 
 struct reviser::run_state {
@@ -75,10 +68,8 @@ std::string reviser::revise(std::string const& source, std::string const& addon,
 std::string reviser::revise_here(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
     try {
         text_encoding const encoding = text_encoding::of(source, traits);
-        if (encoding.contradicts_byte_order_mark_of(source))
-            return source;
-        std::optional<std::string> const decoded = encoding.decoded(source);
-        if (!decoded || decoded->find('\0') != std::string::npos)
+        std::optional<std::string> const decoded = encoding.decoded_for_revision(source);
+        if (!decoded)
             return source;
         // Nested deeper than the engine's stack survives, or larger than memory allows, the code
         // would crash the engine or abort the process: it is refused before the engine sees it.

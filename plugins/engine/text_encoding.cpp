@@ -173,4 +173,13 @@ std::optional<std::string> text_encoding::encoded(std::string const& text) const
     return bytes;
 }
 
+std::optional<std::string> text_encoding::decoded_for_revision(std::string const& source) const {
+    if (contradicts_byte_order_mark_of(source))
+        return std::nullopt;
+    std::optional<std::string> decoded_text = decoded(source);
+    if (!decoded_text || decoded_text->find('\0') != std::string::npos)
+        return std::nullopt;
+    return decoded_text;
+}
+
 }  // namespace tarnel_engine

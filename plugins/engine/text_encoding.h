@@ -37,6 +37,9 @@ public:
     bool result_is_told_alike(std::string const& source, std::string const& result) const;
 
     line_ending ending() const { return line_ending_kind; }
+    // The source decoded for a revision; nothing when it must come back as it is: its byte-order
+    // mark contradicts the encoding, it cannot be decoded, or it holds a NUL character.
+    std::optional<std::string> decoded_for_revision(std::string const& source) const;
 
 private:
     unsigned unit = 1;          // bytes per code unit: 1, 2 or 4
