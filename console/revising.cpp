@@ -130,9 +130,9 @@ std::string default_extensions_of(std::string const& language) {
 std::string what_is_wrong_with(project_styles const& styles) {
     switch (styles.fault) {
     case project_styles_fault::unknown_line:
-        return "expected '[language]', 'style = name', 'addon = file', a comment or an empty line";
+        return "expected '[language]', 'style = name', 'addon = file', 'extensions = list', a comment or an empty line";
     case project_styles_fault::unknown_key:
-        return "only 'style' and 'addon' may be given for a language";
+        return "only 'style', 'addon' and 'extensions' may be given for a language";
     case project_styles_fault::key_outside_language:
         return "a style must follow the '[language]' it is for";
     case project_styles_fault::empty_name:
@@ -141,6 +141,12 @@ std::string what_is_wrong_with(project_styles const& styles) {
         return "this language is named twice";
     case project_styles_fault::second_style:
         return "a language may have one style or one addon only";
+    case project_styles_fault::second_extensions:
+        return "a language may have one 'extensions' line only";
+    case project_styles_fault::invalid_extensions:
+        return "extensions are letters and digits, separated by commas";
+    case project_styles_fault::extension_twice:
+        return "an extension on this line is given twice";
     case project_styles_fault::language_without_style:
         return "this language has no style";
     case project_styles_fault::addon_of_another_language:
@@ -184,23 +190,35 @@ struct chosen_style {
     std::string language;
     std::string style;
     QString addon_path;
+    // The extensions that a project file gives the language, each followed by one blank; empty:
+    // its plugin's own.
+    std::string extensions;
 
     bool operator<(chosen_style const& other) const {
-        return std::tie(language, style, addon_path) < std::tie(other.language, other.style, other.addon_path);
+        return std::tie(language, style, addon_path, extensions) <
+               std::tie(other.language, other.style, other.addon_path, other.extensions);
     }
 };
 
-// The language of a file named `name`, among those that know its extension: the first that
-// `preferred` holds, or else the first. Empty, with the reason said, when none knows it.
-std::string language_of_file(std::string const& name, std::map<std::string, project_style> const& preferred) {
+// The language of a file named `name`: the one whose "extensions" line in the project file gives
+// its extension; otherwise, among those that know its extension, the first that the project file
+// names without giving other extensions, or else the first. Empty, with the reason said, when
+// none knows it.
+std::string language_of_file(std::string const& name, project_styles const& project) {
+    std::string const extension = QFileInfo(QString::fromStdString(name)).suffix().toStdString();
+    std::string const given = project.language_given(extension);
+    if (!given.empty())
+        return given;
     std::vector<std::string> const languages = kernel().languages_of_file_named(name);
     if (languages.empty()) {
         say(message::no_language_of_file(name));
         return std::string();
     }
-    for (auto const& language : languages)
-        if (preferred.count(language) != 0)
+    for (auto const& language : languages) {
+        auto const named = project.by_language.find(language);
+        if (named != project.by_language.end() && named->second.extensions.empty())
             return language;
+    }
     return languages.front();
 }
 
@@ -211,18 +229,18 @@ std::string language_of_file(std::string const& name, std::map<std::string, proj
 bool choose_styles_for(QString const& path, QString const& language_by_name, revision_wishes const& wishes,
                        std::vector<chosen_style>& chosen) {
     if (!wishes.addon.empty()) {
-        chosen.push_back({std::string(), std::string(), absolute(wishes.addon)});
+        chosen.push_back({std::string(), std::string(), absolute(wishes.addon), std::string()});
         return true;
     }
     if (!wishes.language.empty() && !wishes.style.empty()) {
-        chosen.push_back({wishes.language, wishes.style, QString()});
+        chosen.push_back({wishes.language, wishes.style, QString(), std::string()});
         return true;
     }
     if (!wishes.style.empty() && !language_by_name.isEmpty()) {
-        std::string const language = language_of_file(language_by_name.toStdString(), {});
+        std::string const language = language_of_file(language_by_name.toStdString(), project_styles());
         if (language.empty())
             return false;
-        chosen.push_back({language, wishes.style, QString()});
+        chosen.push_back({language, wishes.style, QString(), std::string()});
         return true;
     }
     project_styles styles;
@@ -232,7 +250,7 @@ bool choose_styles_for(QString const& path, QString const& language_by_name, rev
     if (!wishes.language.empty()) {
         languages.push_back(wishes.language);
     } else if (!language_by_name.isEmpty()) {
-        std::string const language = language_of_file(language_by_name.toStdString(), styles.by_language);
+        std::string const language = language_of_file(language_by_name.toStdString(), styles);
         if (language.empty())
             return false;
         languages.push_back(language);
@@ -241,26 +259,30 @@ bool choose_styles_for(QString const& path, QString const& language_by_name, rev
             languages.push_back(named.first);
     }
     for (auto const& language : languages) {
+        auto const named = styles.by_language.find(language);
         if (!wishes.style.empty()) {
-            chosen.push_back({language, wishes.style, QString()});
+            std::string const extensions = named == styles.by_language.end() ? std::string() : named->second.extensions;
+            chosen.push_back({language, wishes.style, QString(), extensions});
             continue;
         }
-        auto const named = styles.by_language.find(language);
         if (named == styles.by_language.end()) {
             say(message::no_style_for_language_in(language, styles.file.toStdString()));
             return false;
         }
-        chosen.push_back({language, named->second.style, named->second.addon_path});
+        chosen.push_back({language, named->second.style, named->second.addon_path, named->second.extensions});
     }
     return true;
 }
 
 // The default extensions of a language, each followed by one blank, but for those that belong to
-// another of the languages revised in the same command (the first plugin that knows an extension
-// has it), so that no file is revised in two languages.
-std::string default_extensions_of(std::string const& language, std::set<std::string> const& revised_languages) {
+// another of the languages revised in the same command (the one whose project file's line gives
+// it; otherwise the first plugin that knows it), so that no file is revised in two languages.
+std::string default_extensions_of(std::string const& language, std::set<std::string> const& revised_languages,
+                                  std::set<std::string> const& given_to_others) {
     std::string extensions;
     for (auto const& extension : kernel().filename_extensions_for(language)) {
+        if (given_to_others.count(extension) != 0)
+            continue;
         std::string owner = language;
         for (auto const& candidate : kernel().languages_of_file_named("x." + extension))
             if (revised_languages.count(candidate) != 0) {
@@ -276,7 +298,8 @@ std::string default_extensions_of(std::string const& language, std::set<std::str
 // Says why the chosen style cannot be used, as the rest of the command line does; otherwise fills
 // the task's language, style, addon and extensions.
 bool task_can_start(chosen_style const& chosen, std::string const& extensions,
-                    std::set<std::string> const& revised_languages, revision_task& task) {
+                    std::set<std::string> const& revised_languages, std::set<std::string> const& given_to_others,
+                    revision_task& task) {
     task.addon_path = chosen.addon_path;
     if (!chosen.addon_path.isEmpty()) {
         style_description description;
@@ -296,9 +319,12 @@ bool task_can_start(chosen_style const& chosen, std::string const& extensions,
             return false;
         }
     }
-    if (extensions.empty()) {
-        task.extensions = revised_languages.size() > 1 ? default_extensions_of(task.language, revised_languages)
-                                                       : default_extensions_of(task.language);
+    if (extensions.empty() && !chosen.extensions.empty()) {
+        task.extensions = chosen.extensions;
+    } else if (extensions.empty()) {
+        task.extensions = revised_languages.size() > 1 || !given_to_others.empty()
+                              ? default_extensions_of(task.language, revised_languages, given_to_others)
+                              : default_extensions_of(task.language);
     } else {
         task.extensions = extensions;
         boost::algorithm::replace_all(task.extensions, ",", " ");
@@ -351,7 +377,7 @@ int revise_standard_input(revision_wishes const& wishes, std::vector<line_range>
     QString const start = assumed.isEmpty() ? QDir::currentPath() : assumed;
     revision_task task;
     if (!choose_styles_for(start, assumed, wishes, chosen) ||
-        !task_can_start(chosen.front(), std::string(), {}, task))
+        !task_can_start(chosen.front(), std::string(), {}, {}, task))
         return give_back(wishes.refusal());
     task.lines = lines;
     std::string report;
@@ -446,12 +472,20 @@ int result_of_run::revise_based_on(argument_list const& arguments) const {
     for (auto& [chosen, task] : tasks) {
         // The languages a path of this task is revised in: an extension two of them know must go
         // to one only. Paths of other tasks (a nested project file's directory) do not count.
+        // Those that a project file gives another language are its alone.
         std::set<std::string> revised_languages;
+        std::set<std::string> given_to_others;
         for (auto const& [other_chosen, other] : tasks)
             for (QString const& path : task.paths)
-                if (other.paths.contains(path))
+                if (other.paths.contains(path)) {
                     revised_languages.insert(other_chosen.language);
-        if (!task_can_start(chosen, wishes.extensions, revised_languages, task))
+                    if (other_chosen.language != chosen.language) {
+                        std::istringstream words(other_chosen.extensions);
+                        for (std::string extension; words >> extension;)
+                            given_to_others.insert(extension);
+                    }
+                }
+        if (!task_can_start(chosen, wishes.extensions, revised_languages, given_to_others, task))
             return wishes.refusal();
         task.lines = lines;
         task.changed_since = wishes.changed_since;

@@ -7,8 +7,10 @@
 #include <QDirIterator>
 #include <QFileInfo>
 #include <boost/algorithm/string/classification.hpp>
+#include <boost/algorithm/string/split.hpp>
 #include <boost/algorithm/string/trim.hpp>
 
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -25,7 +27,31 @@ project_styles faulty(project_styles styles, project_styles_fault fault, int lin
     return styles;
 }
 
+// The extensions of an "extensions" line ("h, hpp", ".h .hpp"), each followed by one blank;
+// false when a word is no extension.
+bool extensions_of_line(std::string const& value, std::string& extensions) {
+    std::vector<std::string> words;
+    boost::algorithm::split(words, value, boost::algorithm::is_any_of(", \t"), boost::algorithm::token_compress_on);
+    for (std::string word : words) {
+        if (word.empty())
+            continue;
+        if (word.front() == '.')
+            word.erase(0, 1);
+        if (word.empty() || !these_are_filename_extensions(word))
+            return false;
+        extensions += word + " ";
+    }
+    return !extensions.empty();
+}
+
 }  // namespace
+
+std::string project_styles::language_given(std::string const& extension) const {
+    for (auto const& [language, style] : by_language)
+        if ((" " + style.extensions).find(" " + extension + " ") != std::string::npos)
+            return language;
+    return std::string();
+}
 
 char const* project_styles_file_name() { return ".style-tarnel"; }
 
@@ -55,6 +81,8 @@ project_styles read_project_styles::from(QString const& file) const {
     std::string language;
     int language_line = 0;
     bool language_has_style = true;
+    std::set<std::string> languages_with_extensions;
+    std::set<std::string> extensions_given;
     int number = 0;
     std::vector<std::pair<std::string, int>> addon_lines;  // language, line, in the order of the lines
     std::size_t start = 0;
@@ -85,12 +113,25 @@ project_styles read_project_styles::from(QString const& file) const {
             return faulty(styles, project_styles_fault::unknown_line, number);
         std::string const key = trimmed(line.substr(0, equals));
         std::string const value = trimmed(line.substr(equals + 1));
-        if (key != "style" && key != "addon")
+        if (key != "style" && key != "addon" && key != "extensions")
             return faulty(styles, project_styles_fault::unknown_key, number);
         if (language.empty())
             return faulty(styles, project_styles_fault::key_outside_language, number);
         if (value.empty())
             return faulty(styles, project_styles_fault::empty_name, number);
+        if (key == "extensions") {
+            if (!languages_with_extensions.insert(language).second)
+                return faulty(styles, project_styles_fault::second_extensions, number);
+            std::string& extensions = styles.by_language[language].extensions;
+            if (!extensions_of_line(value, extensions))
+                return faulty(styles, project_styles_fault::invalid_extensions, number);
+            std::vector<std::string> words;
+            boost::algorithm::split(words, extensions, boost::algorithm::is_any_of(" "), boost::algorithm::token_compress_on);
+            for (auto const& extension : words)
+                if (!extension.empty() && !extensions_given.insert(extension).second)
+                    return faulty(styles, project_styles_fault::extension_twice, number);
+            continue;
+        }
         if (language_has_style)
             return faulty(styles, project_styles_fault::second_style, number);
         project_style& chosen = styles.by_language[language];

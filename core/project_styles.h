@@ -5,6 +5,9 @@
 //     [C++]                  a language, by its plugin's name
 //     style = Google         a style of the store for it, or
 //     addon = styles/House[C++].style
+//     extensions = h, hpp    optional: the extensions of the language's files in this project, in
+//                            place of those its plugin knows (an extension two plugins know, as
+//                            .h, then belongs to this language only)
 // Nothing here words a fault: the front ends do, with the file and the line.
 #ifndef STYLE_TARNEL_CORE_PROJECT_STYLES_H
 #define STYLE_TARNEL_CORE_PROJECT_STYLES_H
@@ -19,6 +22,8 @@
 struct project_style {
     std::string style;
     QString addon_path;
+    // The extensions of an "extensions" line, each followed by one blank; empty without one.
+    std::string extensions;
 };
 
 enum class project_styles_fault {
@@ -26,16 +31,22 @@ enum class project_styles_fault {
     unreadable,
     // A line that is no comment, no "[language]" and no "key = value".
     unknown_line,
-    // A key other than "style" and "addon".
+    // A key other than "style", "addon" and "extensions".
     unknown_key,
-    // A "style" or "addon" line before the first "[language]".
+    // A "style", "addon" or "extensions" line before the first "[language]".
     key_outside_language,
-    // "[]", "style =" or "addon =" without a name.
+    // "[]", "style =", "addon =" or "extensions =" without a name.
     empty_name,
     // A language named in two sections.
     language_twice,
     // A second "style" or "addon" line for one language.
     second_style,
+    // A second "extensions" line for one language.
+    second_extensions,
+    // An "extensions" line with something else than letters and digits between its commas.
+    invalid_extensions,
+    // An extension given to two languages.
+    extension_twice,
     // A "[language]" without a style or addon line.
     language_without_style,
     // An "addon" line naming an addon whose own text gives it another language.
@@ -52,6 +63,8 @@ struct project_styles {
     std::string language_of_faulty_addon;
 
     bool were_found() const { return !file.isEmpty(); }
+    // The language whose "extensions" line gives `extension` (without its dot); empty when none does.
+    std::string language_given(std::string const& extension) const;
 };
 
 // The file's name: ".style-tarnel".
