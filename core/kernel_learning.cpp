@@ -2,10 +2,13 @@
 // interface, and installing it as an import installs an addon.
 #include "core/kernel.h"
 
+#include "core/closest_installed_style.h"
 #include "core/installed_files.h"
 #include "core/store_files.h"
 #include "core/style_addon.h"
+#include "core/style_addon_editing.h"
 #include "engine/file_collection.h"
+#include "engine/ignore_request.h"
 #include "engine/interruption_by_signal.h"
 #include "engine/plugin_obtainer.h"
 #include "engine/read_from.h"
@@ -64,14 +67,22 @@ style_learning_outcome learned(revision_task const& task,
 
     QPluginLoader loader;
     plugin_obtainer const obtain(loader);
-    if (!obtain(path_of_plugin(plugin->file_name)))
+    interface_to_language_plugin* const revising = obtain(path_of_plugin(plugin->file_name));
+    if (!revising)
         return ended(end::no_such_language);
     interface_to_style_learning* const learning = obtain.style_learning();
     if (!learning)
         return ended(end::language_cannot_learn);
 
-    QStringList const files =
-        obtain_full_file_paths_from(task.paths).with(QString::fromStdString(extensions_of(task, *plugin)));
+    // What the project leaves out of its revisions (vendored and generated code) is no example of
+    // its style either.
+    ignore_request ignoring;
+    ignoring.excluded = task.excluded;
+    ignoring.excluded_from = task.excluded_from;
+    ignoring.git_followed = task.git_followed;
+    QStringList const files = obtain_full_file_paths_from(task.paths)
+                                  .following(ignoring)
+                                  .with(QString::fromStdString(extensions_of(task, *plugin)));
     std::vector<std::string> sources;
     for (QString const& file : files) {
         std::string bytes;
@@ -93,12 +104,23 @@ style_learning_outcome learned(revision_task const& task,
         return ended(end::stopped);
     if (style.addon.empty())
         return ended(end::nothing_learned);
-    if (!install(style.addon, task.style, task.language))
-        return ended(end::not_installed);
     style_learning_outcome outcome;
     outcome.files = sources.size();
     outcome.lines = style.lines;
     outcome.lines_left = std::min(style.lines_left, style.lines);
+    std::string addon = style.addon;
+    closer_installed_style const closer = find_closest_installed_style(*revising, task.language, stop_requested)
+                                              .than(style.addon, style.lines, style.lines_left, sources);
+    if (stop_requested())
+        return ended(end::stopped);
+    if (!closer.style.empty()) {
+        addon = addon_text_renamed(closer.addon, closer.style, task.style);
+        outcome.forms_of = closer.style;
+        outcome.lines = closer.lines;
+        outcome.lines_left = std::min(closer.lines_left, closer.lines);
+    }
+    if (addon.empty() || !install(addon, task.style, task.language))
+        return ended(end::not_installed);
     return outcome;
 }
 

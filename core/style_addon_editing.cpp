@@ -24,16 +24,20 @@ bool update_this::by(std::string const& form) const {
     return write_to(path_of_addon(file_name)).from(*text);
 }
 
+std::string addon_text_renamed(std::string text, std::string const& old_name, std::string const& new_name) {
+    std::string const old_header = "NAME=" + old_name;
+    std::size_t const at = text.find(old_header);
+    if (at == std::string::npos)
+        return std::string();
+    return text.replace(at, old_header.size(), "NAME=" + new_name);
+}
+
 bool rename_this_style::to(std::string const& new_name) const {
-    auto text = addon_text_of(file_name);
+    auto const text = addon_text_of(file_name);
     if (!text)
         return false;
-    std::string const old_header = "NAME=" + old_name;
-    std::size_t const at = text->find(old_header);
-    if (at == std::string::npos)
-        return false;
-    text->replace(at, old_header.size(), "NAME=" + new_name);
-    return write_to(path_of_addon(file_name)).from(*text);
+    std::string const renamed = addon_text_renamed(*text, old_name, new_name);
+    return !renamed.empty() && write_to(path_of_addon(file_name)).from(renamed);
 }
 
 bool rename_this_addon_file::based_on(std::string const& new_name,

@@ -18,6 +18,10 @@ private:
     std::string file_name;
 };
 
+// The addon's text with its first "NAME=<old name>" replaced by "NAME=<new name>"; empty when it
+// has none.
+std::string addon_text_renamed(std::string text, std::string const& old_name, std::string const& new_name);
+
 // Replaces the first "NAME=<old name>" inside the addon by "NAME=<new name>".
 class rename_this_style {
 public:

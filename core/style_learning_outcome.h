@@ -4,6 +4,7 @@
 #define STYLE_TARNEL_CORE_STYLE_LEARNING_OUTCOME_H
 
 #include <cstddef>
+#include <string>
 
 struct style_learning_outcome {
     enum class end {
@@ -23,6 +24,9 @@ struct style_learning_outcome {
         not_installed,
     };
     end how = end::learned;
+    // The installed style whose forms the new style took, because they leave more of the files'
+    // lines as they are than the rules learned; empty when the style is the learned one.
+    std::string forms_of;
     std::size_t files = 0;
     unsigned long lines = 0;
     unsigned long lines_left = 0;

@@ -269,21 +269,6 @@ std::string with_fixed_points(std::string addon, std::string const& style_name, 
 
 }  // namespace
 
-unsigned long lines_left_between(std::string const& before, std::string const& after) {
-    std::map<std::string, long> unmatched;
-    for (std::string const& line : lines_of(after))
-        ++unmatched[line];
-    unsigned long left = 0;
-    for (std::string const& line : lines_of(before)) {
-        auto const found = unmatched.find(line);
-        if (found != unmatched.end() && found->second > 0) {
-            --found->second;
-            ++left;
-        }
-    }
-    return left;
-}
-
 learned_style learn_style_of::from(std::vector<std::string> const& sources, std::string const& style_name,
                                    going_on_check const& going_on) const {
     learned_style learned;

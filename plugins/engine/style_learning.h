@@ -4,6 +4,7 @@
 #define TARNEL_ENGINE_STYLE_LEARNING_H
 
 #include "interface_to_language_plugin.h"
+#include "lines_left_as_they_are.h"
 #include "language.h"
 
 #include <functional>
@@ -34,9 +35,8 @@ private:
     language_description const& language;
 };
 
-// How many lines of `before` stand unchanged in `after`, a revision of it: the lines common to both
-// (their multisets), line endings left out.
-unsigned long lines_left_between(std::string const& before, std::string const& after);
+// How many lines of `before` stand unchanged in `after`, a revision of it, as the host counts them.
+using style_tarnel::lines_left_between;
 
 }  // namespace tarnel_engine
 

@@ -88,6 +88,57 @@ private slots:
         QVERIFY2(revision.out.contains("3 files was found, 3 files was revised"), revision.out.constData());
     }
 
+    // A learned style that leaves fewer of the files' lines as they are than an installed style
+    // does is not installed: the new style takes the installed one's forms under its own name.
+    // The test plugin always learns a style that doubles every single blank. Faults caught: the
+    // worse learned style installed, the installed style's forms taken when the learned ones are
+    // better, the new style installed under the other's name, or the report naming neither.
+    void learns_no_further_from_the_code_than_an_installed_style_data() {
+        QTest::addColumn<QByteArray>("code");
+        QTest::addColumn<QByteArray>("form");
+        QTest::addColumn<QByteArray>("out");
+        QTest::newRow("an installed style leaves more")
+            << QByteArray("begin a b end\nbegin c end\n") << QByteArray("begin SOME end")
+            << QByteArray("Style 'House' of language 'Test' was learned from 1 file: it leaves 100.0% of their 2 "
+                          "lines as they are. It has the forms of style 'Plain', which leave more of them as they "
+                          "are than any rules learned.\n");
+        QTest::newRow("the learned style leaves more")
+            << QByteArray("begin  a  end\nbegin  c  end\n") << QByteArray("begin  SOME  end")
+            << QByteArray("Style 'House' of language 'Test' was learned from 1 file: it leaves 100.0% of their 2 "
+                          "lines as they are.\n");
+    }
+    void learns_no_further_from_the_code_than_an_installed_style() {
+        QFETCH(QByteArray, code);
+        QFETCH(QByteArray, form);
+        QFETCH(QByteArray, out);
+        temporary_bundle bundle;
+        bundle.add_plugin(built::learning_language_plugin());
+        bundle.add_addon(addon_file("Plain", "Test"), addon_text("Plain", "Test"));
+        bundle.write_file("proj/a.tst", code);
+        run_options options;
+        options.working_directory = bundle.work_directory();
+        COMPARE_RUN(bundle.run({"-l=Test", "--learn=House", "-p=proj"}, options), QByteArray(), out, 0);
+        QCOMPARE(bundle.installed_addons(), (QStringList{"House[Test].style", "Plain[Test].style"}));
+        QCOMPARE(bundle.contents_of(bundle.addons_directory() + "/House[Test].style"), addon_text("House", "Test", form));
+        QCOMPARE(bundle.contents_of(bundle.addons_directory() + "/Plain[Test].style"), addon_text("Plain", "Test"));
+    }
+
+    // What the ignore rules leave out of a revision (vendored, generated code) is no example of the
+    // project's style. Fault caught: learning from the files a .style-tarnel-ignore names.
+    void learns_from_the_files_the_project_keeps() {
+        temporary_bundle bundle;
+        bundle.add_plugin(built::learning_language_plugin());
+        bundle.write_file("proj/a.tst", "begin  a  end\n");
+        bundle.write_file("proj/vendor/b.tst", "begin b c end\n");
+        bundle.write_file("proj/.style-tarnel-ignore", "vendor/\n");
+        run_options options;
+        options.working_directory = bundle.work_directory();
+        COMPARE_RUN(bundle.run({"-l=Test", "--learn=House", "-p=proj"}, options), QByteArray(),
+                    QByteArray("Style 'House' of language 'Test' was learned from 1 file: it leaves 100.0% of their 1 "
+                               "lines as they are.\n"),
+                    0);
+    }
+
     // The stop request is read while the plugin learns: the signal is sent once the program has
     // taken SIGINT over, and the run ends with nothing installed.
     void interrupted_run_installs_nothing() {

@@ -1,5 +1,9 @@
 #include "test_language_plugin.h"
 
+#ifdef TEST_PLUGIN_LEARNING
+#include "lines_left_as_they_are.h"
+#endif
+
 #include <atomic>
 #include <chrono>
 #include <csignal>
@@ -109,7 +113,27 @@ std::map<std::string, std::string> test_language_plugin::forms_of_structures() {
     };
 }
 
-std::string test_language_plugin::revise(std::string const& source, std::string const&,
+#ifdef TEST_PLUGIN_LEARNING
+namespace {
+char const learned_form[] = "begin  SOME  end";
+}
+
+learned_style test_language_plugin::learn_style(std::vector<std::string> const& sources, std::string const& style_name,
+                                                std::function<bool(unsigned long, unsigned long)> const& going_on) {
+    learned_style learned;
+    if (!going_on(0, 1))
+        return learned;
+    learned.addon = "NAME=" + style_name + "\nLANGUAGE=" TEST_LANGUAGE_NAME "\n\nS_NAME=block\nS_BEG\n" +
+                    learned_form + "\nS_END\n";
+    for (std::string const& source : sources) {
+        learned.lines += style_tarnel::lines_of(source);
+        learned.lines_left += style_tarnel::lines_left_between(source, revise(source, learned.addon, {"\n", " "}));
+    }
+    return learned;
+}
+#endif
+
+std::string test_language_plugin::revise(std::string const& source, std::string const& addon,
                                          line_ending_traits const& traits) {
     call_under_way const counted;
     log("revise " + hex(traits.EOL) + " " + hex(traits.space) + " " + std::to_string(source.size()));
@@ -128,6 +152,20 @@ std::string test_language_plugin::revise(std::string const& source, std::string 
     std::string const space = traits.space.empty() ? std::string(" ") : traits.space;
     std::string const twice = space + space;
     std::string result = source;
+    static_cast<void>(addon);
+#ifdef TEST_PLUGIN_LEARNING
+    if (addon.find(learned_form) != std::string::npos) {
+        result.clear();
+        for (std::size_t at = 0; at < source.size();) {
+            bool const single = source.compare(at, space.size(), space) == 0 &&
+                                source.compare(at + space.size(), space.size(), space) != 0 &&
+                                (at < space.size() || source.compare(at - space.size(), space.size(), space) != 0);
+            result += single ? twice : source.substr(at, 1);
+            at += single ? space.size() : 1;
+        }
+        return result;
+    }
+#endif
     for (std::size_t at = result.find(twice); at != std::string::npos; at = result.find(twice, at))
         result.erase(at, space.size());
     return result;

@@ -15,7 +15,9 @@
 // forms_of_structures() raises SIGINT in the host's process. A build with TEST_PLUGIN_CRASHING
 // crashes in revise() on a source holding CRASH_NULL (a write through a null pointer), CRASH_ABORT
 // (abort()), CRASH_RECURSION (a recursion that overflows the stack) or CRASH_KILL (SIGKILL to the
-// whole process, which nothing survives).
+// whole process, which nothing survives). A build with TEST_PLUGIN_LEARNING learns a style too:
+// always the one whose addon holds the form "begin  SOME  end" (two blanks), under which revise()
+// makes every single blank two instead (so a text of single blanks changes on every such line).
 #ifndef TEST_LANGUAGE_PLUGIN_H
 #define TEST_LANGUAGE_PLUGIN_H
 
@@ -28,15 +30,29 @@
 #define TEST_PLUGIN_IID STYLE_TARNEL_INTERFACE_ID
 #endif
 
-class test_language_plugin : public QObject, public interface_to_language_plugin {
+class test_language_plugin : public QObject,
+                             public interface_to_language_plugin
+#ifdef TEST_PLUGIN_LEARNING
+    ,
+                             public interface_to_style_learning
+#endif
+{
     Q_OBJECT
 #ifdef TEST_PLUGIN_REENTRANT
     Q_PLUGIN_METADATA(IID TEST_PLUGIN_IID FILE "reentrant.json")
 #else
     Q_PLUGIN_METADATA(IID TEST_PLUGIN_IID)
 #endif
+#ifdef TEST_PLUGIN_LEARNING
+    Q_INTERFACES(interface_to_language_plugin interface_to_style_learning)
+#else
     Q_INTERFACES(interface_to_language_plugin)
+#endif
 public:
+#ifdef TEST_PLUGIN_LEARNING
+    learned_style learn_style(std::vector<std::string> const& sources, std::string const& style_name,
+                              std::function<bool(unsigned long done, unsigned long whole)> const& going_on) override;
+#endif
     std::string language_name() override;
     std::vector<std::string> list_of_keywords() override;
     std::vector<std::string> filename_extensions() override;
