@@ -8,13 +8,39 @@
 #include <QApplication>
 #include <QCoreApplication>
 
+#include <QList>
+#include <QString>
+
 #include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
 #include <vector>
 
 namespace {
 
+// What Qt says while it opens the display, kept until it is known whether it could: without a
+// display Qt ends the process with advice to reinstall the application, and all a user needs to
+// hear is that the window needs one.
+QList<std::pair<QtMsgType, QString>> said_while_opening;
+
+void keep_or_end(QtMsgType type, QMessageLogContext const&, QString const& text) {
+    if (type == QtFatalMsg) {
+        std::fputs("I cannot open the window without a display. Please run app with '-h' flag to see usage info.\n",
+                   stderr);
+        std::_Exit(1);
+    }
+    said_while_opening.append({type, text});
+}
+
 int run_window(int argc, char** argv) {
+    QtMessageHandler const usual = qInstallMessageHandler(keep_or_end);
     QApplication application(argc, argv);
+    qInstallMessageHandler(usual);
+    for (auto const& [type, text] : said_while_opening)
+        usual != nullptr ? usual(type, QMessageLogContext(), text)
+                         : static_cast<void>(std::fprintf(stderr, "%s\n", qPrintable(text)));
+    said_while_opening.clear();
     kernel().remove_old_executable_if_required();
     GUI::main_window window;
     window.show();

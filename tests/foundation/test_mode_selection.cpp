@@ -11,6 +11,7 @@ private slots:
     void decides_by_the_command_line_data();
     void decides_by_the_command_line();
     void a_start_without_arguments_opens_the_window();
+    void a_start_without_a_display_says_so();
 };
 
 void test_mode_selection::decides_by_the_command_line_data() {
@@ -46,6 +47,25 @@ void test_mode_selection::a_start_without_arguments_opens_the_window() {
     QVERIFY(!process.waitForFinished(1500));
     process.terminate();
     QVERIFY(process.waitForFinished(10000));
+}
+
+// Where no display can be opened (a server, a terminal over ssh), one line says so and the
+// program exits 1. Fault caught: Qt's abort (exit 134) with its advice to reinstall.
+void test_mode_selection::a_start_without_a_display_says_so() {
+    temporary_bundle bundle;
+    QProcessEnvironment environment = bundle.environment();
+    environment.remove("DISPLAY");
+    environment.remove("WAYLAND_DISPLAY");
+    environment.insert("QT_QPA_PLATFORM", "xcb");
+    QProcess process;
+    process.setProcessEnvironment(environment);
+    process.start(bundle.executable(), QStringList{});
+    QVERIFY(process.waitForFinished(30000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(process.exitCode(), 1);
+    QCOMPARE(QString::fromUtf8(process.readAllStandardError()),
+             QString("I cannot open the window without a display. Please run app with '-h' flag to see usage info.\n"));
+    QCOMPARE(process.readAllStandardOutput(), QByteArray());
 }
 
 QTEST_GUILESS_MAIN(test_mode_selection)
