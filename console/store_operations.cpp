@@ -204,12 +204,14 @@ bool addon_file_is_usable(std::string const& path, style_description& descriptio
         return false;
     }
     description = obtain_style_description().from_raw(path);
-    if (there_is_no_such().language(description.language)) {
-        say(message::no_language_for_imported_style(description.language));
+    // A file without its name or language lines is no addon at all, whatever language it does
+    // not name.
+    if (description.language.empty() || description.is_empty()) {
+        say(message::cannot_import_style(path));
         return false;
     }
-    if (description.is_empty()) {
-        say(message::cannot_import_style(path));
+    if (there_is_no_such().language(description.language)) {
+        say(message::no_language_for_imported_style(description.language));
         return false;
     }
     return true;

@@ -228,17 +228,24 @@ void test_ci_and_editors::the_diff_applies_with_git_apply() {
 void test_ci_and_editors::an_addon_file_is_refused_as_an_import_refuses_it_data() {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QByteArray>("content");
-    QTest::newRow("missing") << "missing.style" << QByteArray();
-    QTest::newRow("not named .style") << "House[Test].txt" << addon_text("House", "Test");
-    QTest::newRow("a dot before .style") << "a.b.style" << addon_text("House", "Test");
-    QTest::newRow("a language not installed") << "K[C].style" << addon_text("K", "C");
-    QTest::newRow("no language") << "NoLanguage[Test].style" << QByteArray("NAME=NoLanguage\n");
-    QTest::newRow("an empty style name") << "Empty[Test].style" << QByteArray("NAME=\nLANGUAGE=Test\n");
+    // Empty: the import's own words. A file without a language line is no addon to use: the
+    // import, which looks for its language first, says there is no language ''.
+    QTest::addColumn<QByteArray>("words");
+    QTest::newRow("missing") << "missing.style" << QByteArray() << QByteArray();
+    QTest::newRow("not named .style") << "House[Test].txt" << addon_text("House", "Test") << QByteArray();
+    QTest::newRow("a dot before .style") << "a.b.style" << addon_text("House", "Test") << QByteArray();
+    QTest::newRow("a language not installed") << "K[C].style" << addon_text("K", "C") << QByteArray();
+    QTest::newRow("no language") << "NoLanguage[Test].style" << QByteArray("NAME=NoLanguage\n")
+                                 << QByteArray("I cannot import style '%W/NoLanguage[Test].style', it has invalid format. "
+                                               "For more info please read https://style-tarnel.org/user-guide/"
+                                               "style-addon-by-hand.\n");
+    QTest::newRow("an empty style name") << "Empty[Test].style" << QByteArray("NAME=\nLANGUAGE=Test\n") << QByteArray();
 }
 
 void test_ci_and_editors::an_addon_file_is_refused_as_an_import_refuses_it() {
     QFETCH(QString, file);
     QFETCH(QByteArray, content);
+    QFETCH(QByteArray, words);
     installed_bundle bundle;
     bundle.write_file("a.tst", "a  b\n");
     if (!content.isEmpty())
@@ -246,7 +253,9 @@ void test_ci_and_editors::an_addon_file_is_refused_as_an_import_refuses_it() {
     run_result const imported = bundle.run({"--import=" + file});
     QCOMPARE(imported.status, 1);
     QCOMPARE(bundle.installed_addons(), installed_bundle().installed_addons());
-    COMPARE_RUN(bundle.run({"--addon=" + file, "-p=a.tst"}), imported.err, "", 1);
+    QByteArray const expected =
+        words.isEmpty() ? imported.err : QByteArray(words).replace("%W", bundle.work_directory().toUtf8());
+    COMPARE_RUN(bundle.run({"--addon=" + file, "-p=a.tst"}), expected, "", 1);
     QCOMPARE(bundle.contents_of(bundle.work_directory() + "/a.tst"), QByteArray("a  b\n"));
 }
 
