@@ -28,7 +28,7 @@ public:
     void value_for_progress(int value);
     void text(std::string const& status);
     void finished(std::string const& report);
-    // A run that ended before its first file: `report` says why.
+    // A run that could not start: `report` says why.
     void refused(std::string const& report);
 
     QWidget* progress_dialog() const;
