@@ -32,14 +32,14 @@ public:
           increase_font(window), decrease_font(window), non_print(window),
           online(window), about(window),
           update(window, window),
-          revise_all(window), revise_it_forcibly(window), revise_all_forcibly(window),
+          revise_all(window), revise_changed_lines(window), revise_it_forcibly(window), revise_all_forcibly(window),
           tab_new(window), tab_close(window), tab_rename(window),
           styles(new style_group(window, window,
                                  {&language_import, &language_delete, &style_import, &style_export,
                                   &style_delete, &style_rename, &about_this_structure, &undo, &redo,
                                   &copy, &select_all, &increase_font, &decrease_font, &non_print})),
           code(new code_group(window, &revise_it_forcibly, &revise_all_forcibly)),
-          revise(new revise_group(window, &revise_all)),
+          revise(new revise_group(window, &revise_all, &revise_changed_lines)),
           agreement(kernel().this_is_first_start_of_app() ? new agreement_dialog(window) : nullptr),
           tabs(new task_tabs(window, &tab_new, &tab_close, &tab_rename)),
           learning(new learn_from_code(window, window, &style_learn)) {}
@@ -63,6 +63,7 @@ public:
     info_menu_about about;
     app_menu_update update;
     revise_menu_all revise_all;
+    revise_menu_changed_lines revise_changed_lines;
     revise_menu_it_forcibly revise_it_forcibly;
     revise_menu_all_forcibly revise_all_forcibly;
     tab_menu_new tab_new;
@@ -160,7 +161,7 @@ void main_window::build_menus() {
              {&p.about_this_structure, nullptr, &p.undo, &p.redo, nullptr, &p.copy, &p.select_all, nullptr,
               &p.increase_font, &p.decrease_font, nullptr, &p.non_print});
     add_menu(tr("&Your code"), "revise_menu",
-             {&p.revise_all, nullptr, &p.revise_it_forcibly, &p.revise_all_forcibly});
+             {&p.revise_all, &p.revise_changed_lines, nullptr, &p.revise_it_forcibly, &p.revise_all_forcibly});
     add_menu(tr("A&pp"), "app_menu", {&p.update, nullptr, &p.online, &p.about});
 }
 
@@ -192,6 +193,7 @@ void main_window::connect_groups() {
     connect(C, &code_group::no_extensions_anymore, R, &revise_group::no_extensions_anymore);
     connect(C, &code_group::no_paths_anymore, R, &revise_group::no_paths_anymore);
     connect(pimpl->revise_all.widget_ptr(), &QAction::triggered, R, &revise_group::revise_all);
+    connect(pimpl->revise_changed_lines.widget_ptr(), &QAction::triggered, R, &revise_group::revise_changed_lines);
     connect(pimpl->revise_all_forcibly.widget_ptr(), &QAction::triggered, R, &revise_group::revise_all_forcibly);
     connect(pimpl->revise_it_forcibly.widget_ptr(), &QAction::triggered, R, &revise_group::revise_it_forcibly);
     connect(T, &task_tabs::set_this_programming_language, S, &style_group::set_this_programming_language);

@@ -59,6 +59,13 @@ lnf_menu_non_print::lnf_menu_non_print(QWidget* parent)
 revise_menu_all::revise_menu_all(QWidget* parent)
     : one_action(parent, {tr("Revise all paths"), QKeySequence("Ctrl+G"), false, false}) { name_as("revise_menu_all"); }
 
+// Enabled with "Revise all paths": while the task has paths, extensions and a style.
+revise_menu_changed_lines::revise_menu_changed_lines(QWidget* parent)
+    : one_action(parent, {tr(text::revise_changed_lines), QKeySequence("Ctrl+Shift+G"), false, false,
+                          tr(text::revise_changed_lines_tip)}) {
+    name_as("revise_menu_changed_lines");
+}
+
 revise_menu_it_forcibly::revise_menu_it_forcibly(QWidget* parent)
     : one_action(parent, {tr("Revise this path forcibly"), QKeySequence(), true, false}) { name_as("revise_menu_it_forcibly"); }
 

@@ -114,6 +114,12 @@ public:
     explicit revise_menu_all(QWidget* parent);
 };
 
+class revise_menu_changed_lines : public one_action {
+    Q_OBJECT
+public:
+    explicit revise_menu_changed_lines(QWidget* parent);
+};
+
 class revise_menu_it_forcibly : public one_action {
     Q_OBJECT
 public:

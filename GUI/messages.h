@@ -67,6 +67,11 @@ constexpr char report_title[] = "Report";
 constexpr char revise_in_progress[] = "Revise...";
 constexpr char stop[] = "&Stop";
 constexpr char revision_in_progress_please_wait[] = "Revision in progress, please wait...";
+// The revision of the lines that differ from git's HEAD; its refusals are the run's own words, as
+// the command line prints them.
+constexpr char revise_changed_lines[] = "Revise changed lines";
+constexpr char revise_changed_lines_tip[] =
+    "Revise only the lines that differ from git's HEAD (staged or not) in the task's paths";
 
 // The structure panes and the form editor.
 constexpr char language_structure_caption[] = "Language structure";

@@ -11,7 +11,8 @@ public:
         action->setEnabled(look.enabled);
         action->setCheckable(look.checkable);
         // What a screen reader announces beside the entry's own text.
-        action->setStatusTip(QString(look.text).remove('&'));
+        QString const tip = look.tip.isEmpty() ? QString(look.text).remove('&') : look.tip;
+        action->setStatusTip(tip);
     }
 
     QAction* action;

@@ -17,6 +17,8 @@ struct action_look {
     QKeySequence shortcut = QKeySequence();
     bool enabled = true;
     bool checkable = false;
+    // What the status bar and a screen reader say of the entry; empty: its text.
+    QString tip = QString();
 };
 
 class one_action : public QWidget {

@@ -32,9 +32,10 @@ view_report::view_report(QWidget* parent) : QPushButton(tr(text::view_report), p
 
 class revise_group::implementation {
 public:
-    implementation(revise_group* owner, QWidget* main_window, revise_menu_all* all)
+    implementation(revise_group* owner, QWidget* main_window, revise_menu_all* all,
+                   revise_menu_changed_lines* changed_lines)
         : go(new start_revise(owner)), view(new view_report(owner)), the_report(std::make_unique<report>()),
-          starter(new show_revise(owner, main_window)), all(all) {
+          starter(new show_revise(owner, main_window)), all(all), changed_lines(changed_lines) {
         auto* layout = new QHBoxLayout(owner);
         layout->setContentsMargins(0, 3, 0, 0);
         layout->setSpacing(14);
@@ -46,10 +47,12 @@ public:
 
     void enable_start(bool yes) {
         go->setEnabled(yes);
-        if (yes)
-            all->enable();
-        else
-            all->disable();
+        for (one_action* action : std::initializer_list<one_action*>{all, changed_lines}) {
+            if (yes)
+                action->enable();
+            else
+                action->disable();
+        }
     }
 
     start_revise* go;
@@ -58,10 +61,11 @@ public:
     std::unique_ptr<report> the_report;
     show_revise* starter;
     revise_menu_all* all;
+    revise_menu_changed_lines* changed_lines;
 };
 
-revise_group::revise_group(QWidget* parent, revise_menu_all* all)
-    : QWidget(parent), pimpl(std::make_unique<implementation>(this, parent, all)) {
+revise_group::revise_group(QWidget* parent, revise_menu_all* all, revise_menu_changed_lines* changed_lines)
+    : QWidget(parent), pimpl(std::make_unique<implementation>(this, parent, all, changed_lines)) {
     setObjectName("revise_group");
     setAccessibleName(tr("Revision"));
     report* const R = pimpl->the_report.get();
@@ -101,6 +105,8 @@ void revise_group::all_styles_have_been_deleted() {
 }
 
 void revise_group::revise_all() { pimpl->starter->view(); }
+
+void revise_group::revise_changed_lines() { pimpl->starter->view_changed_lines(); }
 
 void revise_group::revise_it_forcibly() { pimpl->starter->view_with_force_revision_of_it(); }
 

@@ -1,6 +1,6 @@
 // The lower group of the window: "&Go!" starts a revision of the shown task with its progress
-// dialog, "&View report" opens the report of the last run. The three revise actions of the menu
-// land here too.
+// dialog, "&View report" opens the report of the last run. The revise actions of the menu land
+// here too.
 #ifndef STYLE_TARNEL_GUI_REVISE_GROUP_H
 #define STYLE_TARNEL_GUI_REVISE_GROUP_H
 
@@ -12,6 +12,7 @@
 namespace GUI {
 
 class revise_menu_all;
+class revise_menu_changed_lines;
 
 class start_revise : public QPushButton {
     Q_OBJECT
@@ -32,8 +33,9 @@ public:
 class revise_group : public QWidget {
     Q_OBJECT
 public:
-    // `parent` is the main window, over which the progress dialog is modal.
-    revise_group(QWidget* parent, revise_menu_all* all);
+    // `parent` is the main window, over which the progress dialog is modal. The two actions are
+    // enabled and disabled with "&Go!".
+    revise_group(QWidget* parent, revise_menu_all* all, revise_menu_changed_lines* changed_lines);
     ~revise_group() override;
 
     QWidget* widget_ptr();
@@ -54,6 +56,7 @@ public slots:
     void no_paths_anymore();
     void all_styles_have_been_deleted();
     void revise_all();
+    void revise_changed_lines();
     void revise_it_forcibly();
     void revise_all_forcibly();
     void set_enabled();

@@ -103,7 +103,9 @@ public:
     // Revision: on the calling thread, printing progress and report, returning 0, 1 when the run
     // cannot start, or 128 + the number of the SIGINT or SIGTERM that interrupted it; or on a
     // detached worker thread that reports through the four callbacks and reads `stop` before
-    // every file.
+    // every file. There, a run that starts calls `maximum` once, before any `value`; one that
+    // cannot start (a path outside git for changed lines, a plugin without line ranges, a broken
+    // addon...) calls `finished` alone, with the reason.
     int start_revise(revision_task const& task) const;
     int start_revise(revision_task const& task, std::function<void(int)> maximum,
                      std::function<void(int)> value, std::function<void(std::string)> status,

@@ -120,6 +120,7 @@ private slots:
     void cleanup();
 
     void opens_titled_with_its_menus_in_order();
+    void no_two_entries_share_a_shortcut();
     void actions_follow_the_languages_and_styles_data();
     void actions_follow_the_languages_and_styles();
     void invites_to_import_what_is_missing();
@@ -156,6 +157,20 @@ void test_main_window::opens_titled_with_its_menus_in_order() {
     QVERIFY(!action("revise_menu_all")->isEnabled());
     QCOMPARE(action("revise_menu_all")->shortcut(), QKeySequence("Ctrl+G"));
     QVERIFY(action("lnf_menu_non_print")->isCheckable());
+}
+
+// Fault: two entries under one shortcut, which Qt takes as ambiguous: neither of them runs.
+void test_main_window::no_two_entries_share_a_shortcut() {
+    open_window();
+    QMap<QString, QString> entry_of;  // by the shortcut, as the platform writes it
+    for (QAction* entry : window->findChildren<QAction*>())
+        for (QKeySequence const& shortcut : entry->shortcuts()) {
+            QString const key = shortcut.toString();
+            QVERIFY2(!entry_of.contains(key), qPrintable(key + ": " + entry_of.value(key) + ", " + entry->objectName()));
+            entry_of[key] = entry->objectName();
+        }
+    QCOMPARE(entry_of.value("Ctrl+G"), QString("revise_menu_all"));
+    QCOMPARE(entry_of.value("Ctrl+Shift+G"), QString("revise_menu_changed_lines"));
 }
 
 void test_main_window::actions_follow_the_languages_and_styles_data() {
