@@ -4,8 +4,9 @@
 #   /usr/share/...                 menu entry, icons, AppStream metainfo, manual page, copyright
 # The files under /usr/share are made by the target package_files (the manual page from the
 # program's own help text through packaging/manual-page, the PNG icons by rsvg-convert from the
-# SVG) and installed only into the package, never by `cmake --install`, whose
-# prefix is a bundle. scripts/package installs the tools, builds package_files and runs cpack.
+# SVG) and installed only into the package, never by `cmake --install`, whose prefix is a bundle.
+# `cpack` in the build tree (or the target package) makes the package; scripts/package installs
+# the tools it needs first.
 set(STYLE_TARNEL_PACKAGE_NAME style-tarnel)
 set(STYLE_TARNEL_PACKAGE_ID org.style_tarnel.StyleTarnel)
 set(_packaging ${PROJECT_SOURCE_DIR}/packaging)
@@ -73,6 +74,8 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_STRIP_FILES ON)
+# The files package_files makes, made first whenever cpack runs (also through the target package).
+set(CPACK_INSTALL_COMMANDS "${CMAKE_COMMAND} --build ${PROJECT_BINARY_DIR} --target package_files")
 # Two installs into one package: the bundle under /usr/lib/style-tarnel, the desktop files under /usr.
 set(CPACK_PACKAGING_INSTALL_PREFIX /)
 set(CPACK_INSTALL_CMAKE_PROJECTS
