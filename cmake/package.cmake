@@ -1,7 +1,8 @@
 # The Debian package, made by CPack from the bundle the build tree holds:
 #   /usr/lib/style-tarnel/         the bundle (bin/, PlugIns/languages stripped, PlugIns/styles)
 #   /usr/bin/style-tarnel          a relative link to the bundle's executable
-#   /usr/share/...                 menu entry, icons, AppStream metainfo, manual page, copyright
+#   /usr/share/...                 menu entry, icons, AppStream metainfo, manual page, copyright,
+#                                  lintian's overrides (each with its reason)
 # The files under /usr/share are made by the target package_files (the manual page from the
 # program's own help text through packaging/manual-page, the PNG icons by rsvg-convert from the
 # SVG) and installed only into the package, never by `cmake --install`, whose prefix is a bundle.
@@ -48,6 +49,8 @@ foreach(size 48 128)
           DESTINATION share/icons/hicolor/${size}x${size}/apps ${_desktop})
 endforeach()
 install(FILES ${_made}/style-tarnel.1.gz DESTINATION share/man/man1 ${_desktop})
+install(FILES ${_packaging}/lintian-overrides DESTINATION share/lintian/overrides
+        RENAME ${STYLE_TARNEL_PACKAGE_NAME} ${_desktop})
 install(FILES ${_packaging}/copyright ${_made}/changelog.gz
         DESTINATION share/doc/${STYLE_TARNEL_PACKAGE_NAME} ${_desktop})
 
