@@ -12,9 +12,9 @@ set(STYLE_TARNEL_PACKAGE_NAME style-tarnel)
 set(STYLE_TARNEL_PACKAGE_ID org.style_tarnel.StyleTarnel)
 set(_packaging ${PROJECT_SOURCE_DIR}/packaging)
 set(_made ${PROJECT_BINARY_DIR}/packaging)
-file(MAKE_DIRECTORY ${_made})
 
 add_custom_command(OUTPUT ${_made}/style-tarnel.1.gz
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${_made}
   COMMAND ${_packaging}/manual-page ${STYLE_TARNEL_BIN_DIR}/${STYLE_TARNEL_EXECUTABLE_NAME}
           ${_made}/style-tarnel.1.gz
   DEPENDS style_tarnel ${_packaging}/manual-page
@@ -30,17 +30,21 @@ foreach(size 48 128)
   list(APPEND _icons ${_made}/icon-${size}/style-tarnel.png)
 endforeach()
 add_custom_command(OUTPUT ${_made}/changelog.gz
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${_made}
   COMMAND gzip -9nc ${_packaging}/changelog > ${_made}/changelog.gz
   DEPENDS ${_packaging}/changelog VERBATIM)
-add_custom_target(package_files DEPENDS ${_made}/style-tarnel.1.gz ${_icons} ${_made}/changelog.gz)
-
 # /usr/bin/style-tarnel, relative, so that the unpacked tree works wherever it lies.
-file(CREATE_LINK "../lib/${STYLE_TARNEL_PACKAGE_NAME}/bin/${STYLE_TARNEL_EXECUTABLE_NAME}"
-     ${_made}/style-tarnel SYMBOLIC)
+add_custom_command(OUTPUT ${_made}/bin/style-tarnel
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${_made}/bin
+  COMMAND ${CMAKE_COMMAND} -E create_symlink
+          "../lib/${STYLE_TARNEL_PACKAGE_NAME}/bin/${STYLE_TARNEL_EXECUTABLE_NAME}" ${_made}/bin/style-tarnel
+  VERBATIM)
+add_custom_target(package_files
+  DEPENDS ${_made}/style-tarnel.1.gz ${_icons} ${_made}/changelog.gz ${_made}/bin/style-tarnel)
 
 # The component "desktop" goes to /usr in the package (CPACK_INSTALL_CMAKE_PROJECTS below).
 set(_desktop COMPONENT desktop EXCLUDE_FROM_ALL)
-install(FILES ${_made}/style-tarnel DESTINATION bin ${_desktop})
+install(FILES ${_made}/bin/style-tarnel DESTINATION bin ${_desktop})
 install(FILES ${_packaging}/${STYLE_TARNEL_PACKAGE_ID}.desktop DESTINATION share/applications ${_desktop})
 install(FILES ${_packaging}/${STYLE_TARNEL_PACKAGE_ID}.metainfo.xml DESTINATION share/metainfo ${_desktop})
 install(FILES ${_packaging}/style-tarnel.svg DESTINATION share/icons/hicolor/scalable/apps ${_desktop})
