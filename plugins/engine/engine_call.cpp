@@ -18,9 +18,35 @@ bool inside(clang::tooling::Replacement const& replacement, std::vector<clang::t
     });
 }
 
+// A replacement of the white space before a range's first token begins at the end of the line
+// before the range: the part of it on the lines before the range (their trailing blanks, blank
+// lines) is kept as it is, unless the engine joins the token to the line before.
+clang::tooling::Replacement from_the_range_on(clang::tooling::Replacement const& replacement, std::string const& code,
+                                              std::vector<clang::tooling::Range> const& ranges) {
+    unsigned const offset = replacement.getOffset(), end = offset + replacement.getLength();
+    for (clang::tooling::Range const& range : ranges) {
+        unsigned const begin = range.getOffset();
+        if (offset >= begin || end < begin || code[begin - 1] != '\n')
+            continue;
+        llvm::StringRef const before(code.data() + offset, begin - offset);
+        llvm::StringRef const text = replacement.getReplacementText();
+        std::size_t const feeds = before.count('\n'), new_feeds = text.count('\n');
+        if (new_feeds == 0 || before.find_first_not_of(" \t\v\f\r\n") != llvm::StringRef::npos)
+            return replacement;
+        // The line breaks the engine keeps stand for those before the range first.
+        std::size_t cut = 0;
+        for (std::size_t each = 0; each < std::min(feeds, new_feeds); ++each)
+            cut = text.find('\n', cut) + 1;
+        if (feeds > new_feeds)
+            cut = text.rfind('\n') + 1;
+        return clang::tooling::Replacement(replacement.getFilePath(), begin, end - begin, text.substr(cut));
+    }
+    return replacement;
+}
+
 // With `positions`: only the replacements inside the ranges are applied (the engine also
-// re-indents the lines after a range that it takes to be part of its blocks), and the positions
-// are moved by them.
+// re-indents the lines after a range that it takes to be part of its blocks), those reaching back
+// into the lines before a range from there on, and the positions are moved by them.
 engine_outcome formatted(clang::format::FormatStyle const& style, std::string const& code,
                          std::vector<clang::tooling::Range> const& ranges, std::vector<unsigned>* positions = nullptr) {
     clang::format::FormattingAttemptStatus status;
@@ -29,7 +55,7 @@ engine_outcome formatted(clang::format::FormatStyle const& style, std::string co
         clang::tooling::Replacements kept;
         for (clang::tooling::Replacement const& replacement : replacements)
             if (inside(replacement, ranges))
-                if (llvm::Error error = kept.add(replacement))
+                if (llvm::Error error = kept.add(from_the_range_on(replacement, code, ranges)))
                     llvm::consumeError(std::move(error));
         replacements = std::move(kept);
         for (unsigned& position : *positions)

@@ -72,8 +72,18 @@ unsigned long line_of(std::string const& code, unsigned offset) {
                    std::count(code.begin(), code.begin() + std::min<std::size_t>(offset, code.size()), '\n'));
 }
 
+// Where the first character of the line that begins at `begin` stands that is not a blank, or
+// `begin` on a blank line. The engine replaces the white space before a token as a whole, from the
+// end of the line before: the start of a line moved along with it would land on that line.
+unsigned first_character_at(std::string const& code, unsigned begin) {
+    std::size_t const first = code.find_first_not_of(" \t\v\f", begin);
+    return first == std::string::npos || code[first] == '\n' || code[first] == '\r' ? begin
+                                                                                    : static_cast<unsigned>(first);
+}
+
 // The ranges' lines for the engine: from the start of each first line to the last character of
-// each last, so that no line around is touched; the ends of each also go into `edges`.
+// each last, so that no line around is touched; where each begins and ends goes into `edges`, by
+// characters that the engine's changes of white space move along with their lines.
 std::vector<clang::tooling::Range> characters_of(std::string const& code, std::vector<line_range> const& lines,
                                                  std::vector<unsigned>& edges) {
     std::vector<clang::tooling::Range> characters;
@@ -82,7 +92,7 @@ std::vector<clang::tooling::Range> characters_of(std::string const& code, std::v
         unsigned const begin = start_of(code, range.first);
         unsigned const end = last_character_of(code, range.last, begin);
         characters.emplace_back(begin, end - begin);
-        edges.push_back(begin);
+        edges.push_back(first_character_at(code, begin));
         edges.push_back(end);
     }
     return characters;
