@@ -14,6 +14,9 @@ the same sources, and tells which lines a revision of changed lines touched outs
       hunk is at an edge when each line it changes beyond the commit's lies next to one of the
       commit's lines and is joined or split (its text, white space aside, no longer a line of the
       hunk's result); its other lines beyond the commit's count as changed outside the hunks.
+  history.py processor RUNS INPUT OUTPUT COMMAND...
+      Runs COMMAND RUNS times, its standard input INPUT and output OUTPUT, and prints the median of
+      its processor times (user + system, from the kernel's account of each process) in seconds.
 """
 import difflib
 import os
@@ -153,10 +156,23 @@ def outside(repo, details):
     print(len(commit), commit_lines, revised, at_edges, outside_lines)
 
 
+def processor(runs, source, target, command):
+    times = []
+    for _ in range(runs):
+        with open(source, "rb") as given, open(target, "wb") as taken:
+            child = subprocess.Popen(command, stdin=given, stdout=taken, stderr=subprocess.DEVNULL)
+            _, _, usage = os.wait4(child.pid, 0)
+        times.append(usage.ru_utime + usage.ru_stime)
+    times.sort()
+    print("%.4f" % times[(len(times) - 1) // 2])
+
+
 if __name__ == "__main__":
     if sys.argv[1] == "build":
         build(sys.argv[2], sys.argv[3], sys.argv[4], sys.argv[5], int(sys.argv[6]),
               int(sys.argv[7]) if len(sys.argv) > 7 else 200)
+    elif sys.argv[1] == "processor":
+        processor(int(sys.argv[2]), sys.argv[3], sys.argv[4], sys.argv[5:])
     elif sys.argv[1] == "outside":
         outside(sys.argv[2], sys.argv[3])
     else:
