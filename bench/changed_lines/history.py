@@ -9,11 +9,12 @@ the same sources, and tells which lines a revision of changed lines touched outs
       sorted list, neighbours together). Prints the number of files.
   history.py outside REPO DETAILS
       In REPO at a commit whose work tree holds a revision of its changed lines: prints
-      "files_in_commit commit_lines revised_lines at_edges outside_lines"; appends each revision
-      hunk that reaches beyond the commit's lines to DETAILS, with the lines before and after. A
-      hunk is at an edge when each line it changes beyond the commit's lies next to one of the
-      commit's lines and is joined or split (its text, white space aside, no longer a line of the
-      hunk's result); its other lines beyond the commit's count as changed outside the hunks.
+      "files_in_commit commit_lines revised_lines joined_lines outside_lines"; appends each
+      revision hunk that reaches beyond the commit's lines to DETAILS, with the lines before and
+      after. A line beyond the commit's is joined or split when its text, white space aside, is no
+      longer a line of the hunk's result and it lies next to one of the commit's lines or to
+      another line so joined; the other lines beyond the commit's count as changed outside the
+      hunks.
   history.py processor RUNS INPUT OUTPUT COMMAND...
       Runs COMMAND RUNS times, its standard input INPUT and output OUTPUT, and prints the median of
       its processor times (user + system, from the kernel's account of each process) in seconds.
@@ -35,9 +36,15 @@ def git(repo, *args):
                           stdout=subprocess.PIPE).stdout.decode("utf-8", "surrogateescape")
 
 
+def split(text):
+    """Lines as git counts them: at line feeds alone (not at form feeds, as splitlines() does)."""
+    lines = text.split("\n")
+    return lines[:-1] if lines and lines[-1] == "" else lines
+
+
 def lines_of(path):
     with open(path, "rb") as f:
-        return f.read().decode("utf-8", "surrogateescape").splitlines()
+        return split(f.read().decode("utf-8", "surrogateescape"))
 
 
 def changed_line_count(old, new):
@@ -95,7 +102,7 @@ HUNK = re.compile(r"^@@ -(\d+)(?:,(\d+))? \+(\d+)(?:,(\d+))? @@")
 def hunks(diff):
     """{file: [(old_start, old_count, new_start, new_count)]} of a diff without context."""
     found, current = {}, None
-    for line in diff.splitlines():
+    for line in split(diff):
         if line.startswith("+++ "):
             current = line[6:] if line.startswith("+++ b/") else None
             if current is not None:
@@ -125,30 +132,43 @@ def outside(repo, details):
     with open(details, "a") as out:
         for path, each in revision.items():
             ours = changed.get(path, set())
-            before = None  # the file at HEAD, read when first needed
+            before = split(git(repo, "show", "HEAD:" + path))
+            after = lines_of(os.path.join(repo, path))
             for old_start, old_count, new_start, new_count in each:
-                touched = list(range(old_start, old_start + old_count)) if old_count else [old_start + 1]
+                # git's hunks may take an unchanged line along (a blank line among changed ones):
+                # the lines changed are those that the hunk's own smallest diff changes.
+                touched = []
+                old_lines = before[old_start - 1:old_start - 1 + old_count]
+                new_lines = after[new_start - 1:new_start - 1 + new_count]
+                for tag, i1, i2, _, _ in difflib.SequenceMatcher(None, old_lines, new_lines,
+                                                                 autojunk=False).get_opcodes():
+                    if tag != "equal":
+                        touched.extend(range(old_start + i1, old_start + i2) if i2 > i1 else
+                                       [old_start + i1 if old_count else old_start + 1])
                 revised += len(touched)
                 beyond = [line for line in touched if line not in ours]
                 if not beyond:
                     continue
                 inside = [line for line in touched if line in ours]
-                if before is None:
-                    before = git(repo, "show", "HEAD:" + path).splitlines()
-                with open(os.path.join(repo, path), "rb") as f:
-                    after = f.read().decode("utf-8", "surrogateescape").splitlines()
-                # A line beyond the commit's is joined or split when it lies next to one of the
-                # commit's lines and its text is no longer a line of its own, white space aside.
+                # A line beyond the commit's is joined or split when its text, white space aside,
+                # is no longer a line of the hunk's result, and it lies next to one of the commit's
+                # lines or to another line so joined (the engine revises a line joined to a range
+                # whole, and may join the line before it in turn).
                 own = {"".join(line.split()) for line in after[new_start - 1:new_start - 1 + new_count]}
-                edge = all(line - 1 in ours or line + 1 in ours for line in beyond) and all(
-                    before[line - 1].strip() and "".join(before[line - 1].split()) not in own for line in beyond)
-                if edge:
-                    at_edges += 1
-                else:
-                    outside_lines += len(beyond)
-                out.write("%s %s:%d-%d (%d of its lines in the commit): lines %s beyond\n" % (
+                joined = {line for line in beyond
+                          if before[line - 1].strip() and "".join(before[line - 1].split()) not in own}
+                reached, grown = set(ours), True
+                while grown:
+                    grown = {line for line in joined - reached if line - 1 in reached or line + 1 in reached}
+                    reached |= grown
+                joins = [line for line in beyond if line in reached]
+                others = [line for line in beyond if line not in reached]
+                edge = not others
+                at_edges += len(joins)
+                outside_lines += len(others)
+                out.write("%s %s:%d-%d (%d of its lines in the commit): lines %s joined or split, %s changed\n" % (
                     "edge" if edge else "OUTSIDE", path, old_start, old_start + max(old_count, 1) - 1,
-                    len(inside), ",".join(map(str, beyond))))
+                    len(inside), ",".join(map(str, joins)) or "none", ",".join(map(str, others)) or "none"))
                 for line in before[old_start - 1:old_start - 1 + old_count]:
                     out.write("  - %s\n" % line)
                 for line in after[new_start - 1:new_start - 1 + new_count]:

@@ -57,13 +57,16 @@ unsigned start_of(std::string const& code, unsigned long line) {
 }
 
 // Where the last character of line `line`, or of the last line before it that is not blank,
-// stands; `begin` when there is none from `begin` on. The white space after it belongs to the next
-// line's first token for the engine: a range that reached into it would touch that line too.
+// stands, an escaped line break at its end aside; `begin` when there is none from `begin` on. The
+// white space after it (an escaped line break too) belongs to the next line's first token for the
+// engine: a range that reached into it would touch that line too.
 unsigned last_character_of(std::string const& code, unsigned long line, unsigned begin) {
     std::size_t const feed = code.find('\n', start_of(code, line));
-    std::size_t const end = feed == std::string::npos ? code.size() : feed;
-    std::size_t const last = end == 0 ? std::string::npos : code.find_last_not_of(" \t\r\n\v\f", end - 1);
-    return last == std::string::npos || last < begin ? begin : static_cast<unsigned>(last);
+    std::size_t last = feed == std::string::npos ? code.size() : feed;
+    do
+        last = last == 0 ? std::string::npos : code.find_last_not_of(" \t\r\n\v\f", last - 1);
+    while (last != std::string::npos && last > begin && code[last] == '\\');
+    return last == std::string::npos || last < begin || code[last] == '\\' ? begin : static_cast<unsigned>(last);
 }
 
 // The line (from 1) that holds `offset`.
@@ -98,7 +101,9 @@ std::vector<clang::tooling::Range> characters_of(std::string const& code, std::v
     return characters;
 }
 
-// The lines that the edges, moved into the formatted text, enclose.
+// The lines that the edges, moved into the formatted text, enclose. A range's first token that
+// the engine joined to the end of a line before takes that line into the range: revised again,
+// it is revised whole, as a later revision of the changed lines would revise it.
 std::vector<line_range> lines_at(std::string const& code, std::vector<unsigned> const& edges) {
     std::vector<line_range> lines;
     for (std::size_t each = 0; each + 1 < edges.size(); each += 2)

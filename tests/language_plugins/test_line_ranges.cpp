@@ -84,6 +84,18 @@ private slots:
         QTest::newRow("C: a blank line opening the range")
             << "C" << "Linux kernel[C].style" << QByteArray("int a;  \n\n   int  b;\n") << "2:3"
             << QByteArray("int a;  \n\nint b;\n");
+        // Fault: a range of blank lines taking along the line after it, which the white space
+        // before its first token reaches: blank lines taken out, that line re-indented.
+        QTest::newRow("C: a range of blank lines before a line outside it")
+            << "C" << "Linux kernel[C].style" << QByteArray("int a;\n\n\n\n   int  b;\n") << "2:3"
+            << QByteArray("int a;\n\n\n\n   int  b;\n");
+        // Fault: a macro's escaped line breaks: the one ending the line before the range realigned,
+        // the one ending the range's last line taken into the range, and with it the white space
+        // after it, which the next line's indentation is part of.
+        QTest::newRow("C: a line inside a macro")
+            << "C" << "Linux kernel[C].style"
+            << QByteArray("#define M(x) \\\n\tdo {\t\\\n  f( x );\t\\\n\t} while (0)\n") << "3:3"
+            << QByteArray("#define M(x) \\\n\tdo {\t\\\n\t\tf(x);\t\\\n\t} while (0)\n");
         QByteArray const cpp = "class  A{\npublic:\nint  f( ){return 1;}\nint  g( );\n};\nint  h( );\n";
         QTest::newRow("C++: a class opened in the range closes outside it")
             << "C++" << "LLVM[C++].style" << cpp << "1:3"
