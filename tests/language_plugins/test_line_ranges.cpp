@@ -96,6 +96,10 @@ private slots:
             << "C" << "Linux kernel[C].style"
             << QByteArray("#define M(x) \\\n\tdo {\t\\\n  f( x );\t\\\n\t} while (0)\n") << "3:3"
             << QByteArray("#define M(x) \\\n\tdo {\t\\\n\t\tf(x);\t\\\n\t} while (0)\n");
+        // Fault: the same when the token that the white space leads to opens its line.
+        QTest::newRow("C: a range of blank lines before a line outside it, at its start")
+            << "C" << "Linux kernel[C].style" << QByteArray("int a;\n\n\nint  b;\n") << "3:3"
+            << QByteArray("int a;\n\n\nint  b;\n");
         QByteArray const cpp = "class  A{\npublic:\nint  f( ){return 1;}\nint  g( );\n};\nint  h( );\n";
         QTest::newRow("C++: a class opened in the range closes outside it")
             << "C++" << "LLVM[C++].style" << cpp << "1:3"
