@@ -40,7 +40,7 @@ std::optional<clang::tooling::Replacement> within_the_lines_of(clang::tooling::R
         if (end < begin || offset > last)
             continue;
         std::size_t const feed = code.find('\n', last);
-        unsigned const after = feed == std::string::npos ? static_cast<unsigned>(code.size()) : static_cast<unsigned>(feed) + 1;
+        unsigned const after = static_cast<unsigned>(feed == std::string::npos ? code.size() : feed + 1);
         unsigned const from = offset < begin && begin > 0 && code[begin - 1] == '\n' ? begin : offset;
         if (end >= after)
             return std::nullopt;  // the token stands on a line after a range of blank lines
