@@ -4,6 +4,7 @@
 #include <clang/Tooling/Core/Replacement.h>
 
 #include <algorithm>
+#include <optional>
 
 namespace tarnel_engine {
 
@@ -18,9 +19,50 @@ bool inside(clang::tooling::Replacement const& replacement, std::vector<clang::t
     });
 }
 
+// The engine replaces the white space before a token as a whole: from the end of the token
+// before, across line breaks (escaped ones too), to the token. Where that white space begins on a
+// line before a range, that line (its trailing blanks, an escaped line break) and the blank lines
+// after it are kept as they are, unless the engine joins the range's first token to it. Where the
+// range is blank lines that end before the token, nothing is changed: the token's line is not the
+// range's, and blank lines taken away would make the line after them a changed line for a later
+// revision of the changed lines (a deletion counts as a change of the line in its place).
+std::optional<clang::tooling::Replacement> within_the_lines_of(clang::tooling::Replacement const& replacement,
+                                                               std::string const& code,
+                                                               std::vector<clang::tooling::Range> const& ranges) {
+    unsigned const offset = replacement.getOffset(), end = offset + replacement.getLength();
+    llvm::StringRef const white(code.data() + offset, replacement.getLength());
+    llvm::StringRef const text = replacement.getReplacementText();
+    std::size_t const new_feeds = text.count('\n');
+    if (white.find_first_not_of(" \t\v\f\r\n\\") != llvm::StringRef::npos)
+        return replacement;  // not white space alone
+    for (clang::tooling::Range const& range : ranges) {
+        unsigned const begin = range.getOffset(), last = begin + range.getLength();
+        if (end < begin || offset > last)
+            continue;
+        std::size_t const feed = code.find('\n', last);
+        unsigned const after = static_cast<unsigned>(feed == std::string::npos ? code.size() : feed + 1);
+        unsigned const from = offset < begin && begin > 0 && code[begin - 1] == '\n' ? begin : offset;
+        if (end >= after)
+            return std::nullopt;  // the token stands on a line after a range of blank lines
+        if (from == offset || new_feeds == 0)
+            return replacement;  // nothing before the range, or a join
+        // The line breaks the engine keeps stand for those before the range first.
+        std::size_t const feeds = llvm::StringRef(code.data() + offset, begin - offset).count('\n');
+        std::size_t cut = 0;
+        for (std::size_t each = 0; each < std::min(feeds, new_feeds); ++each)
+            cut = text.find('\n', cut) + 1;
+        if (feeds > new_feeds)
+            cut = text.rfind('\n') + 1;
+        if (end == begin && cut == text.size())
+            return std::nullopt;
+        return clang::tooling::Replacement(replacement.getFilePath(), begin, end - begin, text.substr(cut));
+    }
+    return replacement;
+}
+
 // With `positions`: only the replacements inside the ranges are applied (the engine also
-// re-indents the lines after a range that it takes to be part of its blocks), and the positions
-// are moved by them.
+// re-indents the lines after a range that it takes to be part of its blocks), within the lines of
+// the ranges, and the positions are moved by them.
 engine_outcome formatted(clang::format::FormatStyle const& style, std::string const& code,
                          std::vector<clang::tooling::Range> const& ranges, std::vector<unsigned>* positions = nullptr) {
     clang::format::FormattingAttemptStatus status;
@@ -29,8 +71,10 @@ engine_outcome formatted(clang::format::FormatStyle const& style, std::string co
         clang::tooling::Replacements kept;
         for (clang::tooling::Replacement const& replacement : replacements)
             if (inside(replacement, ranges))
-                if (llvm::Error error = kept.add(replacement))
-                    llvm::consumeError(std::move(error));
+                if (std::optional<clang::tooling::Replacement> const within =
+                        within_the_lines_of(replacement, code, ranges))
+                    if (llvm::Error error = kept.add(*within))
+                        llvm::consumeError(std::move(error));
         replacements = std::move(kept);
         for (unsigned& position : *positions)
             position = replacements.getShiftedCodePosition(position);

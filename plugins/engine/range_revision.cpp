@@ -57,13 +57,16 @@ unsigned start_of(std::string const& code, unsigned long line) {
 }
 
 // Where the last character of line `line`, or of the last line before it that is not blank,
-// stands; `begin` when there is none from `begin` on. The white space after it belongs to the next
-// line's first token for the engine: a range that reached into it would touch that line too.
+// stands, an escaped line break at its end aside; `begin` when there is none from `begin` on. The
+// white space after it (an escaped line break too) belongs to the next line's first token for the
+// engine: a range that reached into it would touch that line too.
 unsigned last_character_of(std::string const& code, unsigned long line, unsigned begin) {
     std::size_t const feed = code.find('\n', start_of(code, line));
-    std::size_t const end = feed == std::string::npos ? code.size() : feed;
-    std::size_t const last = end == 0 ? std::string::npos : code.find_last_not_of(" \t\r\n\v\f", end - 1);
-    return last == std::string::npos || last < begin ? begin : static_cast<unsigned>(last);
+    std::size_t last = feed == std::string::npos ? code.size() : feed;
+    do
+        last = last == 0 ? std::string::npos : code.find_last_not_of(" \t\r\n\v\f", last - 1);
+    while (last != std::string::npos && last > begin && code[last] == '\\');
+    return last == std::string::npos || last < begin || code[last] == '\\' ? begin : static_cast<unsigned>(last);
 }
 
 // The line (from 1) that holds `offset`.
@@ -72,8 +75,18 @@ unsigned long line_of(std::string const& code, unsigned offset) {
                    std::count(code.begin(), code.begin() + std::min<std::size_t>(offset, code.size()), '\n'));
 }
 
+// Where the first character of the line that begins at `begin` stands that is not a blank, or
+// `begin` on a blank line. The engine replaces the white space before a token as a whole, from the
+// end of the line before: the start of a line moved along with it would land on that line.
+unsigned first_character_at(std::string const& code, unsigned begin) {
+    std::size_t const first = code.find_first_not_of(" \t\v\f", begin);
+    return first == std::string::npos || code[first] == '\n' || code[first] == '\r' ? begin
+                                                                                    : static_cast<unsigned>(first);
+}
+
 // The ranges' lines for the engine: from the start of each first line to the last character of
-// each last, so that no line around is touched; the ends of each also go into `edges`.
+// each last, so that no line around is touched; where each begins and ends goes into `edges`, by
+// characters that the engine's changes of white space move along with their lines.
 std::vector<clang::tooling::Range> characters_of(std::string const& code, std::vector<line_range> const& lines,
                                                  std::vector<unsigned>& edges) {
     std::vector<clang::tooling::Range> characters;
@@ -82,13 +95,15 @@ std::vector<clang::tooling::Range> characters_of(std::string const& code, std::v
         unsigned const begin = start_of(code, range.first);
         unsigned const end = last_character_of(code, range.last, begin);
         characters.emplace_back(begin, end - begin);
-        edges.push_back(begin);
+        edges.push_back(first_character_at(code, begin));
         edges.push_back(end);
     }
     return characters;
 }
 
-// The lines that the edges, moved into the formatted text, enclose.
+// The lines that the edges, moved into the formatted text, enclose. A range's first token that
+// the engine joined to the end of a line before takes that line into the range: revised again,
+// it is revised whole, as a later revision of the changed lines would revise it.
 std::vector<line_range> lines_at(std::string const& code, std::vector<unsigned> const& edges) {
     std::vector<line_range> lines;
     for (std::size_t each = 0; each + 1 < edges.size(); each += 2)

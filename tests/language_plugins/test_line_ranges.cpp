@@ -59,6 +59,47 @@ private slots:
         QTest::newRow("C: two ranges, the second a whole function")
             << "C" << "GNU[C].style" << c << "3:3,7:9"
             << QByteArray("int  a( int x ){\nif(x){\n    return 1;\n}\n  return  0 ;\n}\nint\nb (int x)\n{\n  return 1;\n}\n");
+        // Fault: the start of a re-indented range, moved along with the engine's change of the white
+        // space before it, taken for the line before, which the next round of the stability check
+        // then revises too, and so on back to the first line.
+        QTest::newRow("C++: directives before a re-indented directive")
+            << "C++" << "LLVM[C++].style" << QByteArray("#if  defined(A)\n   #include <a.h>\n   #define  X  1\n#endif\n")
+            << "3:3" << QByteArray("#if  defined(A)\n   #include <a.h>\n#define X 1\n#endif\n");
+        // Fault: the engine's change of the white space before the range's first token, which
+        // begins at the end of the line before, taking that line's trailing blanks along.
+        QTest::newRow("C: trailing blanks of the line before the range")
+            << "C" << "Linux kernel[C].style" << QByteArray("int  a;  \n   int  b;\n") << "2:2"
+            << QByteArray("int  a;  \nint b;\n");
+        // Fault: the same change taking along the blank line before a block's closing brace.
+        QTest::newRow("C: a blank line before a closing brace in the range")
+            << "C" << "Linux kernel[C].style" << QByteArray("void f(void)\n{\n\tg();\n\n}\n") << "5:5"
+            << QByteArray("void f(void)\n{\n\tg();\n\n}\n");
+        // Fault: blank lines before the range, beyond those the style keeps, taken out with the
+        // range's own.
+        QTest::newRow("C: blank lines before the range")
+            << "C" << "Linux kernel[C].style" << QByteArray("int a;\n\n\n\n   int  b;\n") << "4:5"
+            << QByteArray("int a;\n\n\nint b;\n");
+        // Fault: a blank line of the range that the style keeps taken out with the trailing blanks
+        // kept before it.
+        QTest::newRow("C: a blank line opening the range")
+            << "C" << "Linux kernel[C].style" << QByteArray("int a;  \n\n   int  b;\n") << "2:3"
+            << QByteArray("int a;  \n\nint b;\n");
+        // Fault: a range of blank lines taking along the line after it, which the white space
+        // before its first token reaches: blank lines taken out, that line re-indented.
+        QTest::newRow("C: a range of blank lines before a line outside it")
+            << "C" << "Linux kernel[C].style" << QByteArray("int a;\n\n\n\n   int  b;\n") << "2:3"
+            << QByteArray("int a;\n\n\n\n   int  b;\n");
+        // Fault: a macro's escaped line breaks: the one ending the line before the range realigned,
+        // the one ending the range's last line taken into the range, and with it the white space
+        // after it, which the next line's indentation is part of.
+        QTest::newRow("C: a line inside a macro")
+            << "C" << "Linux kernel[C].style"
+            << QByteArray("#define M(x) \\\n\tdo {\t\\\n  f( x );\t\\\n\t} while (0)\n") << "3:3"
+            << QByteArray("#define M(x) \\\n\tdo {\t\\\n\t\tf(x);\t\\\n\t} while (0)\n");
+        // Fault: the same when the token that the white space leads to opens its line.
+        QTest::newRow("C: a range of blank lines before a line outside it, at its start")
+            << "C" << "Linux kernel[C].style" << QByteArray("int a;\n\n\nint  b;\n") << "3:3"
+            << QByteArray("int a;\n\n\nint  b;\n");
         QByteArray const cpp = "class  A{\npublic:\nint  f( ){return 1;}\nint  g( );\n};\nint  h( );\n";
         QTest::newRow("C++: a class opened in the range closes outside it")
             << "C++" << "LLVM[C++].style" << cpp << "1:3"
