@@ -38,8 +38,10 @@ QString path_to::user_addons_directory() const {
 }
 
 QString path_to::addons_directory_for_new() const {
+    // A bundle without its styles directory is a broken installation, which the front ends report
+    // as such; one whose directory the user cannot write is the system's.
     QString const bundled = addons_directory();
-    return directory_is_writable(bundled) ? bundled : user_addons_directory();
+    return !QFileInfo(bundled).isDir() || directory_is_writable(bundled) ? bundled : user_addons_directory();
 }
 
 bool directory_is_writable(QString const& directory) {

@@ -17,8 +17,8 @@ public:
     QString user_languages_n_styles_directory() const;
     QString user_plugins_directory() const;
     QString user_addons_directory() const;
-    // The directory that new and changed addons go to: the bundle's while the user can write it,
-    // the user's own otherwise.
+    // The directory that new and changed addons go to: the bundle's while the user can write it
+    // (or while it is missing: a broken bundle), the user's own otherwise.
     QString addons_directory_for_new() const;
 };
 

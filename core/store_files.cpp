@@ -35,8 +35,10 @@ QString unused_temporary_name_in(QString const& directory, QString const& file_n
 }  // namespace
 
 QString new_addons_directory::path() {
+    // The user's directory is made when first needed; the bundle's never is.
     QString const directory = path_to().addons_directory_for_new();
-    QDir().mkpath(directory);
+    if (directory == path_to().user_addons_directory())
+        QDir().mkpath(directory);
     return directory;
 }
 
