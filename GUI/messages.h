@@ -29,6 +29,8 @@ constexpr char such_style_already_exists[] = "Such style already exists";
 // Critical alerts about the bundle's directories.
 constexpr char plugins_directory_is_wrong[] = "Something wrong with internal plugins directory";
 constexpr char addons_directory_is_wrong[] = "Something wrong with internal addons directory";
+constexpr char cannot_delete_installed_style[] =
+    "This style is installed with Style Tarnel and cannot be deleted. Rename or edit it to make a copy of your own.";
 constexpr char please_make_sure_this_directory[] = "Please make sure this directory\n";
 constexpr char exists_and_you_can_write_in_it[] = "\nexists and you can write in it.";
 

@@ -1,6 +1,7 @@
 #include "GUI/select_formatting_style.h"
 
 #include "GUI/bundle_directory_alert.h"
+#include "GUI/critical_alert.h"
 #include "GUI/top_window.h"
 #include "GUI/invitation.h"
 #include "GUI/list_of_styles_itself.h"
@@ -11,6 +12,7 @@
 #include "core/kernel.h"
 #include "core/path_to.h"
 #include "core/settings_keys.h"
+#include "core/store_files.h"
 #include "core/style_addon.h"
 
 #include <QAction>
@@ -98,11 +100,13 @@ public:
         select_first_from(list, imported);
     }
 
+    // The directory that imported and changed styles go to: the bundle's, or the user's own
+    // where the bundle cannot be written.
     bool addons_directory_is_usable() const {
-        if (this_directory_is_usable(path_to().addons_directory()))
+        QString const directory = new_addons_directory::path();
+        if (this_directory_is_usable(directory))
             return true;
-        show_report_about_problems_with(path_to().addons_directory(), text::addons_directory_is_wrong,
-                                        main_window);
+        show_report_about_problems_with(directory, text::addons_directory_is_wrong, main_window);
         return false;
     }
 
@@ -282,6 +286,10 @@ void select_formatting_style::delete_style() {
     QString const style = pimpl->selected_style();
     if (style.isEmpty())
         return;
+    if (kernel().style_is_read_only(style.toStdString(), pimpl->current_language().toStdString())) {
+        show_critical_alert(tr(text::cannot_delete_installed_style), QString(), pimpl->main_window);
+        return;
+    }
     if (!pimpl->addons_directory_is_usable())
         return;
     kernel().delete_style_by(style.toStdString(), pimpl->current_language().toStdString());

@@ -90,6 +90,10 @@ std::string only_style_of_language(std::string const& style, std::string const& 
            language + "', and after that you'll be able to " + "delete style '" + style + "'.";
 }
 std::string cannot_delete_style(std::string const& style) { return "I cannot delete style '" + style + "'."; }
+std::string cannot_delete_installed_style(std::string const& style) {
+    return "I cannot delete style '" + style +
+           "', it is installed with Style Tarnel. Rename or edit it to make a copy of your own.";
+}
 std::string no_such_language_to_delete(std::string const& language) {
     return "There is no language '" + language + "', so I cannot delete it.";
 }
@@ -103,6 +107,11 @@ std::string cannot_delete_language(std::string const& language) {
 }
 
 std::string cannot_apply_update(std::string const& path) { return "I cannot apply update '" + path + "'."; }
+std::string cannot_update_installation(std::string const& path) {
+    return "I cannot apply update '" + path + "', " + product::title +
+           " is installed where you cannot change it: please update it with the package manager that installed "
+           "it (apt, for the Debian package).";
+}
 std::string not_an_executable_of_ours(std::string const& path) {
     return "I cannot apply update '" + path + "', it is not an executable of " + product::title +
            ": it must answer '-v' with '" + product::version_line_lead() + "' and its version.";

@@ -52,11 +52,13 @@ std::string invalid_extension_of_file(std::string const& path);
 std::string no_such_style_to_delete(std::string const& style, std::string const& language);
 std::string only_style_of_language(std::string const& style, std::string const& language);
 std::string cannot_delete_style(std::string const& style);
+std::string cannot_delete_installed_style(std::string const& style);
 std::string no_such_language_to_delete(std::string const& language);
 std::string only_language(std::string const& language);
 std::string cannot_delete_language(std::string const& language);
 
 std::string cannot_apply_update(std::string const& path);
+std::string cannot_update_installation(std::string const& path);
 std::string not_an_executable_of_ours(std::string const& path);
 
 std::string standard_input_with_other_paths();

@@ -72,6 +72,10 @@ int delete_style(std::string const& style, std::string const& language) {
         say(message::only_style_of_language(style, language));
         return 1;
     }
+    if (kernel().style_is_read_only(style, language)) {
+        say(message::cannot_delete_installed_style(style));
+        return 1;
+    }
     if (!kernel().delete_style_by(style, language)) {
         say(message::cannot_delete_style(style));
         return 1;
@@ -235,6 +239,9 @@ int result_of_run::update_app_based_on(argument_list const& arguments) const {
         return 1;
     case update_outcome::not_applied:
         say(message::cannot_apply_update(path));
+        return 1;
+    case update_outcome::installation_read_only:
+        say(message::cannot_update_installation(path));
         return 1;
     }
     done();

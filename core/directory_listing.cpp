@@ -19,6 +19,14 @@ std::vector<std::string> list_of_names_of_plugins() {
     return plain_files_in(path_to().plugins_directory());
 }
 
-std::vector<std::string> list_of_names_of_addons() {
-    return plain_files_in(path_to().addons_directory());
+std::vector<std::string> list_of_addon_files() {
+    std::vector<std::string> files;
+    QStringList directories{path_to().user_addons_directory(), path_to().addons_directory()};
+    directories.removeDuplicates();
+    for (QString const& directory : directories) {
+        QString const absolute = QDir(directory).absolutePath();
+        for (auto const& name : plain_files_in(directory))
+            files.push_back((absolute + QDir::separator()).toStdString() + name);
+    }
+    return files;
 }

@@ -1,13 +1,15 @@
-// The file names (not paths) of the plain files in the plugins and addons directories, without
-// subdirectories and hidden files, sorted by name ignoring case. A missing directory lists as
-// empty. Every file counts: nothing is filtered by extension here.
+// The plain files in the plugins and addons directories, without subdirectories and hidden files,
+// sorted by name ignoring case. A missing directory lists as empty. Every file counts: nothing is
+// filtered by extension here.
 #ifndef STYLE_TARNEL_CORE_DIRECTORY_LISTING_H
 #define STYLE_TARNEL_CORE_DIRECTORY_LISTING_H
 
 #include <string>
 #include <vector>
 
+// File names (not paths) in the bundle's plugins directory.
 std::vector<std::string> list_of_names_of_plugins();
-std::vector<std::string> list_of_names_of_addons();
+// Absolute paths: the user's own addons directory first, then the bundle's.
+std::vector<std::string> list_of_addon_files();
 
 #endif

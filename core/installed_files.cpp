@@ -10,13 +10,18 @@
 #include <QPluginLoader>
 #include <QStandardPaths>
 
+#include <set>
+#include <utility>
+
 namespace {
 
 using addon_wish = std::function<bool(std::string const& file_name, style_description const& description)>;
 
 addons_pass walk_addons(addon_wish const& is_wanted, stray_files stray) {
-    for (auto const& file_name : list_of_names_of_addons()) {
-        auto const text = addon_text_of(file_name);
+    // A style of the user's own hides the bundle's style of the same name and language.
+    std::set<std::pair<std::string, std::string>> seen;
+    for (auto const& file : list_of_addon_files()) {
+        auto const text = addon_text_of(file);
         style_description const description = obtain_style_description().from_text(text ? *text : std::string());
         if (description.is_empty()) {
             if (stray == stray_files::are_passed_over ||
@@ -24,7 +29,9 @@ addons_pass walk_addons(addon_wish const& is_wanted, stray_files stray) {
                 continue;
             return addons_pass::broken;
         }
-        if (is_wanted(file_name, description))
+        if (!seen.insert({description.style, description.language}).second)
+            continue;
+        if (is_wanted(file, description))
             return addons_pass::found;
     }
     return addons_pass::exhausted;
@@ -33,7 +40,10 @@ addons_pass walk_addons(addon_wish const& is_wanted, stray_files stray) {
 }  // namespace
 
 QString path_of_plugin(std::string const& file_name) {
-    return path_to().plugins_directory() + QDir::separator() + QString::fromStdString(file_name);
+    QString const path = QString::fromStdString(file_name);
+    if (QFileInfo(path).isAbsolute())
+        return path;
+    return path_to().plugins_directory() + QDir::separator() + path;
 }
 
 describe_plugins plugin_describer() {

@@ -16,7 +16,8 @@
 #include <string>
 #include <vector>
 
-// The full path of the plugins directory's file of that name.
+// The path itself when absolute; otherwise the full path of the plugins directory's file of that
+// name.
 QString path_of_plugin(std::string const& file_name);
 
 // What plugins say of themselves, kept in the user's cache directory.
@@ -37,10 +38,12 @@ bool with_plugin_of(std::string const& language,
 
 enum class addons_pass { exhausted, found, broken };
 
-// Calls `is_wanted` with each addon file's name and its description until it returns true
-// (found). A description with an empty style or language stops the pass at once (broken).
+// Calls `is_wanted` with each addon's file (an absolute path; the user's addons first, then the
+// bundle's, a bundled style that the user has one of the same name and language of passed over)
+// and its description until it returns true (found). A description with an empty style or
+// language stops the pass at once (broken).
 addons_pass first_addon_where(
-    std::function<bool(std::string const& file_name, style_description const& description)> const&
+    std::function<bool(std::string const& file, style_description const& description)> const&
         is_wanted);
 
 // What a search for one addon does with a file that is no addon: the operations that change an
@@ -48,14 +51,14 @@ addons_pass first_addon_where(
 // deleting a style passes over a file it can read but stops at one it cannot.
 enum class stray_files { stop_the_search, are_passed_over, are_passed_over_if_readable };
 
-// The first addon of that style and language: `file_name` gets its file name when found.
+// The first addon of that style and language: `file` gets its absolute path when found.
 addons_pass addon_of(std::string const& style, std::string const& language,
-                     std::string& file_name, stray_files stray = stray_files::stop_the_search);
+                     std::string& file, stray_files stray = stray_files::stop_the_search);
 
-// Runs `use` with the file name of the addon of that style and language and returns its result.
+// Runs `use` with the file (absolute path) of the addon of that style and language and returns its result.
 // A broken addons directory gives false; a style that is not installed gives true, as there is
 // nothing to do.
 bool with_addon_of(std::string const& style, std::string const& language,
-                   std::function<bool(std::string const& file_name)> const& use);
+                   std::function<bool(std::string const& file)> const& use);
 
 #endif

@@ -39,6 +39,9 @@ enum class update_outcome {
     not_an_executable_of_ours,
     // It could not be read, copied or put in place; the installation is as it was.
     not_applied,
+    // The user cannot write where the executable lies (a package installed by the system's
+    // package manager, which updates it); nothing was read.
+    installation_read_only,
 };
 
 // What became of a text revised in memory.
@@ -75,6 +78,9 @@ public:
     // Deleting and renaming.
     bool delete_language_by(std::string const& language) const;
     bool delete_style_by(std::string const& style, std::string const& language) const;
+    // Whether the style's addon lies where the user cannot change it (a bundle installed by the
+    // package manager): it cannot be deleted; renaming or editing it makes the user's own copy.
+    bool style_is_read_only(std::string const& style, std::string const& language) const;
     bool rename_style(std::string const& style, std::string const& language,
                       std::string const& new_name) const;
 

@@ -8,19 +8,31 @@
 #include "core/style_addon.h"
 #include "core/style_addon_editing.h"
 
+#include <QFileInfo>
+
 namespace {
 
-// Removes every addon of the language; false when one of them stays, or the addons directory
-// holds a file that is no addon (the pass then stops there).
+// Removes every addon of the language, the user's and the bundle's (a pass sees a bundled style
+// only once the user's of the same name is gone, so passes repeat while they remove something);
+// false when one of them stays, or the addons directory holds a file that is no addon (the pass
+// then stops there).
 bool remove_addons_of(std::string const& language) {
     bool removed = true;
-    addons_pass const pass = first_addon_where([&](std::string const& file_name,
-                                                   style_description const& d) {
-        if (d.language == language && !detail::remove::from<addons_directory>(file_name))
-            removed = false;
-        return false;
-    });
-    return removed && pass != addons_pass::broken;
+    for (bool again = true; again && removed;) {
+        again = false;
+        addons_pass const pass = first_addon_where([&](std::string const& file, style_description const& d) {
+            if (d.language != language)
+                return false;
+            if (remove_addon_at(file))
+                again = true;
+            else
+                removed = false;
+            return false;
+        });
+        if (pass == addons_pass::broken)
+            return false;
+    }
+    return removed;
 }
 
 }  // namespace
@@ -50,7 +62,13 @@ bool kernel::delete_style_by(std::string const& style, std::string const& langua
     case addons_pass::found:
         break;
     }
-    return detail::remove::from<addons_directory>(file_name);
+    return remove_addon_at(file_name);
+}
+
+bool kernel::style_is_read_only(std::string const& style, std::string const& language) const {
+    std::string file;
+    return addon_of(style, language, file, stray_files::are_passed_over) == addons_pass::found &&
+           !directory_is_writable(QFileInfo(path_of_addon(file)).absolutePath());
 }
 
 bool kernel::rename_style(std::string const& style, std::string const& language,
@@ -58,9 +76,6 @@ bool kernel::rename_style(std::string const& style, std::string const& language,
     // A new file name that would leave the addons directory changes nothing at all.
     if (!is_plain_file_name(addon_file_name_for(new_name, language)))
         return false;
-    return with_addon_of(style, language, [&](std::string const& file_name) {
-        bool const renamed_inside = rename_this_style(file_name, style).to(new_name);
-        bool const file_renamed = rename_this_addon_file(file_name).based_on(new_name, language);
-        return renamed_inside && file_renamed;
-    });
+    return with_addon_of(style, language,
+                         [&](std::string const& file) { return rename_this_style(file, style).to(new_name, language); });
 }

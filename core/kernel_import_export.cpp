@@ -18,7 +18,7 @@ QString from_utf8(std::string const& text) { return QString::fromStdString(text)
 
 // Copies an addon into the addons directory; the copy must still describe the same style.
 bool store_addon(std::string const& path, style_description const& description) {
-    return store::in<addons_directory>(from_utf8(path), [&](QString const& copy) {
+    return store::in<new_addons_directory>(from_utf8(path), [&](QString const& copy) {
         return obtain_style_description().from(copy.toStdString()) == description;
     });
 }

@@ -45,7 +45,7 @@ bool install(std::string const& addon, std::string const& style, std::string con
     QString const path = directory.filePath(QString::fromStdString(addon_file_name_for(style, language)));
     if (!write_to(path).from(addon))
         return false;
-    return store::in<addons_directory>(path, [&](QString const& copy) {
+    return store::in<new_addons_directory>(path, [&](QString const& copy) {
         return obtain_style_description().from(copy.toStdString()) == style_description{style, language};
     });
 }

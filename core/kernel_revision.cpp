@@ -31,13 +31,14 @@ std::string plugin_file_for(std::string const& language) {
     return plugin ? plugin->file_name : language;
 }
 
-// The addon file whose inside names the task's style and language. None found: the name such an
-// addon would have, so the run says which addon it missed.
-std::string addon_file_for(std::string const& style, std::string const& language) {
-    std::string file_name;
-    if (addon_of(style, language, file_name, stray_files::are_passed_over) == addons_pass::found)
-        return file_name;
-    return addon_file_name_for(style, language);
+// The addon file whose inside names the task's style and language, as an absolute path (the user's
+// own addons come first). None found: the name such an addon would have in the bundle, so the run
+// says which addon it missed.
+QString addon_file_for(std::string const& style, std::string const& language) {
+    std::string file;
+    if (addon_of(style, language, file, stray_files::are_passed_over) == addons_pass::found)
+        return path_of_addon(file);
+    return path_of_addon(addon_file_name_for(style, language));
 }
 
 revision_request request_for(revision_task const& task) {
@@ -46,8 +47,9 @@ revision_request request_for(revision_task const& task) {
     request.style = QString::fromStdString(task.style);
     request.plugins_directory = path_to().plugins_directory();
     request.plugin_file = plugin_file_for(task.language);
-    request.addons_directory = path_to().addons_directory();
-    request.addon_file = addon_file_for(task.style, task.language);
+    QFileInfo const addon(addon_file_for(task.style, task.language));
+    request.addons_directory = addon.absolutePath();
+    request.addon_file = addon.fileName().toStdString();
     if (!task.addon_path.isEmpty()) {
         // An addon file of the user's own: its names are those the records keep.
         style_description const description = obtain_style_description().from_raw(task.addon_path);

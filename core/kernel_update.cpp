@@ -4,6 +4,8 @@
 // line; only that very copy is then put in place.
 #include "core/kernel.h"
 
+#include "core/path_to.h"
+
 #include "core/product.h"
 
 #include <QCoreApplication>
@@ -65,6 +67,8 @@ update_outcome kernel::update_with(std::string const& path_to_new_executable) co
     // The running executable as its own update would only replace itself by itself.
     if (QFileInfo(candidate).canonicalFilePath() == QFileInfo(current).canonicalFilePath())
         return update_outcome::not_applied;
+    if (!directory_is_writable(QFileInfo(current).absolutePath()))
+        return update_outcome::installation_read_only;
     QFile source(candidate);
     if (!source.open(QIODevice::ReadOnly))
         return update_outcome::not_applied;

@@ -34,6 +34,28 @@ QString unused_temporary_name_in(QString const& directory, QString const& file_n
 
 }  // namespace
 
+QString new_addons_directory::path() {
+    // The user's directory is made when first needed; the bundle's never is.
+    QString const directory = path_to().addons_directory_for_new();
+    if (directory == path_to().user_addons_directory())
+        QDir().mkpath(directory);
+    return directory;
+}
+
+QString where_to_write_addon(QString const& path) {
+    QFileInfo const addon(path);
+    if (directory_is_writable(addon.absolutePath()))
+        return path;
+    QString const directory = path_to().user_addons_directory();
+    QDir().mkpath(directory);
+    return directory + QDir::separator() + addon.fileName();
+}
+
+bool remove_addon_at(std::string const& file) {
+    QFileInfo const addon(QString::fromStdString(file));
+    return detail::remove_from(addon.absolutePath(), addon.fileName().toStdString());
+}
+
 bool is_plain_file_name(std::string const& name) {
     return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos &&
            name.find(QDir::separator().toLatin1()) == std::string::npos &&
@@ -59,7 +81,7 @@ bool store_in(QString const& directory, QString const& source, check_of_copy con
         return false;
     QFile::setPermissions(temporary, QFile::permissions(source));
 
-    bool const stored = (!check || check(temporary_name)) &&
+    bool const stored = (!check || check(QFileInfo(temporary).absoluteFilePath())) &&
                         std::rename(QFile::encodeName(temporary).constData(),
                                     QFile::encodeName(destination).constData()) == 0;
     if (!stored)

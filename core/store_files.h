@@ -18,15 +18,29 @@ struct plugins_directory {
 struct addons_directory {
     static QString path() { return path_to().addons_directory(); }
 };
+// Where new and changed addons go: the bundle's addons directory while the user can write it,
+// the user's own (created when needed) otherwise.
+struct new_addons_directory {
+    static QString path();
+};
+
+// Where a changed addon at `path` is written: the path itself when the user can write its
+// directory; otherwise the file of the same name in the user's addons directory (created when
+// needed), which then hides the original.
+QString where_to_write_addon(QString const& path);
+
+// Removes the addon file that a listing of the addons directories gave (an absolute path); false
+// when it is not removed.
+bool remove_addon_at(std::string const& file);
 
 // Whether `name` can only name a file inside a directory: not empty, no directory separator, no
 // NUL byte, and neither "." nor "..". Names read from addons and reported by plugins are checked
 // with this before a path is built from them.
 bool is_plain_file_name(std::string const& name);
 
-// What a copy must pass before it replaces anything: gets the temporary copy's bare file name
-// (it lies in the target directory).
-using check_of_copy = std::function<bool(QString const& temporary_file_name)>;
+// What a copy must pass before it replaces anything: gets the temporary copy's absolute path (it
+// lies in the target directory).
+using check_of_copy = std::function<bool(QString const& temporary_file)>;
 
 namespace detail {
 

@@ -23,8 +23,11 @@ std::string addon_text_at(QString const& path) {
 
 }  // namespace
 
-QString path_of_addon(std::string const& file_name) {
-    return path_to().addons_directory() + QDir::separator() + QString::fromStdString(file_name);
+QString path_of_addon(std::string const& file) {
+    QString const path = QString::fromStdString(file);
+    if (QFileInfo(path).isAbsolute())
+        return path;
+    return path_to().addons_directory() + QDir::separator() + path;
 }
 
 boost::optional<std::string> addon_text_of(std::string const& file_name) {

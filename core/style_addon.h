@@ -56,11 +56,12 @@ private:
     std::string structure;
 };
 
-// The text of the addon of that file name in the addons directory, NUL bytes dropped; absent
-// when the file cannot be read.
-boost::optional<std::string> addon_text_of(std::string const& file_name);
-// The full path of the addons directory's file of that name.
-QString path_of_addon(std::string const& file_name);
+// The text of the addon at that path (or of that file name in the bundle's addons directory),
+// NUL bytes dropped; absent when the file cannot be read.
+boost::optional<std::string> addon_text_of(std::string const& file);
+// The path itself when absolute; otherwise the full path of the bundle's addons directory's file
+// of that name.
+QString path_of_addon(std::string const& file);
 
 // The pattern that style names (and task tab names) must match in full.
 std::string style_name_validator();

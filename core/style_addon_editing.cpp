@@ -5,6 +5,7 @@
 #include "engine/write_to.h"
 #include "style_addon_forms.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -21,7 +22,7 @@ bool update_this::by(std::string const& form) const {
     std::size_t const begin = at + section.size();
     std::size_t const end = text->find(EOL + "S_END", begin);
     text->replace(begin, end == std::string::npos ? std::string::npos : end - begin, form);
-    return write_to(path_of_addon(file_name)).from(*text);
+    return write_to(where_to_write_addon(path_of_addon(file_name))).from(*text);
 }
 
 std::string addon_text_renamed(std::string text, std::string const& old_name, std::string const& new_name) {
@@ -32,23 +33,29 @@ std::string addon_text_renamed(std::string text, std::string const& old_name, st
     return text.replace(at, old_header.size(), "NAME=" + new_name);
 }
 
-bool rename_this_style::to(std::string const& new_name) const {
-    auto const text = addon_text_of(file_name);
-    if (!text)
-        return false;
-    std::string const renamed = addon_text_renamed(*text, old_name, new_name);
-    return !renamed.empty() && write_to(path_of_addon(file_name)).from(renamed);
-}
-
-bool rename_this_addon_file::based_on(std::string const& new_name,
-                                      std::string const& language) const {
+bool rename_this_style::to(std::string const& new_name, std::string const& language) const {
     std::string const new_file_name = addon_file_name_for(new_name, language);
     // The names come from the user and from inside the addon: they must not lead out of the
     // addons directory.
-    if (!is_plain_file_name(file_name) || !is_plain_file_name(new_file_name))
+    if (!is_plain_file_name(new_file_name))
         return false;
-    if (new_file_name == file_name)
-        return QFileInfo(path_of_addon(file_name)).exists();
-    // Refuses to replace a file of the new name.
-    return QFile::rename(path_of_addon(file_name), path_of_addon(new_file_name));
+    auto const text = addon_text_of(file);
+    if (!text)
+        return false;
+    std::string const renamed = addon_text_renamed(*text, old_name, new_name);
+    if (renamed.empty())
+        return false;
+    QString const old_path = path_of_addon(file);
+    QString const written = where_to_write_addon(old_path);
+    QString const new_path = QFileInfo(written).absolutePath() + QDir::separator() + QString::fromStdString(new_file_name);
+    // Refuses to replace another file of the new name.
+    if (QFileInfo(new_path).absoluteFilePath() != QFileInfo(old_path).absoluteFilePath() &&
+        (QFileInfo::exists(new_path) || QFileInfo(new_path).isSymLink()))
+        return false;
+    if (!write_to(new_path).from(renamed))
+        return false;
+    // The old file goes where it could be written; a bundled one stays, hidden by no copy.
+    if (written == old_path && QFileInfo(new_path).absoluteFilePath() != QFileInfo(old_path).absoluteFilePath())
+        return QFile::remove(old_path);
+    return true;
 }

@@ -1,5 +1,6 @@
-// Changing an installed style addon in place: one structure's form, the style's name inside the
-// addon, the addon's file name. All work in the addons directory and report by result.
+// Changing an installed style addon: one structure's form, the style's name inside the addon and
+// in its file name. An addon the user cannot write (a bundle installed by the package manager) is
+// changed in a copy of the user's own, which then hides it. All report by result.
 #ifndef STYLE_TARNEL_CORE_STYLE_ADDON_EDITING_H
 #define STYLE_TARNEL_CORE_STYLE_ADDON_EDITING_H
 
@@ -22,26 +23,18 @@ private:
 // has none.
 std::string addon_text_renamed(std::string text, std::string const& old_name, std::string const& new_name);
 
-// Replaces the first "NAME=<old name>" inside the addon by "NAME=<new name>".
+// Gives the style a new name: inside the addon ("NAME=<new name>" for its first "NAME=<old name>")
+// and in its file name ("<new name>[<language>].style"). An addon in a directory the user cannot
+// write (a bundle installed by the package manager) stays as it is: the renamed copy goes to the
+// user's addons directory. Fails, changing nothing, when a file of the new name exists there.
 class rename_this_style {
 public:
-    rename_this_style(std::string file_name, std::string old_name)
-        : file_name(std::move(file_name)), old_name(std::move(old_name)) {}
-    bool to(std::string const& new_name) const;
+    rename_this_style(std::string file, std::string old_name) : file(std::move(file)), old_name(std::move(old_name)) {}
+    bool to(std::string const& new_name, std::string const& language) const;
 
 private:
-    std::string file_name;
+    std::string file;
     std::string old_name;
-};
-
-// Renames the addon file to "<new name>[<language>].style"; fails when that file exists.
-class rename_this_addon_file {
-public:
-    explicit rename_this_addon_file(std::string file_name) : file_name(std::move(file_name)) {}
-    bool based_on(std::string const& new_name, std::string const& language) const;
-
-private:
-    std::string file_name;
 };
 
 #endif

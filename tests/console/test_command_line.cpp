@@ -14,9 +14,12 @@ QByteArray const U = " Please run app with '-h' flag to see usage info.\n";
 QByteArray const done = "It's done.\n";
 QByteArray const version = "Style Tarnel, version 2.0.0\n";
 
+// The installed plugins | addons, and " | user: " and the user's own addons when there are some.
 QString store_of(temporary_bundle const& bundle) {
+    QStringList const own = QDir(bundle.user_addons_directory()).entryList(QDir::Files, QDir::Name);
     return QDir(bundle.plugins_directory()).entryList(QDir::Files, QDir::Name).join(' ') + " | " +
-           QDir(bundle.addons_directory()).entryList(QDir::Files, QDir::Name).join(' ');
+           QDir(bundle.addons_directory()).entryList(QDir::Files, QDir::Name).join(' ') +
+           (own.isEmpty() ? QString() : " | user: " + own.join(' '));
 }
 
 void open_to_others(QString const& path) {
@@ -107,6 +110,7 @@ private slots:
     void refuses_an_update_it_cannot_apply();
     void refuses_an_update_that_is_no_executable_of_ours_data();
     void refuses_an_update_that_is_no_executable_of_ours();
+    void a_style_of_the_users_own_hides_the_bundled_one();
 };
 
 // The rows come from answers.txt, where every message can be read word for word.
@@ -209,11 +213,15 @@ void test_command_line::refuses_an_update_it_cannot_apply() {
     QString const bin = bundle.root() + "/bin";
     COMPARE_RUN(bundle.run({"--update=nothing"}), "No such file '" + bundle.work_directory().toUtf8() + "/nothing'." + U,
                 "", 1);
-    // A directory without write permission: the executable cannot be moved aside.
+    // A directory without write permission, as a package manager installs one: the executable
+    // cannot be moved aside, and the package manager is the way to update it.
     QString const update = bundle.work_directory() + "/Style Tarnel";
     QVERIFY(QFile::copy(built::executable(), update));
     QFile::setPermissions(update, QFile::permissions(update) | QFile::WriteOther);
-    COMPARE_RUN(bundle.run({"--update=Style Tarnel"}, as_nobody()), "I cannot apply update '" + update.toUtf8() + "'.\n",
+    COMPARE_RUN(bundle.run({"--update=Style Tarnel"}, as_nobody()),
+                "I cannot apply update '" + update.toUtf8() +
+                    "', Style Tarnel is installed where you cannot change it: please update it with the package "
+                    "manager that installed it (apt, for the Debian package).\n",
                 "", 1);
     QCOMPARE(QDir(bin).entryList(QDir::Files), QStringList{"Style Tarnel"});
     // The running executable as its own update: moved aside, it must return to its place.
@@ -251,6 +259,46 @@ void test_command_line::refuses_an_update_that_is_no_executable_of_ours() {
     QCOMPARE(QDir(bundle.root() + "/bin").entryList(QDir::Files | QDir::Hidden), QStringList{"Style Tarnel"});
     QCOMPARE(temporary_bundle::contents_of(bundle.executable()), original);
     COMPARE_RUN(bundle.run({"-v"}), version, "", 0);
+}
+
+// In a bundle the user cannot write (a package installed by root), the user's own styles go to
+// the user's directory and hide the bundle's of the same name and language; deleting the user's
+// copy shows the bundle's again, which itself is never deleted or written. Faults caught: the
+// bundle's style used in spite of the user's, listed twice, the user's copy not deletable, or a
+// bundled file changed.
+void test_command_line::a_style_of_the_users_own_hides_the_bundled_one() {
+    installed_bundle bundle;
+    QString const own_plain = addon_text("Plain", "Test", "begin  SOME  end");
+    bundle.write_file("mine/Plain[Test].style", own_plain.toUtf8());
+    bundle.share_with_unprivileged_user();
+    for (auto const& name : {"/mine", "/mine/Plain[Test].style"})
+        open_to_others(bundle.work_directory() + name);
+    QString const bundled = store_of(bundle);
+    QByteArray const bundled_plain = bundle.contents_of(bundle.addons_directory() + "/Plain[Test].style");
+    QDir(bundle.work_directory()).mkpath("out");
+    QFile::setPermissions(bundle.work_directory() + "/out", QFile::Permissions(0x7777));
+    auto exported_plain = [&]() -> QByteArray {
+        QFile::remove(bundle.work_directory() + "/out/Plain[Test].style");
+        if (bundle.run({"-l=Test", "-s=Plain", "--export=out"}, as_nobody()).status != 0)
+            return "no export";
+        return bundle.contents_of(bundle.work_directory() + "/out/Plain[Test].style");
+    };
+
+    COMPARE_RUN(bundle.run({"--import=mine/Plain[Test].style"}, as_nobody()), done, "", 0);
+    QCOMPARE(store_of(bundle), bundled + " | user: Plain[Test].style");
+    QCOMPARE(exported_plain(), own_plain.toUtf8());
+    run_result const listing = bundle.run({"--ls"}, as_nobody());
+    QCOMPARE(listing.err.count("Plain"), 2);  // one of Test, one of Other
+
+    COMPARE_RUN(bundle.run({"-l=Test", "-s=Plain", "--delete"}, as_nobody()), done, "", 0);
+    QCOMPARE(store_of(bundle), bundled);
+    QCOMPARE(exported_plain(), bundled_plain);
+    COMPARE_RUN(bundle.run({"-l=Test", "-s=Plain", "--delete"}, as_nobody()),
+                "I cannot delete style 'Plain', it is installed with Style Tarnel. Rename or edit it to make a copy "
+                "of your own.\n",
+                "", 1);
+    QCOMPARE(store_of(bundle), bundled);
+    QCOMPARE(bundle.contents_of(bundle.addons_directory() + "/Plain[Test].style"), bundled_plain);
 }
 
 QTEST_GUILESS_MAIN(test_command_line)

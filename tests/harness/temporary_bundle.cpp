@@ -19,7 +19,7 @@ temporary_bundle::temporary_bundle(QString const& executable_to_copy)
     if (!directory.isValid())
         return;
     QDir root_dir(directory.path());
-    for (auto sub : {"bin", "PlugIns/languages", "PlugIns/styles", "config", "cache", "home", "work"})
+    for (auto sub : {"bin", "PlugIns/languages", "PlugIns/styles", "config", "cache", "data", "home", "work"})
         root_dir.mkpath(sub);
     QString const source = executable_to_copy.isEmpty() ? built::executable() : executable_to_copy;
     valid = QFile::copy(source, executable());
@@ -32,6 +32,8 @@ QString temporary_bundle::plugins_directory() const { return root() + "/PlugIns/
 QString temporary_bundle::addons_directory() const { return root() + "/PlugIns/styles"; }
 QString temporary_bundle::config_home() const { return root() + "/config"; }
 QString temporary_bundle::cache_home() const { return root() + "/cache"; }
+QString temporary_bundle::data_home() const { return root() + "/data"; }
+QString temporary_bundle::user_addons_directory() const { return data_home() + "/style-tarnel/styles"; }
 QString temporary_bundle::home() const { return root() + "/home"; }
 QString temporary_bundle::work_directory() const { return root() + "/work"; }
 
@@ -88,6 +90,7 @@ QProcessEnvironment temporary_bundle::environment() const {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("XDG_CONFIG_HOME", config_home());
     environment.insert("XDG_CACHE_HOME", cache_home());
+    environment.insert("XDG_DATA_HOME", data_home());
     environment.insert("HOME", home());
     environment.insert("QT_QPA_PLATFORM", "offscreen");
     return environment;
@@ -96,7 +99,7 @@ QProcessEnvironment temporary_bundle::environment() const {
 void temporary_bundle::share_with_unprivileged_user() const {
     // Settings, cache and home are the program's own: it must be able to write there.
     QProcess::execute("chmod", {"-R", "o+rX", root()});
-    QProcess::execute("chmod", {"-R", "o+w", config_home(), cache_home(), home()});
+    QProcess::execute("chmod", {"-R", "o+w", config_home(), cache_home(), data_home(), home()});
 }
 
 void temporary_bundle::start(QProcess& process, QStringList const& arguments,

@@ -44,6 +44,9 @@ public:
     QString addons_directory() const;
     QString config_home() const;
     QString cache_home() const;
+    // XDG_DATA_HOME, which holds the user's own styles where the bundle cannot be written.
+    QString data_home() const;
+    QString user_addons_directory() const;
     QString home() const;
     QString work_directory() const;  // the sources a test revises, imports or exports
 
