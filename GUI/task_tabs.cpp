@@ -68,7 +68,8 @@ public:
         shown_tab = tab;
         // The paths of the task left go first, as they are: a language change clears the list
         // and forgets the change records of what it holds, which are the other task's records.
-        emit owner->set_these_raw_paths(QString());
+        if (!shown_paths().isEmpty())
+            emit owner->set_these_raw_paths(QString());
         if (!info.was_saved()) {
             emit owner->set_first_programming_language();
             return;
@@ -78,6 +79,12 @@ public:
         emit owner->set_this_language_structure(info.language_structure());
         emit owner->set_this_filename_extensions(info.filename_extensions());
         emit owner->set_these_raw_paths(info.raw_paths_to_revising_files());
+    }
+
+    QStringList shown_paths() const {
+        QStringList paths;
+        emit owner->obtain_raw_paths_to_revising_files(paths);
+        return paths;
     }
 
     task_tabs* owner;
