@@ -145,8 +145,12 @@ void task_tabs::delete_tab(int index) {
     if (index < 0 || index >= bar->count() || bar->count() < 2)
         return;
     QString const name = bar->tabText(index);
-    if (name == pimpl->shown_tab)
-        pimpl->shown_tab.clear();  // Its task goes with it: nothing to save when the neighbour comes.
+    if (name == pimpl->shown_tab) {
+        // Its task goes with it: nothing to save when the neighbour comes, and the paths it shows,
+        // saved or added since, are revised in full by whichever task takes them next.
+        kernel().forget_change_records_of(pimpl->shown_paths());
+        pimpl->shown_tab.clear();
+    }
     bar->removeTab(index);
     last_info_for_tab const info(name);
     kernel().forget_change_records_of(paths_in(info.raw_paths_to_revising_files()));
