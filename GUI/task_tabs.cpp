@@ -68,6 +68,7 @@ public:
         shown_tab = tab;
         // The paths of the task left go first, as they are: a language change clears the list
         // and forgets the change records of what it holds, which are the other task's records.
+        // An empty list is left alone, and with it what it last said of the forced revisions.
         if (!shown_paths().isEmpty())
             emit owner->set_these_raw_paths(QString());
         if (!info.was_saved()) {
