@@ -5,6 +5,7 @@
 #include "GUI/top_window.h"
 #include "core/settings_keys.h"
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QFileDialog>
 #include <QSettings>
@@ -13,18 +14,25 @@ namespace GUI {
 
 namespace {
 
-// A window-modal dialog on the main window, titled as its button, made at its first use and kept between uses, which
-// starts in the directory stored under `start_key` or in the home directory.
+// A window-modal dialog on the main window, titled as its button, made at its first use and kept between uses; the
+// one for directories lists directories only and takes several at once.
 QFileDialog* path_dialog_on(QWidget* main_window, QFileDialog::FileMode mode, char const* name,
                             QString const& title) {
     auto* dialog = new QFileDialog(main_window, title);
     dialog->setObjectName(name);
     dialog->setAccessibleName(name);
     dialog->setOption(QFileDialog::DontUseNativeDialog);
-    dialog->setOption(QFileDialog::ShowDirsOnly, mode == QFileDialog::Directory);
     dialog->setWindowModality(Qt::WindowModal);
     dialog->setFileMode(mode);
     dialog->setViewMode(QFileDialog::Detail);
+    if (mode == QFileDialog::Directory) {
+        // Directories only, and several at once: the mode alone lists files too and selects one.
+        dialog->setOption(QFileDialog::ShowDirsOnly);
+        dialog->setFilter(QDir::AllDirs | QDir::Drives | QDir::NoDotAndDotDot);
+        for (char const* view : {"listView", "treeView"})
+            if (auto* shown = dialog->findChild<QAbstractItemView*>(view))
+                shown->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    }
     QObject::connect(dialog, &QFileDialog::finished, main_window,
                      [main_window](int) { show_main_window_as_top_window(main_window); });
     return dialog;

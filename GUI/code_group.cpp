@@ -47,8 +47,6 @@ public:
         layout->setRowStretch(1, 1);
         enable_paths(false);
         remove->setEnabled(false);
-        it_forcibly->disable();
-        all_forcibly->disable();
     }
 
     void enable_paths(bool yes) {

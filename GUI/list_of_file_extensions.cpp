@@ -68,22 +68,23 @@ void list_of_file_extensions::enable() { setEnabled(true); }
 
 void list_of_file_extensions::disable() { setEnabled(false); }
 
+// Every edit by the user, kept or refused, keeps the paths in line with what the field then holds.
+// A value set by the program (a style, a task) leaves the paths as they are.
 void list_of_file_extensions::changed(QString const& text) {
     if (text.isEmpty()) {
         pimpl->editor->setText(pimpl->last_valid_text);
         pimpl->refuse(tr(text::at_least_one_extension_please));
-        return;
-    }
-    if (these_are_filename_extensions(text.toStdString())) {
+    } else if (these_are_filename_extensions(text.toStdString())) {
         pimpl->last_valid_text = text;
         emit extension_have_been_added();
-        emit check_list(text);
-        return;
+    } else {
+        pimpl->editor->backspace();
+        if (pimpl->editor->text() != pimpl->last_valid_text &&
+            !these_are_filename_extensions(pimpl->editor->text().toStdString()))
+            pimpl->editor->setText(pimpl->last_valid_text);
+        pimpl->refuse(text.contains('.') ? tr(text::without_dot_please) : tr(text::in_English_please));
     }
-    pimpl->editor->backspace();
-    if (pimpl->editor->text() != pimpl->last_valid_text && !these_are_filename_extensions(pimpl->editor->text().toStdString()))
-        pimpl->editor->setText(pimpl->last_valid_text);
-    pimpl->refuse(text.contains('.') ? tr(text::without_dot_please) : tr(text::in_English_please));
+    emit check_list(pimpl->editor->text());
 }
 
 void list_of_file_extensions::obtain_filename_extensions(QString& extensions) { extensions = pimpl->editor->text(); }
@@ -94,9 +95,7 @@ void list_of_file_extensions::set_this_filename_extensions(QString const& extens
     if (extensions.isEmpty()) {
         disable();
         emit all_extensions_have_been_deleted();
-        return;
     }
-    emit check_list(extensions);
 }
 
 }  // namespace GUI

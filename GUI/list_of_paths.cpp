@@ -77,6 +77,17 @@ public:
         emit owner->there_are_paths(list->count() > 0);
     }
 
+    // Empties the list; a selection that goes with it is said, as the selection's own change would.
+    void clear() {
+        bool const something_was_selected = !list->selectedItems().isEmpty();
+        {
+            QSignalBlocker const quiet(list);
+            list->clear();
+        }
+        if (something_was_selected)
+            emit owner->no_selected_paths_anymore();
+    }
+
     list_of_paths* owner;
     list_of_paths_itself* list;
 };
@@ -165,18 +176,18 @@ void list_of_paths::check_list_of_file_extensions(QString const& extensions) {
     }
 }
 
+// On a change of language: the forced revisions stay as the list last said, so that a fresh start
+// offers them and "this path" with nothing selected revises them all.
 void list_of_paths::delete_all() {
     QStringList paths;
     obtain_raw_paths_to_revising_files(paths);
     kernel().forget_change_records_of(paths);
-    pimpl->list->clear();
-    emit there_are_paths(false);
-    emit no_selected_paths_anymore();
+    pimpl->clear();
     emit no_paths_anymore();
 }
 
 void list_of_paths::set_these_raw_paths(QString const& raw_paths) {
-    pimpl->list->clear();
+    pimpl->clear();
     emit no_paths_anymore();
     pimpl->add_new_paths_based_on(paths_in(raw_paths));
 }

@@ -68,7 +68,9 @@ public:
         shown_tab = tab;
         // The paths of the task left go first, as they are: a language change clears the list
         // and forgets the change records of what it holds, which are the other task's records.
-        emit owner->set_these_raw_paths(QString());
+        // An empty list is left alone, and with it what it last said of the forced revisions.
+        if (!shown_paths().isEmpty())
+            emit owner->set_these_raw_paths(QString());
         if (!info.was_saved()) {
             emit owner->set_first_programming_language();
             return;
@@ -78,6 +80,12 @@ public:
         emit owner->set_this_language_structure(info.language_structure());
         emit owner->set_this_filename_extensions(info.filename_extensions());
         emit owner->set_these_raw_paths(info.raw_paths_to_revising_files());
+    }
+
+    QStringList shown_paths() const {
+        QStringList paths;
+        emit owner->obtain_raw_paths_to_revising_files(paths);
+        return paths;
     }
 
     task_tabs* owner;
@@ -138,8 +146,12 @@ void task_tabs::delete_tab(int index) {
     if (index < 0 || index >= bar->count() || bar->count() < 2)
         return;
     QString const name = bar->tabText(index);
-    if (name == pimpl->shown_tab)
-        pimpl->shown_tab.clear();  // Its task goes with it: nothing to save when the neighbour comes.
+    if (name == pimpl->shown_tab) {
+        // Its task goes with it: nothing to save when the neighbour comes, and the paths it shows,
+        // saved or added since, are revised in full by whichever task takes them next.
+        kernel().forget_change_records_of(pimpl->shown_paths());
+        pimpl->shown_tab.clear();
+    }
     bar->removeTab(index);
     last_info_for_tab const info(name);
     kernel().forget_change_records_of(paths_in(info.raw_paths_to_revising_files()));
