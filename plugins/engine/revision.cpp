@@ -11,6 +11,7 @@
 #include "engine_limits.h"
 #include "inference_cache.h"
 #include "kept_regions.h"
+#include "loop_macros.h"
 #include "placeholder_instances.h"
 #include "text_encoding.h"
 #include "token_safe_settings.h"
@@ -159,7 +160,12 @@ std::string addon_written_in(std::string const& options, std::string const& styl
         return std::string();
     std::map<std::string, std::string> forms;
     for (structure const& each : language.structures) {
-        std::string const code = with_instances(form_as_code(each.tokens));
+        // The loops of the macros the style names; no form when it names none a form can hold.
+        bool const loops = each.name == loop_macros_structure;
+        std::string const code =
+            with_instances(form_as_code(loops ? loop_macros_form_for(style.ForEachMacros) : each.tokens));
+        if (loops && loop_macros_named_in(code).empty())
+            continue;
         forms[each.name] = form_as_code(without_instances(format_with(style).the_code(code + "\n").text));
     }
     return addon_of_forms(forms, style_name, language);
