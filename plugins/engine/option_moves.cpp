@@ -111,6 +111,9 @@ std::vector<option_group> make_groups() {
         flag("SpacesInSquareBrackets"),
         one_of("SpacesInAngles", {"Never", "Always", "Leave"}),
         one_of("SpacesBeforeTrailingComments", {"1", "2"}),
+        // Before the kind of alignment: leaving comments where they stand gives back any form.
+        {"AlignTrailingComments.OverEmptyLines",
+         {"{AlignTrailingComments: {OverEmptyLines: 0}}", "{AlignTrailingComments: {OverEmptyLines: 1}}"}},
         {"AlignTrailingComments",
          {"{AlignTrailingComments: {Kind: Always}}", "{AlignTrailingComments: {Kind: Never}}",
           "{AlignTrailingComments: {Kind: Leave}}"}},
@@ -130,6 +133,8 @@ std::vector<option_group> make_groups() {
         one_of("AlignArrayOfStructures", {"None", "Left", "Right"}),
         flag("SpaceBeforeCaseColon"),
         one_of("MaxEmptyLinesToKeep", {"1", "2"}),
+        {"KeepEmptyLines.AtStartOfBlock",
+         {"{KeepEmptyLines: {AtStartOfBlock: true}}", "{KeepEmptyLines: {AtStartOfBlock: false}}"}},
     };
     return groups;
 }
