@@ -154,6 +154,16 @@ bool same_options(clang::format::FormatStyle const& one, clang::format::FormatSt
     return one == other && clang::format::configurationAsText(one) == clang::format::configurationAsText(other);
 }
 
+bool read_configuration(std::string const& text, clang::format::FormatStyle& style) {
+    clang::format::FormatStyle read = style;
+    if (text.find("ForEachMacros") != std::string::npos)
+        read.ForEachMacros.clear();
+    if (clang::format::parseConfiguration(text, &read))
+        return false;
+    style = read;
+    return true;
+}
+
 bool apply_candidate(clang::format::FormatStyle& style, std::string const& candidate) {
     clang::format::FormatStyle moved = style;
     // A preset is expanded by writing the style out and reading it back; a custom style already
@@ -165,7 +175,7 @@ bool apply_candidate(clang::format::FormatStyle& style, std::string const& candi
          style.SpacesInParens != clang::format::FormatStyle::SIPO_Custom);
     if (on_expansion && clang::format::parseConfiguration(clang::format::configurationAsText(style), &moved))
         return false;
-    if (clang::format::parseConfiguration(candidate, &moved) || !engine_survives(moved))
+    if (!read_configuration(candidate, moved) || !engine_survives(moved))
         return false;
     style = moved;
     return true;

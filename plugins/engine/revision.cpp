@@ -12,6 +12,7 @@
 #include "inference_cache.h"
 #include "kept_regions.h"
 #include "loop_macros.h"
+#include "option_moves.h"
 #include "placeholder_instances.h"
 #include "text_encoding.h"
 #include "token_safe_settings.h"
@@ -153,7 +154,7 @@ std::map<std::string, std::string> forms_formatted_by_inferred_options(std::stri
 std::string addon_written_in(std::string const& options, std::string const& style_name, language_description const& language) {
     clang::format::FormatStyle style = token_safe_predefined_style("LLVM");
     bool const predefined = clang::format::getPredefinedStyle(options, clang::format::FormatStyle::LK_Cpp, &style);
-    if (!predefined && clang::format::parseConfiguration(options, &style))
+    if (!predefined && !read_configuration(options, style))
         return std::string();
     make_token_safe(style);
     if (!engine_survives(style))

@@ -197,7 +197,7 @@ private slots:
         std::string addon = shipped_addon(addon_file);
         auto const& language = description_of(QString::fromStdString(language_of_addon(addon)));
         clang::format::FormatStyle shipped = clang::format::getLLVMStyle();
-        QVERIFY(!clang::format::parseConfiguration(tarnel_engine::options_inferred_from(addon, language), &shipped));
+        QVERIFY(tarnel_engine::read_configuration(tarnel_engine::options_inferred_from(addon, language), shipped));
         if (structure.isEmpty()) {
             clang::format::FormatStyle moved = shipped;
             QVERIFY(tarnel_engine::apply_candidate(moved, value.toStdString()));
@@ -220,7 +220,7 @@ private slots:
         }
         QCOMPARE(forms_not_coming_back_in(addon, language), QStringList());
         clang::format::FormatStyle inferred = clang::format::getLLVMStyle();
-        QVERIFY(!clang::format::parseConfiguration(tarnel_engine::options_inferred_from(addon, language), &inferred));
+        QVERIFY(tarnel_engine::read_configuration(tarnel_engine::options_inferred_from(addon, language), inferred));
         clang::format::FormatStyle held = inferred;
         QVERIFY(tarnel_engine::apply_candidate(held, value.toStdString()));
         QVERIFY2(tarnel_engine::same_options(held, inferred), tarnel_engine::options_inferred_from(addon, language).c_str());
