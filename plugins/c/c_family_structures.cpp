@@ -57,7 +57,7 @@ tarnel_engine::structure_catalogue c_family_structures() {
          {"BraceWrapping.AfterControlStatement", "SpaceBeforeParens", "SpacesInParens", "AllowShortBlocksOnASingleLine"}},
         {tarnel_engine::loop_macros_structure, tarnel_engine::loop_macros_form_for({"for_each_item"}),
          "The macros the project uses as loops, one loop each: their names, and how their heads and braces are laid out.",
-         {"SpaceBeforeParens", "BraceWrapping.AfterControlStatement", "AllowShortBlocksOnASingleLine"},
+         {"ForEachMacros", "SpaceBeforeParens", "BraceWrapping.AfterControlStatement", "AllowShortBlocksOnASingleLine"},
          tarnel_engine::loop_macros_expression(),
          "Its form is a function whose body holds one loop for each macro the project uses as a loop; "
          "the name that opens each loop is the macro's. Add a loop to add a macro, take one out to remove it, "

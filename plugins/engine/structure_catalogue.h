@@ -16,7 +16,8 @@ struct structure {
     std::string tokens;
     // One sentence for the manual: what the structure shows a reader of the style.
     std::string purpose;
-    // The option groups of the inference (option_moves.h) whose values this structure's form decides.
+    // The option groups of the inference (option_moves.h) whose values this structure's form decides
+    // (and options it passes to the engine as read, such as the macros used as loops).
     std::vector<std::string> decides;
     // Where the form names things of the project (the macros it uses as loops) rather than holding
     // fixed tokens: the expression it must match, and for the manual, how to write it. Empty for
