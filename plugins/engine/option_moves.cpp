@@ -4,6 +4,8 @@
 
 #include "engine_hazards.h"
 
+#include <cctype>
+
 namespace tarnel_engine {
 
 namespace {
@@ -156,7 +158,9 @@ bool same_options(clang::format::FormatStyle const& one, clang::format::FormatSt
 
 bool read_configuration(std::string const& text, clang::format::FormatStyle& style) {
     clang::format::FormatStyle read = style;
-    if (text.find("ForEachMacros") != std::string::npos)
+    // The key itself, not the value ControlStatementsExceptForEachMacros of another option.
+    std::size_t const key = text.find("ForEachMacros:");
+    if (key != std::string::npos && (key == 0 || !std::isalnum(static_cast<unsigned char>(text[key - 1]))))
         read.ForEachMacros.clear();
     if (clang::format::parseConfiguration(text, &read))
         return false;

@@ -181,6 +181,8 @@ private slots:
             "{BreakBeforeBraces: Custom, BraceWrapping: {AfterExternBlock: true}}");
         row("brace of an extern block on its own line, C", "Kernighan&Ritchie[C].style",
             "{BreakBeforeBraces: Custom, BraceWrapping: {AfterExternBlock: true}}");
+        row("no blank before the ( of a loop macro", "LLVM[C++].style",
+            "{SpaceBeforeParens: ControlStatementsExceptForEachMacros}");
         QTest::newRow("a loop macro added") << "LLVM[C++].style" << "for each macro" << "  BOOST_FOREACH"
                                             << "  my_for_each (name, SOME) {\n    SOME;\n  }\n  BOOST_FOREACH"
                                             << "{ForEachMacros: [foreach, Q_FOREACH, my_for_each, BOOST_FOREACH]}";
