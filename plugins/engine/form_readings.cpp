@@ -2,6 +2,8 @@
 // addon leaves its reading out, and the search settles it.
 #include "form_readings.h"
 
+#include "loop_macros.h"
+
 #include <algorithm>
 #include <map>
 #include <set>
@@ -328,6 +330,31 @@ std::string column_limit_read_from(std::vector<form_case> const& forms) {
     return "{ColumnLimit: 0}";
 }
 
+// The most blank lines in a row the form keeps, and whether its block begins with one. The engine
+// keeps blank lines and never adds one, so a form with fewer comes back under a larger limit too:
+// only this reading tells the values apart.
+std::string blank_lines_read_from(forms_by_name const& forms) {
+    std::string const* code = forms.find("blank lines");
+    if (!code)
+        return std::string();
+    std::vector<std::string> const lines = lines_of(*code);
+    int most = 0;
+    int run = 0;
+    for (std::string const& line : lines) {
+        run = trimmed(line).empty() ? run + 1 : 0;
+        most = std::max(most, run);
+    }
+    std::string reading = "{MaxEmptyLinesToKeep: " + std::to_string(most);
+    auto const opening = std::find_if(lines.begin(), lines.end(), [](std::string const& line) {
+        std::string const text = trimmed(line);
+        return !text.empty() && text.back() == '{';
+    });
+    if (most > 0 && opening != lines.end())
+        reading += ", KeepEmptyLines: {AtStartOfBlock: " +
+                   flag(opening + 1 != lines.end() && trimmed(*(opening + 1)).empty()) + "}";
+    return reading + "}";
+}
+
 // A short block may share the line of its `if`; the loops and the long condition still show where
 // the brace of a control statement goes (2: only after a condition over several lines).
 int control_brace_read_from(forms_by_name const& forms) {
@@ -346,7 +373,8 @@ std::string braces_read_from(forms_by_name const& forms) {
         {"AfterClass", forms.brace_on_own_line("class")},
         {"AfterStruct", forms.brace_on_own_line("struct")},
         {"AfterUnion", forms.brace_on_own_line("union")},
-        {"AfterEnum", forms.brace_on_own_line("enum")},
+        // A short enumeration may stand on one line whatever its brace does; a long one shows it.
+        {"AfterEnum", forms.find("long enum") ? forms.brace_on_own_line("long enum") : forms.brace_on_own_line("enum")},
         {"AfterNamespace", forms.brace_on_own_line("namespace")},
         {"AfterExternBlock", forms.brace_on_own_line("extern block")},
         {"AfterCaseLabel", forms.brace_on_own_line("switch", "case SOME")},
@@ -401,6 +429,11 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     if (call && call->find('\n') != std::string::npos)
         readings.ruled_out.push_back("{ColumnLimit: 0}");
     readings.braces = braces_read_from(named);
+    std::string const blank_lines = blank_lines_read_from(named);
+    if (!blank_lines.empty())
+        readings.passed.push_back(blank_lines);
+    if (std::string const* loops = named.find(loop_macros_structure))
+        readings.passed.push_back(loop_macros_option_for(loop_macros_named_in(*loops)));
     return readings;
 }
 

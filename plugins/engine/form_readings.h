@@ -1,8 +1,8 @@
 // What the forms of an addon show directly, read from their text without the engine: the indent
 // step and tabs, the access-specifier offset, case-label and namespace indentation, brace
 // placement per construct, the blanks before and inside parentheses, where `*` and `&` lean, which
-// short statements share a line, and the narrowest column limit the forms allow (internal to the
-// engine library).
+// short statements share a line, how many blank lines are kept, the macros used as loops, and the
+// narrowest column limit the forms allow (internal to the engine library).
 #ifndef TARNEL_ENGINE_FORM_READINGS_H
 #define TARNEL_ENGINE_FORM_READINGS_H
 
@@ -25,6 +25,10 @@ struct form_readings {
     // Values the forms make unlikely (no column limit, where a long call breaks inside its
     // statement), moved to only by a last descent when nothing else gives every form back.
     std::vector<std::string> ruled_out;
+    // What no fixed point tells apart, taken as read: the macros used as loops (names the engine
+    // is told), and how many blank lines are kept (the engine keeps blank lines and never adds
+    // one). Every style the search tries, and the one it ends on, holds them.
+    std::vector<std::string> passed;
 };
 
 form_readings readings_of(std::vector<form_case> const& forms);

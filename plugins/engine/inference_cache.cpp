@@ -8,6 +8,7 @@
 #include "engine_limits.h"
 #include "match_in_full.h"
 #include "option_inference.h"
+#include "option_moves.h"
 #include "placeholder_instances.h"
 #include "token_safe_settings.h"
 #include "white_space.h"
@@ -24,7 +25,7 @@ namespace tarnel_engine {
 namespace {
 
 // Raise when the search itself changes, so that entries written by an older search are not used.
-char const* const search_revision = "4";
+char const* const search_revision = "5";
 
 std::string key_of(std::string const& addon, language_description const& language) {
     QCryptographicHash hash(QCryptographicHash::Sha256);
@@ -80,7 +81,7 @@ bool read_from_disk(std::string const& key, clang::format::FormatStyle& style) {
     if (!verified_options_of(file.readAll(), options))
         return false;
     clang::format::FormatStyle read = token_safe_predefined_style("LLVM");
-    if (clang::format::parseConfiguration(options.toStdString(), &read))
+    if (!read_configuration(options.toStdString(), read))
         return false;
     make_token_safe(read);
     style = read;

@@ -254,11 +254,13 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
     option_search search(forms, readings.ruled_out, formatting_budget, going_on, measure);
 
     // A style that is a predefined one keeps all its rules, Google's "the file's majority decides
-    // where * leans" included.
+    // where * leans" included; holding what the forms pass, as every style the search tries.
     std::vector<clang::format::FormatStyle> bases;
     scored_style best_base;
     for (std::string const& name : names_of_predefined_styles()) {
         bases.push_back(token_safe_predefined_style(name));
+        for (std::string const& names : readings.passed)
+            apply_candidate(bases.back(), names);
         scored_style base = search.scored(bases.back());
         if (base.total == 0)
             return base.style;

@@ -4,6 +4,8 @@
 
 #include "engine_hazards.h"
 
+#include <cctype>
+
 namespace tarnel_engine {
 
 namespace {
@@ -111,6 +113,9 @@ std::vector<option_group> make_groups() {
         flag("SpacesInSquareBrackets"),
         one_of("SpacesInAngles", {"Never", "Always", "Leave"}),
         one_of("SpacesBeforeTrailingComments", {"1", "2"}),
+        // Before the kind of alignment: leaving comments where they stand gives back any form.
+        {"AlignTrailingComments.OverEmptyLines",
+         {"{AlignTrailingComments: {OverEmptyLines: 0}}", "{AlignTrailingComments: {OverEmptyLines: 1}}"}},
         {"AlignTrailingComments",
          {"{AlignTrailingComments: {Kind: Always}}", "{AlignTrailingComments: {Kind: Never}}",
           "{AlignTrailingComments: {Kind: Leave}}"}},
@@ -130,6 +135,8 @@ std::vector<option_group> make_groups() {
         one_of("AlignArrayOfStructures", {"None", "Left", "Right"}),
         flag("SpaceBeforeCaseColon"),
         one_of("MaxEmptyLinesToKeep", {"1", "2"}),
+        {"KeepEmptyLines.AtStartOfBlock",
+         {"{KeepEmptyLines: {AtStartOfBlock: true}}", "{KeepEmptyLines: {AtStartOfBlock: false}}"}},
     };
     return groups;
 }
@@ -149,6 +156,18 @@ bool same_options(clang::format::FormatStyle const& one, clang::format::FormatSt
     return one == other && clang::format::configurationAsText(one) == clang::format::configurationAsText(other);
 }
 
+bool read_configuration(std::string const& text, clang::format::FormatStyle& style) {
+    clang::format::FormatStyle read = style;
+    // The key itself, not the value ControlStatementsExceptForEachMacros of another option.
+    std::size_t const key = text.find("ForEachMacros:");
+    if (key != std::string::npos && (key == 0 || !std::isalnum(static_cast<unsigned char>(text[key - 1]))))
+        read.ForEachMacros.clear();
+    if (clang::format::parseConfiguration(text, &read))
+        return false;
+    style = read;
+    return true;
+}
+
 bool apply_candidate(clang::format::FormatStyle& style, std::string const& candidate) {
     clang::format::FormatStyle moved = style;
     // A preset is expanded by writing the style out and reading it back; a custom style already
@@ -160,7 +179,7 @@ bool apply_candidate(clang::format::FormatStyle& style, std::string const& candi
          style.SpacesInParens != clang::format::FormatStyle::SIPO_Custom);
     if (on_expansion && clang::format::parseConfiguration(clang::format::configurationAsText(style), &moved))
         return false;
-    if (clang::format::parseConfiguration(candidate, &moved) || !engine_survives(moved))
+    if (!read_configuration(candidate, moved) || !engine_survives(moved))
         return false;
     style = moved;
     return true;

@@ -29,6 +29,11 @@ bool applies_to_every_structure(std::string const& group_name);
 // and the style unchanged, when the candidate cannot be read or would make the engine crash.
 bool apply_candidate(clang::format::FormatStyle& style, std::string const& candidate);
 
+// Reads configuration text into a style, as the engine's parser does, except that a list the text
+// gives (the macros used as loops) is the whole list: the parser writes a list over the first
+// items of the style's and keeps the rest. True when the text could be read.
+bool read_configuration(std::string const& text, clang::format::FormatStyle& style);
+
 // Whether two styles hold the same options. The engine's own == leaves some out (the brace wrapping
 // flags, the custom spaces inside parentheses, the tab width and the directive indent width among
 // them), so their configuration texts are compared too.

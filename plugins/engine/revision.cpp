@@ -11,6 +11,8 @@
 #include "engine_limits.h"
 #include "inference_cache.h"
 #include "kept_regions.h"
+#include "loop_macros.h"
+#include "option_moves.h"
 #include "placeholder_instances.h"
 #include "text_encoding.h"
 #include "token_safe_settings.h"
@@ -152,14 +154,19 @@ std::map<std::string, std::string> forms_formatted_by_inferred_options(std::stri
 std::string addon_written_in(std::string const& options, std::string const& style_name, language_description const& language) {
     clang::format::FormatStyle style = token_safe_predefined_style("LLVM");
     bool const predefined = clang::format::getPredefinedStyle(options, clang::format::FormatStyle::LK_Cpp, &style);
-    if (!predefined && clang::format::parseConfiguration(options, &style))
+    if (!predefined && !read_configuration(options, style))
         return std::string();
     make_token_safe(style);
     if (!engine_survives(style))
         return std::string();
     std::map<std::string, std::string> forms;
     for (structure const& each : language.structures) {
-        std::string const code = with_instances(form_as_code(each.tokens));
+        // The loops of the macros the style names; no form when it names none a form can hold.
+        bool const loops = each.name == loop_macros_structure;
+        std::string const code =
+            with_instances(form_as_code(loops ? loop_macros_form_for(style.ForEachMacros) : each.tokens));
+        if (loops && loop_macros_named_in(code).empty())
+            continue;
         forms[each.name] = form_as_code(without_instances(format_with(style).the_code(code + "\n").text));
     }
     return addon_of_forms(forms, style_name, language);

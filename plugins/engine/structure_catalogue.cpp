@@ -95,7 +95,7 @@ std::string expression_for(std::vector<std::string> const& tokens) {
 std::map<std::string, std::string> expressions_of(structure_catalogue const& catalogue) {
     std::map<std::string, std::string> expressions;
     for (structure const& each : catalogue)
-        expressions[each.name] = expression_for(tokens_of(each.tokens));
+        expressions[each.name] = each.expression.empty() ? expression_for(tokens_of(each.tokens)) : each.expression;
     return expressions;
 }
 

@@ -16,8 +16,14 @@ struct structure {
     std::string tokens;
     // One sentence for the manual: what the structure shows a reader of the style.
     std::string purpose;
-    // The option groups of the inference (option_moves.h) whose values this structure's form decides.
+    // The option groups of the inference (option_moves.h) whose values this structure's form decides
+    // (and options it passes to the engine as read, such as the macros used as loops).
     std::vector<std::string> decides;
+    // Where the form names things of the project (the macros it uses as loops) rather than holding
+    // fixed tokens: the expression it must match, and for the manual, how to write it. Empty for
+    // every other structure, whose expression comes from its tokens.
+    std::string expression = std::string();
+    std::string writing = std::string();
 };
 
 using structure_catalogue = std::vector<structure>;
@@ -30,7 +36,8 @@ std::vector<std::string> tokens_of(std::string const& code);
 // blank between two words), and around them. Linear: literal tokens joined by \s* or \s+.
 std::string expression_for(std::vector<std::string> const& tokens);
 
-// Structure name -> expression, as the plugin interface gives them to the host.
+// Structure name -> expression, as the plugin interface gives them to the host: the structure's own
+// expression where it has one, otherwise the one made from its tokens.
 std::map<std::string, std::string> expressions_of(structure_catalogue const& catalogue);
 
 }  // namespace tarnel_engine

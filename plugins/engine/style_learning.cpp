@@ -7,6 +7,7 @@
 #include "conditional_passes.h"
 #include "engine_limits.h"
 #include "form_conflicts.h"
+#include "loop_macros.h"
 #include "option_inference.h"
 #include "revision.h"
 #include "white_space.h"
@@ -210,7 +211,10 @@ std::string namespace_indentation_read_from(std::vector<std::string> const& piec
     return std::string();
 }
 
-form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<std::string> const& pieces) {
+// `sources` are the whole sources the sample was taken from: the macros used as loops are found
+// in all of them, since a sample may hold few loops.
+form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<std::string> const& pieces,
+                               std::vector<std::string> const& sources) {
     form_readings readings = readings_of(forms);
     readings.layout.erase(std::remove_if(readings.layout.begin(), readings.layout.end(),
                                          [](std::string const& reading) {
@@ -232,6 +236,9 @@ form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<
         if (!reading.empty())
             readings.layout.push_back(reading);
     readings.braces = braces_read_from(pieces);
+    std::vector<std::string> const loops = loop_macros_used_in(sources);
+    if (!loops.empty())
+        readings.passed.push_back(loop_macros_option_for(loops));
     return readings;
 }
 
@@ -296,7 +303,7 @@ learned_style learn_style_of::from(std::vector<std::string> const& sources, std:
         };
         clang::format::FormatStyle const style =
             infer_options(formatting_budget, searching, lines_changed_then_white_space)
-                .from(forms, readings_of_code(forms, pieces));
+                .from(forms, readings_of_code(forms, pieces, texts));
         if (stopped)
             return learned;
         std::string const addon =

@@ -21,13 +21,13 @@ public:
     explicit learn_style_of(language_description const& language) : language(language) {}
 
     // Reads what a fixed sample of the sources shows directly (indentation, column limit, brace
-    // placement, where `*` and `&` lean), then searches the option table for the options under
-    // which the sample changes least, writes them as an addon and revises every source in it to
-    // count the lines it leaves as they are. Sources in UTF-16 or UTF-32, whose brackets do not
-    // pair up, that the engine cannot take (engine_limits.h), or whose preprocessor conditionals
-    // would make the engine read them hundreds of times (conditional_passes.h), are neither
-    // learned from nor counted. Nothing learned (no source to
-    // learn from, or stopped): an empty addon.
+    // placement, where `*` and `&` lean) and the macros all of them use as loops, then searches
+    // the option table for the options under which the sample changes least, writes them as an
+    // addon and revises every source in it to count the lines it leaves as they are. Sources in
+    // UTF-16 or UTF-32, whose brackets do not pair up, that the engine cannot take
+    // (engine_limits.h), or whose preprocessor conditionals would make the engine read them
+    // hundreds of times (conditional_passes.h), are neither learned from nor counted. Nothing
+    // learned (no source to learn from, or stopped): an empty addon.
     learned_style from(std::vector<std::string> const& sources, std::string const& style_name,
                        going_on_check const& going_on) const;
 

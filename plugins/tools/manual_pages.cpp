@@ -47,8 +47,11 @@ std::map<std::string, std::string> manual_pages_of(tarnel_engine::language_descr
     for (tarnel_engine::structure const& each : language.structures) {
         std::string page = "# " + language.name + ": " + each.name + "\n\n" + each.purpose + "\n\n";
         page += "Write the structure as `S_NAME=" + each.name + "` in an addon (see [Writing a style addon by "
-                "hand](../../user-guide/style-addon-by-hand.md)). Its form holds exactly these tokens, in this order; only the white space "
-                "between them is yours to choose:\n\n```\n" + each.tokens + "\n```\n\n";
+                "hand](../../user-guide/style-addon-by-hand.md)). " +
+                (each.writing.empty() ? std::string("Its form holds exactly these tokens, in this order; only the "
+                                                    "white space between them is yours to choose:")
+                                      : each.writing) +
+                "\n\n```\n" + each.tokens + "\n```\n\n";
         std::string const placeholders = placeholders_in(each.tokens);
         if (!placeholders.empty())
             page += "Placeholders in it: " + placeholders + ".\n\n";

@@ -2,12 +2,18 @@
 // predefined style is close to come back form for form; an addon written with indent width 4
 // revises files with 4 spaces; a consistent hand edit of a shipped addon takes effect; a form that
 // contradicts the others gives the rules closest to all forms, the same for the same forms, and
-// `check`'s reasons name the option it needs and the forms that share the rule.
+// `check`'s reasons name the option it needs and the forms that share the rule; forms edited to
+// another value of an option give that value back, and an addon without the newer forms revises as
+// before.
 #include "helpers/our_plugins.h"
 
 #include "c_language.h"
 #include "cpp_language.h"
+#include "core/style_addon.h"
 #include "form_conflicts.h"
+#ifndef Q_MOC_RUN  // the engine's headers are more than moc reads
+#include "option_moves.h"
+#endif
 #include "revision.h"
 
 #include <QtTest>
@@ -78,6 +84,17 @@ private slots:
         QTest::newRow("C Google, indent 8, Whitesmiths braces")
             << "C" << "{BasedOnStyle: Google, IndentWidth: 8, BreakBeforeBraces: Whitesmiths, ColumnLimit: 80, "
                       "PointerAlignment: Right, DerivePointerAlignment: false}";
+        QTest::newRow("C LLVM, assignments, declarations and macros aligned, backslashes left with the last line")
+            << "C" << "{BasedOnStyle: LLVM, AlignConsecutiveAssignments: true, AlignConsecutiveDeclarations: true, "
+                      "AlignConsecutiveMacros: true, AlignEscapedNewlines: LeftWithLastLine, IndentWidth: 4}";
+        QTest::newRow("C Google, two blank lines, none at a block's start, comments aligned over blank lines")
+            << "C" << "{BasedOnStyle: Google, MaxEmptyLinesToKeep: 2, KeepEmptyLines: {AtStartOfBlock: false}, "
+                      "AlignTrailingComments: {Kind: Always, OverEmptyLines: 1}, SpacesBeforeTrailingComments: 1}";
+        QTest::newRow("C WebKit, short enums with their brace below, extern block brace below, kernel loops")
+            << "C" << "{BasedOnStyle: WebKit, AllowShortEnumsOnASingleLine: true, BreakBeforeBraces: Custom, "
+                      "BraceWrapping: {AfterFunction: true, AfterEnum: true, AfterExternBlock: true}, "
+                      "SpaceBeforeParens: ControlStatementsExceptForEachMacros, "
+                      "ForEachMacros: [list_for_each_entry, for_each_possible_cpu]}";
     }
     void option_sets_round_trip() {
         QFETCH(QString, language);
@@ -108,7 +125,9 @@ private slots:
     void consistent_edit_takes_effect() {
         static std::vector<std::vector<form_edit>> const edits = {
             {{"function definition", "type name(type argument, type argument) {", "type name(type argument, type argument)\n{"},
-             {"goto", "type name(void) {", "type name(void)\n{"}},
+             {"goto", "type name(void) {", "type name(void)\n{"},
+             {"blank lines", "type name(void) {", "type name(void)\n{"},
+             {"for each macro", "type name(void) {", "type name(void)\n{"}},
             {{"cast", "(type *)", "(type*)"},
              {"function declaration", "type *argument", "type* argument"},
              {"pointer", "type *name", "type* name"},
@@ -126,6 +145,117 @@ private slots:
             QVERIFY2(!addon.empty(), each.structure);
         }
         QCOMPARE(forms_not_coming_back_in(addon, cpp_language()), QStringList());
+    }
+
+    // A user edits the forms that show one option to another of its values, consistently (here,
+    // as the engine lays them out under that value), or adds or removes a loop macro: the options
+    // inferred hold that value.
+    void edited_forms_give_the_value_back_data() {
+        QTest::addColumn<QString>("addon_file");
+        QTest::addColumn<QString>("structure");
+        QTest::addColumn<QString>("from");
+        QTest::addColumn<QString>("to");
+        QTest::addColumn<QString>("value");
+        auto const row = [](char const* name, char const* addon_file, char const* value) {
+            QTest::newRow(name) << addon_file << QString() << QString() << QString() << value;
+        };
+        row("assignments aligned", "LLVM[C++].style", "{AlignConsecutiveAssignments: {Enabled: true}}");
+        row("declarations aligned", "LLVM[C++].style", "{AlignConsecutiveDeclarations: {Enabled: true}}");
+        row("macros aligned", "LLVM[C++].style", "{AlignConsecutiveMacros: {Enabled: true}}");
+        row("backslashes left", "LLVM[C++].style", "{AlignEscapedNewlines: Left}");
+        row("backslashes left with the last line", "LLVM[C++].style", "{AlignEscapedNewlines: LeftWithLastLine}");
+        row("backslashes not aligned", "LLVM[C++].style", "{AlignEscapedNewlines: DontAlign}");
+        row("backslashes at the column limit", "Kernighan&Ritchie[C].style", "{AlignEscapedNewlines: Right}");
+        row("two blanks before trailing comments", "LLVM[C++].style", "{SpacesBeforeTrailingComments: 2}");
+        row("one blank before trailing comments", "Google[C++].style", "{SpacesBeforeTrailingComments: 1}");
+        row("trailing comments not aligned", "LLVM[C++].style", "{AlignTrailingComments: {Kind: Never}}");
+        row("trailing comments aligned", "Linux kernel[C].style", "{AlignTrailingComments: {Kind: Always}}");
+        row("trailing comments aligned over a blank line", "LLVM[C++].style", "{AlignTrailingComments: {OverEmptyLines: 1}}");
+        row("two blank lines kept", "LLVM[C++].style", "{MaxEmptyLinesToKeep: 2}");
+        row("no blank line at a block's start", "LLVM[C++].style", "{KeepEmptyLines: {AtStartOfBlock: false}}");
+        row("enums one enumerator a line", "LLVM[C++].style", "{AllowShortEnumsOnASingleLine: false}");
+        row("enums on one line", "Kernighan&Ritchie[C].style", "{AllowShortEnumsOnASingleLine: true}");
+        row("brace of a long enum on its own line", "LLVM[C++].style",
+            "{BreakBeforeBraces: Custom, BraceWrapping: {AfterEnum: true}}");
+        row("brace of an extern block on its own line", "LLVM[C++].style",
+            "{BreakBeforeBraces: Custom, BraceWrapping: {AfterExternBlock: true}}");
+        row("brace of an extern block on its own line, C", "Kernighan&Ritchie[C].style",
+            "{BreakBeforeBraces: Custom, BraceWrapping: {AfterExternBlock: true}}");
+        row("no blank before the ( of a loop macro", "LLVM[C++].style",
+            "{SpaceBeforeParens: ControlStatementsExceptForEachMacros}");
+        QTest::newRow("a loop macro added") << "LLVM[C++].style" << "for each macro" << "  BOOST_FOREACH"
+                                            << "  my_for_each (name, SOME) {\n    SOME;\n  }\n  BOOST_FOREACH"
+                                            << "{ForEachMacros: [foreach, Q_FOREACH, my_for_each, BOOST_FOREACH]}";
+        QTest::newRow("a loop macro taken out")
+            << "LLVM[C++].style" << "for each macro" << "  Q_FOREACH (name, SOME) {\n    SOME;\n  }\n" << ""
+            << "{ForEachMacros: [foreach, BOOST_FOREACH]}";
+    }
+    void edited_forms_give_the_value_back() {
+        QFETCH(QString, addon_file);
+        QFETCH(QString, structure);
+        QFETCH(QString, from);
+        QFETCH(QString, to);
+        QFETCH(QString, value);
+        std::string addon = shipped_addon(addon_file);
+        auto const& language = description_of(QString::fromStdString(language_of_addon(addon)));
+        clang::format::FormatStyle shipped = clang::format::getLLVMStyle();
+        QVERIFY(tarnel_engine::read_configuration(tarnel_engine::options_inferred_from(addon, language), shipped));
+        if (structure.isEmpty()) {
+            clang::format::FormatStyle moved = shipped;
+            QVERIFY(tarnel_engine::apply_candidate(moved, value.toStdString()));
+            QVERIFY2(!tarnel_engine::same_options(moved, shipped), "the shipped style has the value already");
+            std::string const written =
+                tarnel_engine::addon_written_in(clang::format::configurationAsText(moved), "Edited", language);
+            int changed = 0;
+            for (tarnel_engine::structure const& each : language.structures) {
+                std::string const before = obtain_structure_form(each.name).from_already_reading(addon);
+                std::string const after = obtain_structure_form(each.name).from_already_reading(written);
+                if (before != after) {
+                    addon = with_form_edited(addon, each.name, before, after);
+                    ++changed;
+                }
+            }
+            QVERIFY2(changed > 0, "no form shows the value");
+        } else {
+            addon = with_form_edited(addon, structure.toStdString(), from.toStdString(), to.toStdString());
+            QVERIFY(!addon.empty());
+        }
+        QCOMPARE(forms_not_coming_back_in(addon, language), QStringList());
+        clang::format::FormatStyle inferred = clang::format::getLLVMStyle();
+        QVERIFY(tarnel_engine::read_configuration(tarnel_engine::options_inferred_from(addon, language), inferred));
+        clang::format::FormatStyle held = inferred;
+        QVERIFY(tarnel_engine::apply_candidate(held, value.toStdString()));
+        QVERIFY2(tarnel_engine::same_options(held, inferred), tarnel_engine::options_inferred_from(addon, language).c_str());
+    }
+
+    // An addon written before the forms of alignment, blank lines and loop macros existed lacks
+    // them: it still loads, and revises as before (its golden file), the options those forms would
+    // show keeping its base style's values.
+    void addon_without_the_newer_forms_revises_as_before_data() {
+        QTest::addColumn<QString>("golden_case");
+        for (QString const& golden_case : golden_cases())
+            QTest::newRow(qPrintable(golden_case)) << golden_case;
+    }
+    void addon_without_the_newer_forms_revises_as_before() {
+        QFETCH(QString, golden_case);
+        QString const language = golden_case.section('/', 0, 0);
+        std::string addon = shipped_addon(golden_case.section('/', 1) + "[" + language + "].style");
+        for (char const* newer : {"blank lines", "consecutive assignments", "consecutive declarations",
+                                  "escaped newlines", "for each macro", "long enum", "macro definitions",
+                                  "trailing comments"}) {
+            std::size_t const begin = addon.find(std::string("\nS_NAME=") + newer + "\nS_BEG\n");
+            QVERIFY2(begin != std::string::npos, newer);
+            addon.erase(begin, addon.find("\nS_END\n", begin) + 7 - begin);
+        }
+        if (language == "C") {
+            std::size_t const begin = addon.find("\nS_NAME=extern block\nS_BEG\n");
+            QVERIFY(begin != std::string::npos);
+            addon.erase(begin, addon.find("\nS_END\n", begin) + 7 - begin);
+        }
+        std::string const input = golden_file(golden_case, "input");
+        loaded_plugin plugin(plugin_file_of(language.toStdString()));
+        QCOMPARE(QString::fromStdString(plugin->revise(input, addon, traits_of(input))),
+                 QString::fromStdString(golden_file(golden_case, "expected")));
     }
 
     // One rule of the engine covers several structures: the edited form alone does not come back,

@@ -1,6 +1,6 @@
 // Learning a style through the plugins' learning interface: a small project written in a known
 // option set comes back as a style that leaves nearly all its lines as they are, with every form a
-// fixed point and the figures the plugin reports true; no sources, text of another language and a
+// fixed point, the macros it uses as loops named and the figures the plugin reports true; no sources, text of another language and a
 // stop give no style; the sample's pieces, and the sources counted, are code the engine can format
 // in bounded time.
 #include "helpers/our_plugins.h"
@@ -10,7 +10,9 @@
 #include "code_sample.h"
 #include "conditional_passes.h"
 #include "cpp_language.h"
+#include "core/style_addon.h"
 #include "form_conflicts.h"
+#include "loop_macros.h"
 #include "revision.h"
 #include "style_learning.h"
 #include "tests/harness/built_files.h"
@@ -55,27 +57,45 @@ private slots:
     void learns_back_a_known_style_data() {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("options");
+        // A macro the project uses as a loop, in a few generated files of its own; empty for none.
+        QTest::addColumn<QString>("loop_macro");
         QTest::newRow("C++ LLVM, indent 3, Allman braces, * on the type, limit 100")
             << "C++" << "{BasedOnStyle: LLVM, IndentWidth: 3, BreakBeforeBraces: Allman, PointerAlignment: Left, "
-                        "DerivePointerAlignment: false, ColumnLimit: 100}";
+                        "DerivePointerAlignment: false, ColumnLimit: 100}" << "";
         QTest::newRow("C++ Google, tabs of 4, blank before every (, access specifiers at the class")
             << "C++" << "{BasedOnStyle: Google, IndentWidth: 4, TabWidth: 4, UseTab: ForIndentation, "
-                        "SpaceBeforeParens: Always, AccessModifierOffset: -4}";
-        QTest::newRow("C GNU") << "C" << "{BasedOnStyle: GNU}";
+                        "SpaceBeforeParens: Always, AccessModifierOffset: -4}" << "";
+        QTest::newRow("C GNU") << "C" << "{BasedOnStyle: GNU}" << "";
         QTest::newRow("C indent 8 with tabs, Linux braces, limit 80")
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, BreakBeforeBraces: Linux, "
-                      "AllowShortIfStatementsOnASingleLine: Never, PointerAlignment: Right, ColumnLimit: 80}";
+                      "AllowShortIfStatementsOnASingleLine: Never, PointerAlignment: Right, ColumnLimit: 80}" << "";
+        QTest::newRow("C Linux braces with tabs, a list macro used as a loop")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, BreakBeforeBraces: Linux, "
+                      "SpaceBeforeParens: ControlStatementsExceptForEachMacros, ForEachMacros: [list_for_each_entry]}"
+            << "list_for_each_entry";
     }
     void learns_back_a_known_style() {
         QFETCH(QString, language);
         QFETCH(QString, options);
+        QFETCH(QString, loop_macro);
         auto const& description = description_of(language);
         std::string const known = tarnel_engine::addon_written_in(options.toStdString(), "Known", description);
         QVERIFY(!known.empty());
         loaded_plugin plugin(plugin_file_of(language.toStdString()));
         QVERIFY(plugin.learning());
         std::vector<std::string> project;
-        for (std::string const& source : sources_of(language)) {
+        std::vector<std::string> sources = sources_of(language);
+        for (int file = 0; file < 4 && !loop_macro.isEmpty(); ++file) {
+            std::string const macro = loop_macro.toStdString();
+            std::string const n = std::to_string(file);
+            sources.push_back("struct item_" + n + " {\n  struct list_head node;\n  int value;\n};\n\n"
+                              "int total_" + n + "(struct list_head *items) {\n  struct item_" + n + " *item;\n"
+                              "  int sum = 0;\n  " + macro + "(item, items, node) {\n    if (item->value < 0)\n"
+                              "      continue;\n    sum += item->value;\n  }\n  return sum;\n}\n\n"
+                              "void clear_" + n + "(struct list_head *items) {\n  struct item_" + n + " *item;\n  " +
+                              macro + "(item, items, node) {\n    item->value = 0;\n  }\n}\n");
+        }
+        for (std::string const& source : sources) {
             std::string const written = plugin->revise(source, known, traits_of(source));
             if (written != STYLE_TARNEL_SYNTAX_ERROR_TEXT)
                 project.push_back(written);
@@ -85,6 +105,9 @@ private slots:
         learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
         QVERIFY(!learned.addon.empty());
         QVERIFY(tarnel_engine::forms_not_coming_back(learned.addon, description).empty());
+        if (!loop_macro.isEmpty())
+            QVERIFY(tarnel_engine::loop_macros_named_in(obtain_structure_form("for each macro").from_already_reading(
+                        learned.addon)) == std::vector<std::string>{loop_macro.toStdString()});
         unsigned long lines = 0;
         unsigned long left = 0;
         for (std::string const& source : project) {
