@@ -238,7 +238,7 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
         }
     } else if (result != text) {
         file_status written;
-        switch (write_to(path).from(result, text, as_read, written)) {
+        switch (write_to(path, renames).from(result, text, as_read, written)) {
         case replacement::done:
             outcome.changed = true;
             // The new content as it reached the disk.
@@ -285,6 +285,7 @@ void revision_run::take(QString const& path, file_outcome& outcome,
 }
 
 void revision_run::finish() {
+    renames.make_them();
     if (!plugin_crashed) {
         try {
             plugin->end_of_revision();
