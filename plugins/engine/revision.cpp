@@ -109,15 +109,20 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
 
 std::string answer_for(std::string const& source, std::string const& decoded, std::string formatted,
                        text_encoding const& encoding, lexed_as lexing) {
+    // A text the engine left as it was keeps its tokens and its brackets, which paired up before:
+    // neither is read again (on a tree already in its style, that is almost every file).
+    bool const unchanged = formatted == decoded;
     // Only white space may change, and white space alone can still join two tokens (`! =` to
     // `!=`) or split one (`u8"x"` to `u8 "x"`): the compiler's tokens must stay the same too.
-    std::optional<std::string> kept = result_with_the_tokens_of(decoded, std::move(formatted), lexing);
+    std::optional<std::string> kept =
+        unchanged ? std::optional<std::string>(std::move(formatted))
+                  : result_with_the_tokens_of(decoded, std::move(formatted), lexing);
     if (!kept)
         return source;
     // The next revision checks the result as this one checked the source. An unclosed quote
     // (a stray apostrophe) ends at the end of its line; joined with the next line, it takes
     // in brackets that the source had outside it. Such code is no proper source anyway.
-    if (!brackets_are_balanced_in(*kept))
+    if (!unchanged && !brackets_are_balanced_in(*kept))
         return syntax_error;
     std::optional<std::string> encoded = encoding.encoded(*kept);
     if (!encoded || *encoded == source)

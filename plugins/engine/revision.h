@@ -45,7 +45,7 @@ private:
 // What a revision answers for a source once the engine's result has settled: the result encoded
 // as the source was, when it keeps the source's tokens and changes something; the source itself
 // when it would change more than white space or nothing at all; STYLE_TARNEL_SYNTAX_ERROR_TEXT
-// when its brackets no longer pair up.
+// when its brackets no longer pair up. The brackets of `decoded` pair up.
 std::string answer_for(std::string const& source, std::string const& decoded, std::string formatted,
                        text_encoding const& encoding, lexed_as lexing);
 
