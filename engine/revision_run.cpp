@@ -201,7 +201,10 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
         hands->given(path, stamp_as_read);
     if (!request.lines.changed_since.empty())
         ranges = clamped_to(text, ranges);
-    plugin_answer const answer = asked(text, ranges, result);
+    plugin_answer const answer = [&] {
+        bytes_in_hand::held const in_hand = sources_in_hand.taken_for(text.size());
+        return asked(text, ranges, result);
+    }();
     if (hands)
         hands->taken_back(path);
     if (answer == plugin_answer::crashed) {

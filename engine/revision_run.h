@@ -4,6 +4,7 @@
 #ifndef STYLE_TARNEL_ENGINE_REVISION_RUN_H
 #define STYLE_TARNEL_ENGINE_REVISION_RUN_H
 
+#include "engine/bytes_in_hand.h"
 #include "engine/change_record_store.h"
 #include "engine/directory_flushes.h"
 #include "engine/files_in_plugin_hands.h"
@@ -92,6 +93,8 @@ private:
     std::unique_ptr<files_in_plugin_hands> hands;
     change_record_store records;
     mutable std::mutex records_guard;  // workers read the records while this thread writes them
+    // The sources the workers have given to the plugin: the largest goes alone (memory).
+    mutable bytes_in_hand sources_in_hand;
     // The directories of the files replaced so far, flushed once each before the run reports.
     mutable directory_flushes renames;
     int worker_count = 1;
