@@ -197,12 +197,13 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
     // A record keeps what the run read, so a file saved since is revised again by the next run.
     // A run that writes nothing keeps no records.
     QString const stamp_as_read = request.keeps_records() ? as_read.stamp() : QString();
-    if (hands)
-        hands->given(path, stamp_as_read);
     if (!request.lines.changed_since.empty())
         ranges = clamped_to(text, ranges);
     plugin_answer const answer = [&] {
+        // A file waiting for its turn is not yet in the plugin's hands.
         bytes_in_hand::held const in_hand = sources_in_hand.taken_for(text.size());
+        if (hands)
+            hands->given(path, stamp_as_read);
         return asked(text, ranges, result);
     }();
     if (hands)
