@@ -197,11 +197,15 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
     // A record keeps what the run read, so a file saved since is revised again by the next run.
     // A run that writes nothing keeps no records.
     QString const stamp_as_read = request.keeps_records() ? as_read.stamp() : QString();
-    if (hands)
-        hands->given(path, stamp_as_read);
     if (!request.lines.changed_since.empty())
         ranges = clamped_to(text, ranges);
-    plugin_answer const answer = asked(text, ranges, result);
+    plugin_answer const answer = [&] {
+        // A file waiting for its turn is not yet in the plugin's hands.
+        bytes_in_hand::held const in_hand = sources_in_hand.taken_for(text.size());
+        if (hands)
+            hands->given(path, stamp_as_read);
+        return asked(text, ranges, result);
+    }();
     if (hands)
         hands->taken_back(path);
     if (answer == plugin_answer::crashed) {
@@ -238,7 +242,7 @@ revision_run::file_outcome revision_run::revise(QString const& path) const {
         }
     } else if (result != text) {
         file_status written;
-        switch (write_to(path).from(result, text, as_read, written)) {
+        switch (write_to(path, renames).from(result, text, as_read, written)) {
         case replacement::done:
             outcome.changed = true;
             // The new content as it reached the disk.
@@ -285,6 +289,7 @@ void revision_run::take(QString const& path, file_outcome& outcome,
 }
 
 void revision_run::finish() {
+    renames.make_them();
     if (!plugin_crashed) {
         try {
             plugin->end_of_revision();

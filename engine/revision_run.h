@@ -4,7 +4,9 @@
 #ifndef STYLE_TARNEL_ENGINE_REVISION_RUN_H
 #define STYLE_TARNEL_ENGINE_REVISION_RUN_H
 
+#include "engine/bytes_in_hand.h"
 #include "engine/change_record_store.h"
+#include "engine/directory_flushes.h"
 #include "engine/files_in_plugin_hands.h"
 #include "engine/plugin_answer.h"
 #include "engine/revision_request.h"
@@ -47,7 +49,8 @@ public:
     bool revise_all(std::function<bool()> const& stop_requested,
                     std::function<void(unsigned long revised, int found)> const& reached);
 
-    // Tells the plugin the run is over, writes the counts in the report, saves the records.
+    // Makes the renames of the revised files durable (one flush per directory), tells the plugin
+    // the run is over, writes the counts in the report, saves the records.
     void finish();
 
     // After `prepare`: the plugin's revision of a text in memory, with the run's addon: `revised`,
@@ -90,6 +93,10 @@ private:
     std::unique_ptr<files_in_plugin_hands> hands;
     change_record_store records;
     mutable std::mutex records_guard;  // workers read the records while this thread writes them
+    // The sources the workers have given to the plugin: the largest goes alone (memory).
+    mutable bytes_in_hand sources_in_hand;
+    // The directories of the files replaced so far, flushed once each before the run reports.
+    mutable directory_flushes renames;
     int worker_count = 1;
 };
 

@@ -48,16 +48,6 @@ bool write_all(int fd, std::string const& text) {
     return true;
 }
 
-// Makes the rename itself durable. A directory that cannot be opened or synced (some file systems
-// refuse) changes nothing for the file, which is complete either way.
-void synced_directory_of(std::string const& path) {
-    int const directory = ::open(directory_of(path).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (directory < 0)
-        return;
-    ::fsync(directory);
-    ::close(directory);
-}
-
 // Holds back the signals that end a process by default while it lives, so that no signal can
 // leave the temporary file behind between its creation and its rename; a pending one is
 // delivered as soon as the file is gone. SIGKILL cannot be held back.
@@ -181,6 +171,15 @@ bool prepared_beside(std::string const& target, struct stat const* original, std
 
 }  // namespace
 
+// A directory that cannot be opened or synced (some file systems refuse) changes nothing for the
+// file, which is complete either way.
+void write_to::flush_the_directory_of(std::string const& target) const {
+    if (later != nullptr)
+        later->owed_by(directory_of(target));
+    else
+        flush_directory(directory_of(target));
+}
+
 bool write_to::from(std::string const& text) const {
     std::string const target = resolved(path);
     struct stat original {};
@@ -197,7 +196,7 @@ bool write_to::from(std::string const& text) const {
         ::unlink(temporary.c_str());
         return false;
     }
-    synced_directory_of(target);
+    flush_the_directory_of(target);
     return true;
 }
 
@@ -231,14 +230,14 @@ replacement write_to::from(std::string const& text, std::string const& read, fil
             ::unlink(temporary.c_str());
             return replacement::failed;
         }
-        synced_directory_of(target);
+        flush_the_directory_of(target);
         written = ours;
         return replacement::done;
     }
     // The old file is now under the temporary name.
     if (still_holds(temporary, read, as_read)) {
         ::unlink(temporary.c_str());
-        synced_directory_of(target);
+        flush_the_directory_of(target);
         written = ours;
         return replacement::done;
     }
@@ -250,6 +249,6 @@ replacement write_to::from(std::string const& text, std::string const& read, fil
     if (::stat(temporary.c_str(), &now_here) == 0 && !file_status(QByteArray(), now_here).same_file_as(ours))
         ::renameat2(AT_FDCWD, temporary.c_str(), AT_FDCWD, target.c_str(), RENAME_EXCHANGE);
     ::unlink(temporary.c_str());
-    synced_directory_of(target);
+    flush_the_directory_of(target);
     return replacement::edited_meanwhile;
 }

@@ -1,6 +1,6 @@
 // Replaces a file's content with new bytes, never leaving it half-written: the bytes go to a
 // temporary file beside it, flushed to the disk, which then takes its place; the directory is
-// flushed before the replacement is reported.
+// flushed before the replacement is reported (by a run, once per directory before its report).
 //
 // A revision replaces a file only while it still holds exactly the text that was revised: the new
 // file is exchanged with the old one in one step (renameat2 with RENAME_EXCHANGE), and the old one,
@@ -17,6 +17,7 @@
 #ifndef STYLE_TARNEL_ENGINE_WRITE_TO_H
 #define STYLE_TARNEL_ENGINE_WRITE_TO_H
 
+#include "engine/directory_flushes.h"
 #include "engine/file_status.h"
 
 #include <QString>
@@ -34,6 +35,9 @@ enum class replacement {
 class write_to {
 public:
     explicit write_to(QString const& path) : path(path.toStdString()) {}
+    // Leaves the flush of the file's directory to `later`, which its owner makes before it
+    // reports the replacement.
+    write_to(QString const& path, directory_flushes& later) : path(path.toStdString()), later(&later) {}
 
     // True when the file now holds `text`. False, with the file as it was, when the file is not
     // writable, a temporary file cannot be made beside it, or any write fails midway (disk full,
@@ -48,7 +52,11 @@ public:
                      file_status& written) const;
 
 private:
+    // Makes the rename in the file's directory durable, now or through `later`.
+    void flush_the_directory_of(std::string const& target) const;
+
     std::string path;
+    directory_flushes* later = nullptr;
 };
 
 #endif

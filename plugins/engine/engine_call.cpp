@@ -109,6 +109,48 @@ unsigned end_of_line(std::string const& code, unsigned offset, unsigned ahead) {
     return static_cast<unsigned>(at);
 }
 
+// The engine tests every token against every range it is given: with hundreds of ranges a pass
+// costs more than one over the whole text. No more than this many go to it.
+std::size_t const most_ranges = 8;
+
+unsigned end_of(clang::tooling::Range const& range) { return range.getOffset() + range.getLength(); }
+
+// The ranges joined across the narrowest gaps between them until no more than `most_ranges` are
+// left; the whole code when they then cover half of it or more, which costs hardly more than that
+// half. Either way every character of the ranges is still formatted.
+std::vector<clang::tooling::Range> fewer(std::vector<clang::tooling::Range> ranges, std::string const& code) {
+    std::sort(ranges.begin(), ranges.end(), [](clang::tooling::Range const& a, clang::tooling::Range const& b) {
+        return a.getOffset() < b.getOffset();
+    });
+    if (ranges.size() > most_ranges) {
+        std::vector<unsigned> gaps;
+        for (std::size_t each = 1; each < ranges.size(); ++each)
+            gaps.push_back(ranges[each].getOffset() - std::min(ranges[each].getOffset(), end_of(ranges[each - 1])));
+        // Closing every gap no wider than the widest of the narrowest (ranges - most) gaps leaves
+        // `most_ranges` ranges at most (fewer when gaps are equally wide).
+        std::vector<unsigned> order = gaps;
+        std::size_t const to_close = ranges.size() - most_ranges;
+        std::nth_element(order.begin(), order.begin() + static_cast<long>(to_close - 1), order.end());
+        unsigned const widest_closed = order[to_close - 1];
+        std::vector<clang::tooling::Range> joined{ranges.front()};
+        for (std::size_t each = 1; each < ranges.size(); ++each) {
+            if (gaps[each - 1] <= widest_closed)
+                joined.back() = clang::tooling::Range(
+                    joined.back().getOffset(),
+                    std::max(end_of(joined.back()), end_of(ranges[each])) - joined.back().getOffset());
+            else
+                joined.push_back(ranges[each]);
+        }
+        ranges = std::move(joined);
+    }
+    std::size_t covered = 0;
+    for (auto const& range : ranges)
+        covered += range.getLength();
+    if (2 * covered >= code.size())
+        return {clang::tooling::Range(0, static_cast<unsigned>(code.size()))};
+    return ranges;
+}
+
 }  // namespace
 
 clang::format::FormatStyle::LineEndingStyle engine_line_ending(line_ending ending) {
@@ -134,7 +176,7 @@ engine_outcome format_with::the_lines_around(std::string const& code,
             widened.emplace_back(begin, end - begin);
         }
     }
-    return formatted(style, code, widened);
+    return formatted(style, code, fewer(std::move(widened), code));
 }
 
 engine_outcome format_with::the_ranges(std::string const& code, std::vector<clang::tooling::Range> const& ranges,

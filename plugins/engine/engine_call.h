@@ -28,7 +28,9 @@ class format_with {
 public:
     explicit format_with(clang::format::FormatStyle const& style) : style(style) {}
     engine_outcome the_code(std::string const& code) const;
-    // Formats only the lines that the ranges touch, and `context` lines around each.
+    // Formats only the lines that the ranges touch, and `context` lines around each; with many
+    // such places, the lines between the nearest are formatted too, and the whole code where they
+    // cover most of it: the engine's cost grows with its tokens times its ranges.
     engine_outcome the_lines_around(std::string const& code, std::vector<clang::tooling::Range> const& ranges,
                                     unsigned context) const;
     // Formats only what the ranges touch and keeps the rest as it is, and moves each of

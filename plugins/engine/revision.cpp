@@ -63,11 +63,12 @@ std::shared_ptr<reviser::run_state const> reviser::options_for(std::string const
 
 std::string reviser::revise(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
     std::string revised;
-    run_on_a_deep_stack([&] { revised = revise_here(source, addon, traits); });
+    run_on_a_deep_stack([&] { revised = revise_here(source, addon, traits, false); });
     return revised;
 }
 
-std::string reviser::revise_here(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
+std::string reviser::revise_here(std::string const& source, std::string const& addon, line_ending_traits const& traits,
+                                 bool next_revision) {
     try {
         text_encoding const encoding = text_encoding::of(source, traits);
         std::optional<std::string> const decoded = encoding.decoded_for_revision(source);
@@ -102,24 +103,42 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
         // A text the engine keeps changing is left as it is: never a half-settled result.
         if (!stable)
             return source;
-        return answer_for(source, *decoded, regions.with_markers_put_back(std::move(outcome.text)), encoding,
-                          language.lexing);
+        bool closers_kept_apart = false;
+        std::string answer = answer_for(source, *decoded, regions.with_markers_put_back(std::move(outcome.text)),
+                                        encoding, language.lexing, &closers_kept_apart);
+        // The engine settled on `>>` where the source keeps `> >`, and so does the answer: what
+        // the next revision reads is then not the text the engine settled, and the engine may lay
+        // it out otherwise (it reads the two closers differently). The answer stands only when
+        // the next revision, made here, gives it back.
+        if (closers_kept_apart && !next_revision && answer != source &&
+            revise_here(answer, addon, traits, true) != answer)
+            return source;
+        return answer;
     } catch (...) {
         return syntax_error;
     }
 }
 
 std::string answer_for(std::string const& source, std::string const& decoded, std::string formatted,
-                       text_encoding const& encoding, lexed_as lexing) {
+                       text_encoding const& encoding, lexed_as lexing, bool* closers_kept_apart) {
+    // A text the engine left as it was keeps its tokens and its brackets, which paired up before:
+    // neither is read again (on a tree already in its style, that is almost every file).
+    bool const unchanged = formatted == decoded;
+    std::size_t const formatted_size = formatted.size();
     // Only white space may change, and white space alone can still join two tokens (`! =` to
     // `!=`) or split one (`u8"x"` to `u8 "x"`): the compiler's tokens must stay the same too.
-    std::optional<std::string> kept = result_with_the_tokens_of(decoded, std::move(formatted), lexing);
+    std::optional<std::string> kept =
+        unchanged ? std::optional<std::string>(std::move(formatted))
+                  : result_with_the_tokens_of(decoded, std::move(formatted), lexing);
     if (!kept)
         return source;
+    // Keeping closers apart only puts blanks back.
+    if (closers_kept_apart != nullptr)
+        *closers_kept_apart = kept->size() != formatted_size;
     // The next revision checks the result as this one checked the source. An unclosed quote
     // (a stray apostrophe) ends at the end of its line; joined with the next line, it takes
     // in brackets that the source had outside it. Such code is no proper source anyway.
-    if (!brackets_are_balanced_in(*kept))
+    if (!unchanged && !brackets_are_balanced_in(*kept))
         return syntax_error;
     std::optional<std::string> encoded = encoding.encoded(*kept);
     if (!encoded || *encoded == source)

@@ -32,8 +32,10 @@ public:
 
 private:
     struct run_state;
-    // revise() on the calling thread's stack.
-    std::string revise_here(std::string const& source, std::string const& addon, line_ending_traits const& traits);
+    // revise() on the calling thread's stack; as the `next_revision` of an answer, that answer is
+    // not proven again.
+    std::string revise_here(std::string const& source, std::string const& addon, line_ending_traits const& traits,
+                            bool next_revision);
     // The options of the addon last asked for; revisions on several threads share it.
     std::shared_ptr<run_state const> options_for(std::string const& addon);
 
@@ -45,9 +47,10 @@ private:
 // What a revision answers for a source once the engine's result has settled: the result encoded
 // as the source was, when it keeps the source's tokens and changes something; the source itself
 // when it would change more than white space or nothing at all; STYLE_TARNEL_SYNTAX_ERROR_TEXT
-// when its brackets no longer pair up.
+// when its brackets no longer pair up. The brackets of `decoded` pair up. `closers_kept_apart`,
+// when given, tells whether the answer keeps apart template closers that the engine joined.
 std::string answer_for(std::string const& source, std::string const& decoded, std::string formatted,
-                       text_encoding const& encoding, lexed_as lexing);
+                       text_encoding const& encoding, lexed_as lexing, bool* closers_kept_apart = nullptr);
 
 // The options inferred from an addon, in clang-format's configuration syntax.
 std::string options_inferred_from(std::string const& addon, language_description const& language);

@@ -1,6 +1,6 @@
 // A run that cannot start, a stop during the preparation, names that would break an addon's
 // header, plugins of another interface version, and revised files that reach the disk before
-// they take the place of the old ones.
+// they take the place of the old ones, their renames before the report.
 #include "tests/harness/built_files.h"
 #include "tests/harness/temporary_bundle.h"
 
@@ -23,7 +23,7 @@ private slots:
     void refuses_a_new_name_with_a_control_character_data();
     void refuses_a_new_name_with_a_control_character();
     void refuses_a_plugin_of_another_interface_version();
-    void flushes_a_revised_file_before_and_after_its_rename();
+    void flushes_revised_files_before_their_renames_and_directories_before_the_report();
 };
 
 void test_refused_starts::a_run_that_cannot_start_exits_1_data() {
@@ -99,14 +99,16 @@ void test_refused_starts::refuses_a_plugin_of_another_interface_version() {
     QCOMPARE(bundle.installed_plugins(), before);
 }
 
-// After a power loss a renamed file whose bytes never reached the disk is empty: the new file is
-// flushed before the rename (an exchange, renameat2, where the file system has it), and the
-// directory after it.
-void test_refused_starts::flushes_a_revised_file_before_and_after_its_rename() {
+// After a power loss a renamed file whose bytes never reached the disk is empty: each new file is
+// flushed before its rename (an exchange, renameat2, where the file system has it). A rename that
+// the report tells of must survive too: every directory holding a replaced file is flushed after
+// its renames and before the report, once per run however many files it holds.
+void test_refused_starts::flushes_revised_files_before_their_renames_and_directories_before_the_report() {
     if (QStandardPaths::findExecutable("strace").isEmpty())
         QSKIP("strace is not installed");
     installed_bundle bundle;
-    QString const file = bundle.write_file("src/a.tst", "a  b\n");
+    QStringList const files{bundle.write_file("src/a.tst", "a  b\n"), bundle.write_file("src/b.tst", "c  d\n"),
+                            bundle.write_file("src/inner/c.tst", "e  f\n")};
     QString const log = bundle.work_directory() + "/calls";
     QProcess process;
     QProcessEnvironment environment = bundle.environment();
@@ -114,19 +116,36 @@ void test_refused_starts::flushes_a_revised_file_before_and_after_its_rename() {
     environment.insert("ASAN_OPTIONS", "detect_leaks=0");
     process.setProcessEnvironment(environment);
     process.setWorkingDirectory(bundle.work_directory());
-    process.start("strace", QStringList{"-f", "-qq", "-e", "trace=fsync,rename,renameat2", "-o", log, bundle.executable(),
-                                        "-l=Test", "-s=Plain", "-p=src"});
+    // -y names the file behind each descriptor: which file or directory a flush was for.
+    process.start("strace", QStringList{"-f", "-qq", "-y", "-e", "trace=fsync,rename,renameat2,write", "-o", log,
+                                        bundle.executable(), "-l=Test", "-s=Plain", "-p=src"});
     run_result const result = result_of_finished(process, 120000);
     QCOMPARE(result.status, 0);
-    QCOMPARE(temporary_bundle::contents_of(file), QByteArray("a b\n"));
-    QStringList calls;
-    for (auto const& line : QString::fromUtf8(temporary_bundle::contents_of(log)).split('\n'))
-        if (line.contains("fsync(") || line.contains("rename(") || line.contains("renameat2("))
-            calls << (line.contains("fsync(") ? "fsync" : "rename") + QString(line.contains("\"" + file + "\"") ? " source" : "");
-    int const renamed = calls.indexOf("rename source");
-    QVERIFY2(renamed > 0, qPrintable(calls.join(", ")));
-    QCOMPARE(calls[renamed - 1], QString("fsync"));
-    QVERIFY2(renamed + 1 < calls.size() && calls[renamed + 1] == "fsync", qPrintable(calls.join(", ")));
+    QStringList const calls = QString::fromUtf8(temporary_bundle::contents_of(log)).split('\n');
+    auto first = [&](auto const& is) {
+        for (int at = 0; at < calls.size(); ++at)
+            if (is(calls[at]))
+                return at;
+        return -1;
+    };
+    int const report = first([](QString const& call) { return call.contains("write(1") && call.contains("It's done."); });
+    QVERIFY2(report > 0, qPrintable(calls.join('\n')));
+    for (QString const& file : files) {
+        QCOMPARE(temporary_bundle::contents_of(file).simplified().size(), 3);
+        QFileInfo const info(file);
+        int const renamed = first([&](QString const& call) {
+            return (call.contains("rename(") || call.contains("renameat2(")) && call.contains("\"" + file + "\"");
+        });
+        QVERIFY2(renamed > 0, qPrintable(file));
+        QString const temporary = info.absolutePath() + "/." + info.fileName() + ".tarnel-";
+        int const flushed = first([&](QString const& call) { return call.contains("fsync(") && call.contains(temporary); });
+        QVERIFY2(flushed >= 0 && flushed < renamed, qPrintable(file));
+        QString const directory = "<" + info.absolutePath() + ">)";
+        QStringList const directory_flushes = calls.filter("fsync(").filter(directory);
+        QCOMPARE(directory_flushes.size(), 1);
+        int const directory_flushed = calls.indexOf(directory_flushes.front());
+        QVERIFY2(renamed < directory_flushed && directory_flushed < report, qPrintable(file));
+    }
 }
 
 QTEST_GUILESS_MAIN(test_refused_starts)
