@@ -112,8 +112,8 @@ private:
 };
 
 // The tab width under which the backslashes that end the lines of the macro stand in one column
-// (the engine lines them up); 8 when no tab precedes them, or no width lines them up.
-int tab_width_read_from(std::vector<form_case> const& forms) {
+// (the engine lines them up), or 0 when no tab precedes them or no width lines them up.
+int tab_width_of_macro_in(std::vector<form_case> const& forms) {
     for (form_case const& form : forms) {
         if (form.structure != "macro" || form.code.find('\t') == std::string::npos)
             continue;
@@ -127,7 +127,96 @@ int tab_width_read_from(std::vector<form_case> const& forms) {
                 return tab_width;
         }
     }
-    return 8;
+    return 0;
+}
+
+bool indented_with_tab(std::string const& line) {
+    std::size_t const text = line.find_first_not_of(" \t");
+    return line.substr(0, text).find('\t') != std::string::npos;
+}
+
+// The column just after the last parenthesis the line leaves open, or -1.
+int column_after_open_parenthesis(std::string const& line, int tab_width) {
+    std::vector<int> open;
+    int column = 0;
+    for (char c : line) {
+        column += c == '\t' ? tab_width - column % tab_width : 1;
+        if (c == '(')
+            open.push_back(column);
+        else if (c == ')' && !open.empty())
+            open.pop_back();
+    }
+    return open.empty() ? -1 : open.back();
+}
+
+// How well a tab width fits the code: lines indented with tabs that stand under the parenthesis the
+// line above leaves open count for it; steps after an opening brace other than the most common one
+// (a tab-indented line under a blank-indented one one step out) count against it.
+struct tab_width_fit {
+    long score = 0;
+    int common_step = 0;
+};
+
+tab_width_fit fit_of(int tab_width, std::vector<std::string> const& codes) {
+    tab_width_fit fit;
+    std::map<int, long> steps;
+    long all_steps = 0;
+    for (std::string const& code : codes) {
+        std::string previous;
+        for (std::string const& line : lines_of(code)) {
+            if (trimmed(line).empty())
+                continue;
+            std::string const last = trimmed(previous);
+            if (!last.empty() && last.back() == '{' && last.find('\\') == std::string::npos) {
+                ++steps[width_of_indent(line, tab_width) - width_of_indent(previous, tab_width)];
+                ++all_steps;
+            } else if (indented_with_tab(line) && !previous.empty() &&
+                       width_of_indent(line, tab_width) == column_after_open_parenthesis(previous, tab_width)) {
+                ++fit.score;
+            }
+            previous = line;
+        }
+    }
+    auto const most_common =
+        std::max_element(steps.begin(), steps.end(), [](auto const& a, auto const& b) { return a.second < b.second; });
+    if (most_common != steps.end()) {
+        fit.common_step = most_common->first;
+        fit.score -= all_steps - most_common->second + (most_common->first <= 0 ? most_common->second : 0);
+    }
+    return fit;
+}
+
+}  // namespace
+
+int tab_width_read_from(std::vector<std::string> const& codes) {
+    int best = 8;
+    tab_width_fit best_fit;
+    bool first = true;
+    for (int tab_width : {8, 4, 2, 3, 6, 5, 7}) {
+        tab_width_fit const fit = fit_of(tab_width, codes);
+        // Among equal fits, one whose indent step is a usual one (a level of two tabs of 8 is
+        // rarer than a level of two tabs of 4); then the order above.
+        bool const better = first || fit.score > best_fit.score ||
+                            (fit.score == best_fit.score && best_fit.common_step > 8 && fit.common_step <= 8);
+        if (better) {
+            best = tab_width;
+            best_fit = fit;
+        }
+        first = false;
+    }
+    return best;
+}
+
+namespace {
+
+int tab_width_read_from(std::vector<form_case> const& forms) {
+    if (int const of_macro = tab_width_of_macro_in(forms))
+        return of_macro;
+    std::vector<std::string> codes;
+    for (form_case const& form : forms)
+        if (form.code.find('\t') != std::string::npos)
+            codes.push_back(form.code);
+    return codes.empty() ? 8 : tarnel_engine::tab_width_read_from(codes);
 }
 
 // The most common step after a line that ends with an opening brace, and tabs if any line starts
@@ -309,6 +398,10 @@ std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
 // Backslashes lined up at the column limit show it exactly; otherwise, the narrowest limit of the
 // table that every line of every form fits in, or none when the longest line passes them all.
 std::string column_limit_read_from(std::vector<form_case> const& forms) {
+    // A short call written over two lines is joined under any limit and kept under none.
+    if (std::string const* kept = forms_by_name(forms).find("kept line break"))
+        if (kept->find('\n') != std::string::npos)
+            return "{ColumnLimit: 0}";
     int const tab_width = tab_width_read_from(forms);
     std::size_t longest = 0;
     std::set<int> backslash_columns;
@@ -325,7 +418,7 @@ std::string column_limit_read_from(std::vector<form_case> const& forms) {
     for (int limit : {80, 100, 120})
         if (longest <= static_cast<std::size_t>(limit))
             return "{ColumnLimit: " + std::to_string(limit) + "}";
-    return "{ColumnLimit: 0}";
+    return forms_by_name(forms).find("kept line break") ? std::string() : "{ColumnLimit: 0}";
 }
 
 // A short block may share the line of its `if`; the loops and the long condition still show where
@@ -396,9 +489,14 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     std::string const limit = column_limit_read_from(forms);
     if (limit.find("AlignEscapedNewlines") != std::string::npos)
         readings.certain.push_back(limit);
+    // A short call kept over two lines shows no limit for certain, and joined, some limit.
+    std::string const* kept = named.find("kept line break");
+    if (kept && kept->find('\n') != std::string::npos)
+        readings.certain.push_back("{ColumnLimit: 0}");
     // Without a limit the engine keeps a call on the line it was written on, as in the catalogue.
     std::string const* call = named.find("long function call");
-    if (call && call->find('\n') != std::string::npos)
+    bool const kept_breaks = kept && kept->find('\n') != std::string::npos;
+    if (!kept_breaks && ((call && call->find('\n') != std::string::npos) || kept))
         readings.ruled_out.push_back("{ColumnLimit: 0}");
     readings.braces = braces_read_from(named);
     return readings;

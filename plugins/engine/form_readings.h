@@ -1,7 +1,8 @@
 // What the forms of an addon show directly, read from their text without the engine: the indent
 // step and tabs, the access-specifier offset, case-label and namespace indentation, brace
 // placement per construct, the blanks before and inside parentheses, where `*` and `&` lean, which
-// short statements share a line, and the narrowest column limit the forms allow (internal to the
+// short statements share a line, the narrowest column limit the forms allow or none where a short
+// call keeps its author's line break, and the width of a tab (internal to the
 // engine library).
 #ifndef TARNEL_ENGINE_FORM_READINGS_H
 #define TARNEL_ENGINE_FORM_READINGS_H
@@ -28,6 +29,12 @@ struct form_readings {
 };
 
 form_readings readings_of(std::vector<form_case> const& forms);
+
+// The width of a tab, read where tabs and blanks must line up: a line indented with tabs under
+// the parenthesis the line above leaves open, and the steps after an opening brace (a tab-indented
+// line one step in from a blank-indented one). 8 when nothing shows another width: code indented
+// with tabs alone does not show it, and the indent step never decides it.
+int tab_width_read_from(std::vector<std::string> const& codes);
 
 }  // namespace tarnel_engine
 
