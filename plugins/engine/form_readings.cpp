@@ -154,7 +154,6 @@ int column_after_open_parenthesis(std::string const& line, int tab_width) {
 // (a tab-indented line under a blank-indented one one step out) count against it.
 struct tab_width_fit {
     long score = 0;
-    int common_step = 0;
 };
 
 tab_width_fit fit_of(int tab_width, std::vector<std::string> const& codes) {
@@ -179,28 +178,23 @@ tab_width_fit fit_of(int tab_width, std::vector<std::string> const& codes) {
     }
     auto const most_common =
         std::max_element(steps.begin(), steps.end(), [](auto const& a, auto const& b) { return a.second < b.second; });
-    if (most_common != steps.end()) {
-        fit.common_step = most_common->first;
+    if (most_common != steps.end())
         fit.score -= all_steps - most_common->second + (most_common->first <= 0 ? most_common->second : 0);
-    }
     return fit;
 }
 
 }  // namespace
 
 int tab_width_read_from(std::vector<std::string> const& codes) {
+    // Among equal fits, the first in this order: tabs of 8 where nothing tells.
     int best = 8;
-    tab_width_fit best_fit;
+    long best_score = 0;
     bool first = true;
-    for (int tab_width : {8, 4, 2, 3, 6, 5, 7}) {
-        tab_width_fit const fit = fit_of(tab_width, codes);
-        // Among equal fits, one whose indent step is a usual one (a level of two tabs of 8 is
-        // rarer than a level of two tabs of 4); then the order above.
-        bool const better = first || fit.score > best_fit.score ||
-                            (fit.score == best_fit.score && best_fit.common_step > 8 && fit.common_step <= 8);
-        if (better) {
+    for (int tab_width : {8, 4, 2, 3}) {
+        long const score = fit_of(tab_width, codes).score;
+        if (first || score > best_score) {
             best = tab_width;
-            best_fit = fit;
+            best_score = score;
         }
         first = false;
     }
@@ -244,7 +238,17 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
         return std::string();
     auto const most_common =
         std::max_element(steps.begin(), steps.end(), [](auto const& a, auto const& b) { return a.second < b.second; });
-    std::string const width = std::to_string(most_common->first);
+    std::string width = std::to_string(most_common->first);
+    // Braces indented by one step (the closing brace of an `if` further in than the `if`) put the
+    // statements two steps in: the brace's own step is the indent.
+    for (form_case const& form : forms) {
+        std::vector<std::string> const lines = lines_of(form.code);
+        if (form.structure != "if" || lines.size() < 3 || !starts_with(trimmed(lines.back()), "}"))
+            continue;
+        int const brace_step = width_of_indent(lines.back(), tab_width) - width_of_indent(lines.front(), tab_width);
+        if (brace_step > 0 && brace_step < most_common->first)
+            width = std::to_string(brace_step);
+    }
     return tabs ? "{IndentWidth: " + width + ", TabWidth: " + std::to_string(tab_width) + ", UseTab: ForIndentation}"
                 : "{IndentWidth: " + width + ", UseTab: Never}";
 }
@@ -464,8 +468,12 @@ std::string braces_read_from(forms_by_name const& forms) {
             wrapping += std::string(wrapping.empty() ? "" : ", ") + name + ": " +
                         flag(code->find('}') > code->find('\n', code->find('{')));
     }
+    // Indented braces: the opening one on a line of its own further in than its statement, or else
+    // the closing one.
     int const statement = forms.line_starting("if", "if");
-    int const brace = forms.line_starting("if", "{");
+    int brace = forms.line_starting("if", "{");
+    if (brace < 0)
+        brace = forms.line_starting("if", "}");
     if (statement >= 0 && brace >= 0)
         wrapping += std::string(wrapping.empty() ? "" : ", ") + "IndentBraces: " +
                     flag(forms.indent_of_line("if", brace) > forms.indent_of_line("if", statement));

@@ -131,11 +131,13 @@ std::vector<option_group> make_groups() {
         flag("SpaceBeforeCaseColon"),
         one_of("MaxEmptyLinesToKeep", {"1", "2"}),
     };
-    // How lines break under the column limit: for each penalty, values that lay the forms (and real
-    // code) out differently; values that give the same forms as one of these are left out, as the
-    // search keeps the base's value where several give the same forms. And the width of a tab.
+    // The indent step alone, whatever the tabs (a step read twice over where braces are indented
+    // is mended without moving the tabs). How lines break under the column limit: for each
+    // penalty, values that lay the forms (and real code) out differently; values that give the
+    // same forms as one of these are left out, as the search keeps the base's value where several
+    // give the same forms.
     std::vector<option_group> const breaks = {
-        one_of("TabWidth", {"8", "4"}),
+        one_of("IndentWidth", {"2", "3", "4", "8"}),
         one_of("PenaltyReturnTypeOnItsOwnLine", {"60", "200"}),
         one_of("PenaltyBreakAssignment", {"2", "100"}),
         one_of("PenaltyBreakBeforeFirstCallParameter", {"19", "100"}),
@@ -153,7 +155,7 @@ std::vector<option_group> const& option_groups() {
 }
 
 bool applies_to_every_structure(std::string const& group_name) {
-    return group_name == "Indentation" || group_name == "UseTab" || group_name == "TabWidth" ||
+    return group_name == "Indentation" || group_name == "UseTab" || group_name == "IndentWidth" ||
            group_name == "BreakBeforeBraces";
 }
 
