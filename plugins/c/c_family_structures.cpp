@@ -81,11 +81,11 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "How the parameters of a declaration too long for one line are laid out.",
          {"AlignAfterOpenBracket", "BinPackParameters", "AllowAllParametersOfDeclarationOnNextLine", "ColumnLimit",
           "ContinuationIndentWidth", "IndentWrappedFunctionNames", "BreakAfterReturnType"}},
-        {"long return type", "static struct SOME_LONG *SOME_LONG(type SOME_LONG, type SOME_LONG);",
+        {"long return type", "static struct SOME_LONG SOME_LONG(type SOME_LONG, type SOME_LONG);",
          "A declaration whose return type and name leave no room for its parameters: the return type on a line of its "
          "own, or the parameters broken.",
          {"PenaltyReturnTypeOnItsOwnLine", "BreakAfterReturnType", "AlignAfterOpenBracket", "IndentWrappedFunctionNames",
-          "ColumnLimit", "ContinuationIndentWidth", "PointerAlignment"}},
+          "ColumnLimit", "ContinuationIndentWidth"}},
         {"long string", "name_part(SOME, \"a string literal as long as a message of some length, or longer\");",
          "A call with a string too long for its line: where the line breaks around it; the string itself is never split.",
          {"PenaltyExcessCharacter", "AlignAfterOpenBracket", "ColumnLimit", "ContinuationIndentWidth"}},
