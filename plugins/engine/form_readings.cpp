@@ -185,20 +185,21 @@ tab_width_fit fit_of(int tab_width, std::vector<std::string> const& codes) {
 
 }  // namespace
 
+int tab_width_shown_by(std::vector<std::string> const& codes) {
+    // The first width of this order that fits better than every other, or 0.
+    std::vector<int> const widths = {8, 4, 2, 3};
+    std::vector<long> scores;
+    for (int tab_width : widths)
+        scores.push_back(fit_of(tab_width, codes).score);
+    auto const best = std::max_element(scores.begin(), scores.end());
+    if (std::count(scores.begin(), scores.end(), *best) == static_cast<long>(scores.size()))
+        return 0;
+    return widths[static_cast<std::size_t>(best - scores.begin())];
+}
+
 int tab_width_read_from(std::vector<std::string> const& codes) {
-    // Among equal fits, the first in this order: tabs of 8 where nothing tells.
-    int best = 8;
-    long best_score = 0;
-    bool first = true;
-    for (int tab_width : {8, 4, 2, 3}) {
-        long const score = fit_of(tab_width, codes).score;
-        if (first || score > best_score) {
-            best = tab_width;
-            best_score = score;
-        }
-        first = false;
-    }
-    return best;
+    int const shown = tab_width_shown_by(codes);
+    return shown ? shown : 8;
 }
 
 namespace {

@@ -36,6 +36,9 @@ form_readings readings_of(std::vector<form_case> const& forms);
 // with tabs alone does not show it, and the indent step never decides it.
 int tab_width_read_from(std::vector<std::string> const& codes);
 
+// The same width where some line shows it, or 0 where every width fits the code alike.
+int tab_width_shown_by(std::vector<std::string> const& codes);
+
 }  // namespace tarnel_engine
 
 #endif

@@ -59,8 +59,10 @@ line_ending_traits traits_of_8_bit(std::string const& source) {
 }
 
 // The smallest usual limit that nearly every line fits in (a few long strings and URLs go over any
-// limit), or none; with the width of a tab read where tabs and blanks line up (form_readings.h),
-// or 0 when no line begins with a tab.
+// limit), or none; with the width of a tab (0 when no line begins with one): the width the code
+// shows where tabs and blanks line up (form_readings.h), or where none does (code indented with
+// tabs alone, its continuation lines lined up with the same tabs), the width under which nearly
+// all lines come closest to that limit.
 struct column_reading {
     std::string limit;
     int tab_width = 0;
@@ -70,27 +72,39 @@ column_reading column_limit_read_from(std::vector<std::string> const& pieces) {
     bool tabs = false;
     for (std::string const& piece : pieces)
         tabs = tabs || piece[0] == '\t' || piece.find("\n\t") != std::string::npos;
-    int const tab_width = tabs ? tab_width_read_from(pieces) : 8;
-    std::vector<std::size_t> widths;
-    for (std::string const& piece : pieces)
-        for (std::string const& line : lines_of(piece)) {
-            std::size_t width = 0;
-            for (char c : line)
-                width += c == '\t' ? tab_width - width % tab_width : 1;
-            if (width > 0)
-                widths.push_back(width);
+    int const shown = tabs ? tab_width_shown_by(pieces) : 8;
+    column_reading best;
+    std::size_t best_slack = 0;
+    for (int tab_width : {8, 4, 2}) {
+        if (shown && tab_width != shown)
+            continue;
+        std::vector<std::size_t> widths;
+        for (std::string const& piece : pieces)
+            for (std::string const& line : lines_of(piece)) {
+                std::size_t width = 0;
+                for (char c : line)
+                    width += c == '\t' ? tab_width - width % tab_width : 1;
+                if (width > 0)
+                    widths.push_back(width);
+            }
+        if (widths.empty())
+            return best;
+        std::sort(widths.begin(), widths.end());
+        std::size_t const nearly_all = widths[(widths.size() - 1) * 995 / 1000];
+        column_reading reading{"{ColumnLimit: 0}", tabs ? tab_width : 0};
+        std::size_t slack = 1000;
+        for (int limit : {80, 100, 120})
+            if (nearly_all <= static_cast<std::size_t>(limit)) {
+                reading.limit = "{ColumnLimit: " + std::to_string(limit) + "}";
+                slack = static_cast<std::size_t>(limit) - nearly_all;
+                break;
+            }
+        if (best.limit.empty() || slack < best_slack) {
+            best = reading;
+            best_slack = slack;
         }
-    if (widths.empty())
-        return column_reading();
-    std::sort(widths.begin(), widths.end());
-    std::size_t const nearly_all = widths[(widths.size() - 1) * 995 / 1000];
-    column_reading reading{"{ColumnLimit: 0}", tabs ? tab_width : 0};
-    for (int limit : {80, 100, 120})
-        if (nearly_all <= static_cast<std::size_t>(limit)) {
-            reading.limit = "{ColumnLimit: " + std::to_string(limit) + "}";
-            break;
-        }
-    return reading;
+    }
+    return best;
 }
 
 // The side `*` and `&` lean to in declarations, where one side clearly outnumbers the other.
