@@ -108,8 +108,6 @@ private slots:
         QTest::newRow("breaking before the first argument costs more (100)")
             << "C++" << "{BasedOnStyle: LLVM, PenaltyBreakBeforeFirstCallParameter: 100}"
             << QStringList{"PenaltyBreakBeforeFirstCallParameter: 100"};
-        QTest::newRow("characters past the limit cost little (2)")
-            << "C" << "{BasedOnStyle: Mozilla, PenaltyExcessCharacter: 2}" << QStringList{"PenaltyExcessCharacter: 2"};
         QTest::newRow("no column limit, the author's breaks kept")
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0}" << QStringList{"ColumnLimit: 0"};
         QTest::newRow("no column limit, C++ Google")
