@@ -55,7 +55,8 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "A condition with two branches: whether `else` shares the line of the closing brace.",
          {"BraceWrapping.AfterControlStatement", "BraceWrapping.BeforeElse"}},
         {"kept line break", "name(SOME,\n     SOME);",
-         "A short call its author wrote over two lines: joined under a column limit, kept as written under none.",
+         "A short call its author wrote over two lines: kept so where the style has no column limit and keeps the "
+         "author's breaks, joined otherwise.",
          {"ColumnLimit", "AlignAfterOpenBracket", "ContinuationIndentWidth", "SpaceBeforeParens"}},
         {"long assignment", "name = SOME_LONG + SOME_LONG * SOME_LONG - SOME_LONG;",
          "How an expression too long for one line breaks: before or after its operators, and how far the rest is indented.",

@@ -403,7 +403,7 @@ std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
 // Backslashes lined up at the column limit show it exactly; otherwise, the narrowest limit of the
 // table that every line of every form fits in, or none when the longest line passes them all.
 std::string column_limit_read_from(std::vector<form_case> const& forms) {
-    // A short call written over two lines is joined under any limit and kept under none.
+    // A short call written over two lines is joined under any limit; kept, there is none.
     if (std::string const* kept = forms_by_name(forms).find("kept line break"))
         if (kept->find('\n') != std::string::npos)
             return "{ColumnLimit: 0}";
@@ -423,7 +423,7 @@ std::string column_limit_read_from(std::vector<form_case> const& forms) {
     for (int limit : {80, 100, 120})
         if (longest <= static_cast<std::size_t>(limit))
             return "{ColumnLimit: " + std::to_string(limit) + "}";
-    return forms_by_name(forms).find("kept line break") ? std::string() : "{ColumnLimit: 0}";
+    return "{ColumnLimit: 0}";
 }
 
 // A short block may share the line of its `if`; the loops and the long condition still show where
@@ -498,14 +498,15 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     std::string const limit = column_limit_read_from(forms);
     if (limit.find("AlignEscapedNewlines") != std::string::npos)
         readings.certain.push_back(limit);
-    // A short call kept over two lines shows no limit for certain, and joined, some limit.
+    // A short call kept over two lines shows no limit for certain (joined, it shows nothing: some
+    // ways of breaking after a `(` join it under no limit too).
     std::string const* kept = named.find("kept line break");
-    if (kept && kept->find('\n') != std::string::npos)
+    bool const kept_breaks = kept && kept->find('\n') != std::string::npos;
+    if (kept_breaks)
         readings.certain.push_back("{ColumnLimit: 0}");
     // Without a limit the engine keeps a call on the line it was written on, as in the catalogue.
     std::string const* call = named.find("long function call");
-    bool const kept_breaks = kept && kept->find('\n') != std::string::npos;
-    if (!kept_breaks && ((call && call->find('\n') != std::string::npos) || kept))
+    if (!kept_breaks && call && call->find('\n') != std::string::npos)
         readings.ruled_out.push_back("{ColumnLimit: 0}");
     readings.braces = braces_read_from(named);
     return readings;
