@@ -11,11 +11,18 @@
 //       with that value, the forms that this changes rewritten as the engine lays them out; kept
 //       when the edited options reproduce their own forms and some form changed. Fields: addon,
 //       edit, forms, fixed points, seconds (cold).
+//   inference_bench carries <C|C++> <count> <seed> <source>...
+//       what an addon carries of its options: the same random sets as round-trip, each one's addon
+//       written, the sources revised with it as a user's run does, and compared line by line with
+//       the engine run with the generating options themselves (comments reflowed on neither side).
+//       Fields: set, lines, lines the same, the option groups whose value the inferred options
+//       lose (comma-separated), the generating options.
 //   inference_bench warm <addon>...
 //       seconds to obtain the options of each addon in this process (from the disk cache when a
 //       previous run filled it).
 #include "addon_forms.h"
 #include "c_language.h"
+#include "code_sample.h"
 #include "cpp_language.h"
 #include "engine_call.h"
 #include "inference_cache.h"
@@ -23,11 +30,13 @@
 #include "option_moves.h"
 #include "placeholder_instances.h"
 #include "revision.h"
+#include "style_learning.h"
 #include "token_safe_settings.h"
 #include "white_space.h"
 
 #include <QFile>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdint>
 #include <iostream>
@@ -109,21 +118,37 @@ bool moved(FormatStyle const& style, std::string const& candidate, FormatStyle& 
     return tarnel_engine::apply_candidate(result, candidate) && !tarnel_engine::same_options(result, style);
 }
 
+// One random option set: a random predefined base, then each group at the base's value or one of
+// the table's, with equal chances.
+FormatStyle drawn_from(std::mt19937& random) {
+    auto const& groups = tarnel_engine::option_groups();
+    auto const& bases = tarnel_engine::names_of_predefined_styles();
+    FormatStyle style = tarnel_engine::token_safe_predefined_style(bases[random() % bases.size()]);
+    for (std::size_t group = 0; group < groups.size(); ++group) {
+        std::size_t const pick = random() % (groups[group].candidates.size() + 1);
+        if (pick < groups[group].candidates.size())
+            tarnel_engine::apply_candidate(style, groups[group].candidates[pick]);
+    }
+    tarnel_engine::make_token_safe(style);
+    return style;
+}
+
+// Whether the two styles hold the same value of the group: each of its values changes both or neither.
+bool same_value_of(tarnel_engine::option_group const& group, FormatStyle const& one, FormatStyle const& other) {
+    for (std::string const& candidate : group.candidates) {
+        FormatStyle in_one, in_other;
+        if (moved(one, candidate, in_one) != moved(other, candidate, in_other))
+            return false;
+    }
+    return true;
+}
+
 int round_trip(std::string const& language_name, int count, unsigned seed, std::string const& directory) {
     tarnel_engine::language_description const& language = language_name == "C" ? c_language() : cpp_language();
     std::mt19937 random(seed);
     auto const& groups = tarnel_engine::option_groups();
-    auto const& bases = tarnel_engine::names_of_predefined_styles();
     for (int set = 0; set < count; ++set) {
-        FormatStyle style = tarnel_engine::token_safe_predefined_style(bases[random() % bases.size()]);
-        // Each group: the base's value or one of the table's, with equal chances.
-        std::vector<std::string> drawn(groups.size());
-        for (std::size_t group = 0; group < groups.size(); ++group) {
-            std::size_t const pick = random() % (groups[group].candidates.size() + 1);
-            if (pick < groups[group].candidates.size() && tarnel_engine::apply_candidate(style, groups[group].candidates[pick]))
-                drawn[group] = groups[group].candidates[pick];
-        }
-        tarnel_engine::make_token_safe(style);
+        FormatStyle const style = drawn_from(random);
         std::string const configuration = clang::format::configurationAsText(style);
         std::string const name = language_name + "-" + std::to_string(set);
         std::string const addon = tarnel_engine::addon_written_in(configuration, name, language);
@@ -152,14 +177,7 @@ int round_trip(std::string const& language_name, int count, unsigned seed, std::
             if (!is_shown)
                 continue;
             ++shown;
-            bool same = true;
-            for (std::string const& candidate : groups[group].candidates) {
-                FormatStyle in_generating, in_inferred;
-                bool const changes_generating = moved(style, candidate, in_generating);
-                bool const changes_inferred = moved(inferred, candidate, in_inferred);
-                same = same && changes_generating == changes_inferred;
-            }
-            recovered += same;
+            recovered += same_value_of(groups[group], style, inferred);
         }
         std::cout << name << "\t" << reproducible << "\t" << forms.size() << "\t" << fixed << "\t" << shown << "\t"
                   << recovered << "\t" << took << "\t" << one_line(configuration) << std::endl;
@@ -192,6 +210,43 @@ int edits(std::vector<std::string> const& paths) {
     return 0;
 }
 
+int carries(std::string const& language_name, int count, unsigned seed, std::vector<std::string> const& paths) {
+    tarnel_engine::language_description const& language = language_name == "C" ? c_language() : cpp_language();
+    std::vector<std::string> sources;
+    for (std::string const& path : paths)
+        sources.push_back(contents_of(path));
+    std::mt19937 random(seed);
+    tarnel_engine::reviser revisions(language);
+    for (int set = 0; set < count; ++set) {
+        FormatStyle const style = drawn_from(random);
+        std::string const configuration = clang::format::configurationAsText(style);
+        std::string const name = language_name + "-" + std::to_string(set);
+        std::string const addon = tarnel_engine::addon_written_in(configuration, name, language);
+        unsigned long lines = 0, same = 0;
+        for (std::string const& source : sources) {
+            tarnel_engine::engine_outcome const wanted = tarnel_engine::format_with(style).the_code(source);
+            std::string const revised = revisions.revise(source, addon, {"\n", " "});
+            unsigned long const of_source = tarnel_engine::lines_of(wanted.text).size();
+            lines += of_source;
+            if (revised != STYLE_TARNEL_SYNTAX_ERROR_TEXT)
+                same += tarnel_engine::lines_left_between(wanted.text, revised);
+        }
+        FormatStyle const inferred = tarnel_engine::inference_cache::shared().style_for(addon, language);
+        // The groups that some structure of the language shows, or that apply to every one.
+        std::string lost;
+        for (auto const& group : tarnel_engine::option_groups()) {
+            bool shown = tarnel_engine::applies_to_every_structure(group.name);
+            for (tarnel_engine::structure const& each : language.structures)
+                shown = shown || std::find(each.decides.begin(), each.decides.end(), group.name) != each.decides.end();
+            if (shown && !same_value_of(group, style, inferred))
+                lost += (lost.empty() ? "" : ",") + group.name;
+        }
+        std::cout << name << "\t" << lines << "\t" << same << "\t" << (lost.empty() ? "-" : lost) << "\t"
+                  << one_line(configuration) << std::endl;
+    }
+    return 0;
+}
+
 int warm(std::vector<std::string> const& paths) {
     for (std::string const& path : paths) {
         std::string const addon = contents_of(path);
@@ -211,8 +266,12 @@ int main(int argc, char** argv) {
                           arguments[4]);
     if (arguments.size() >= 2 && arguments[0] == "edits")
         return edits({arguments.begin() + 1, arguments.end()});
+    if (arguments.size() >= 5 && arguments[0] == "carries")
+        return carries(arguments[1], std::stoi(arguments[2]), static_cast<unsigned>(std::stoul(arguments[3])),
+                       {arguments.begin() + 4, arguments.end()});
     if (arguments.size() >= 2 && arguments[0] == "warm")
         return warm({arguments.begin() + 1, arguments.end()});
-    std::cerr << "usage: inference_bench round-trip <C|C++> <count> <seed> <directory> | edits <addon>... | warm <addon>...\n";
+    std::cerr << "usage: inference_bench round-trip <C|C++> <count> <seed> <directory> | edits <addon>... |\n"
+                 "       carries <C|C++> <count> <seed> <source>... | warm <addon>...\n";
     return 2;
 }

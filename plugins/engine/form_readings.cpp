@@ -114,8 +114,8 @@ private:
 };
 
 // The tab width under which the backslashes that end the lines of the macro stand in one column
-// (the engine lines them up); 8 when no tab precedes them, or no width lines them up.
-int tab_width_read_from(std::vector<form_case> const& forms) {
+// (the engine lines them up), or 0 when no tab precedes them or no width lines them up.
+int tab_width_of_macro_in(std::vector<form_case> const& forms) {
     for (form_case const& form : forms) {
         if (form.structure != "macro" || form.code.find('\t') == std::string::npos)
             continue;
@@ -129,7 +129,91 @@ int tab_width_read_from(std::vector<form_case> const& forms) {
                 return tab_width;
         }
     }
-    return 8;
+    return 0;
+}
+
+bool indented_with_tab(std::string const& line) {
+    std::size_t const text = line.find_first_not_of(" \t");
+    return line.substr(0, text).find('\t') != std::string::npos;
+}
+
+// The column just after the last parenthesis the line leaves open, or -1.
+int column_after_open_parenthesis(std::string const& line, int tab_width) {
+    std::vector<int> open;
+    int column = 0;
+    for (char c : line) {
+        column += c == '\t' ? tab_width - column % tab_width : 1;
+        if (c == '(')
+            open.push_back(column);
+        else if (c == ')' && !open.empty())
+            open.pop_back();
+    }
+    return open.empty() ? -1 : open.back();
+}
+
+// How well a tab width fits the code: lines indented with tabs that stand under the parenthesis the
+// line above leaves open count for it; steps after an opening brace other than the most common one
+// (a tab-indented line under a blank-indented one one step out) count against it.
+struct tab_width_fit {
+    long score = 0;
+};
+
+tab_width_fit fit_of(int tab_width, std::vector<std::string> const& codes) {
+    tab_width_fit fit;
+    std::map<int, long> steps;
+    long all_steps = 0;
+    for (std::string const& code : codes) {
+        std::string previous;
+        for (std::string const& line : lines_of(code)) {
+            if (trimmed(line).empty())
+                continue;
+            std::string const last = trimmed(previous);
+            if (!last.empty() && last.back() == '{' && last.find('\\') == std::string::npos) {
+                ++steps[width_of_indent(line, tab_width) - width_of_indent(previous, tab_width)];
+                ++all_steps;
+            } else if (indented_with_tab(line) && !previous.empty() &&
+                       width_of_indent(line, tab_width) == column_after_open_parenthesis(previous, tab_width)) {
+                ++fit.score;
+            }
+            previous = line;
+        }
+    }
+    auto const most_common =
+        std::max_element(steps.begin(), steps.end(), [](auto const& a, auto const& b) { return a.second < b.second; });
+    if (most_common != steps.end())
+        fit.score -= all_steps - most_common->second + (most_common->first <= 0 ? most_common->second : 0);
+    return fit;
+}
+
+}  // namespace
+
+int tab_width_shown_by(std::vector<std::string> const& codes) {
+    // The first width of this order that fits better than every other, or 0.
+    std::vector<int> const widths = {8, 4, 2, 3};
+    std::vector<long> scores;
+    for (int tab_width : widths)
+        scores.push_back(fit_of(tab_width, codes).score);
+    auto const best = std::max_element(scores.begin(), scores.end());
+    if (std::count(scores.begin(), scores.end(), *best) == static_cast<long>(scores.size()))
+        return 0;
+    return widths[static_cast<std::size_t>(best - scores.begin())];
+}
+
+int tab_width_read_from(std::vector<std::string> const& codes) {
+    int const shown = tab_width_shown_by(codes);
+    return shown ? shown : 8;
+}
+
+namespace {
+
+int tab_width_read_from(std::vector<form_case> const& forms) {
+    if (int const of_macro = tab_width_of_macro_in(forms))
+        return of_macro;
+    std::vector<std::string> codes;
+    for (form_case const& form : forms)
+        if (form.code.find('\t') != std::string::npos)
+            codes.push_back(form.code);
+    return codes.empty() ? 8 : tarnel_engine::tab_width_read_from(codes);
 }
 
 // The most common step after a line that ends with an opening brace, and tabs if any line starts
@@ -157,7 +241,17 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
         return std::string();
     auto const most_common =
         std::max_element(steps.begin(), steps.end(), [](auto const& a, auto const& b) { return a.second < b.second; });
-    std::string const width = std::to_string(most_common->first);
+    std::string width = std::to_string(most_common->first);
+    // Braces indented by one step (the closing brace of an `if` further in than the `if`) put the
+    // statements two steps in: the brace's own step is the indent.
+    for (form_case const& form : forms) {
+        std::vector<std::string> const lines = lines_of(form.code);
+        if (form.structure != "if" || lines.size() < 3 || !starts_with(trimmed(lines.back()), "}"))
+            continue;
+        int const brace_step = width_of_indent(lines.back(), tab_width) - width_of_indent(lines.front(), tab_width);
+        if (brace_step > 0 && brace_step < most_common->first)
+            width = std::to_string(brace_step);
+    }
     return tabs ? "{IndentWidth: " + width + ", TabWidth: " + std::to_string(tab_width) + ", UseTab: ForIndentation}"
                 : "{IndentWidth: " + width + ", UseTab: Never}";
 }
@@ -311,6 +405,10 @@ std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
 // Backslashes lined up at the column limit show it exactly; otherwise, the narrowest limit of the
 // table that every line of every form fits in, or none when the longest line passes them all.
 std::string column_limit_read_from(std::vector<form_case> const& forms) {
+    // A short call written over two lines is joined under any limit; kept, there is none.
+    if (std::string const* kept = forms_by_name(forms).find("kept line break"))
+        if (kept->find('\n') != std::string::npos)
+            return "{ColumnLimit: 0}";
     int const tab_width = tab_width_read_from(forms);
     std::size_t longest = 0;
     std::set<int> backslash_columns;
@@ -399,8 +497,12 @@ std::string braces_read_from(forms_by_name const& forms) {
             wrapping += std::string(wrapping.empty() ? "" : ", ") + name + ": " +
                         flag(code->find('}') > code->find('\n', code->find('{')));
     }
+    // Indented braces: the opening one on a line of its own further in than its statement, or else
+    // the closing one.
     int const statement = forms.line_starting("if", "if");
-    int const brace = forms.line_starting("if", "{");
+    int brace = forms.line_starting("if", "{");
+    if (brace < 0)
+        brace = forms.line_starting("if", "}");
     if (statement >= 0 && brace >= 0)
         wrapping += std::string(wrapping.empty() ? "" : ", ") + "IndentBraces: " +
                     flag(forms.indent_of_line("if", brace) > forms.indent_of_line("if", statement));
@@ -424,9 +526,15 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     std::string const limit = column_limit_read_from(forms);
     if (limit.find("AlignEscapedNewlines") != std::string::npos)
         readings.certain.push_back(limit);
+    // A short call kept over two lines shows no limit for certain (joined, it shows nothing: some
+    // ways of breaking after a `(` join it under no limit too).
+    std::string const* kept = named.find("kept line break");
+    bool const kept_breaks = kept && kept->find('\n') != std::string::npos;
+    if (kept_breaks)
+        readings.certain.push_back("{ColumnLimit: 0}");
     // Without a limit the engine keeps a call on the line it was written on, as in the catalogue.
     std::string const* call = named.find("long function call");
-    if (call && call->find('\n') != std::string::npos)
+    if (!kept_breaks && call && call->find('\n') != std::string::npos)
         readings.ruled_out.push_back("{ColumnLimit: 0}");
     readings.braces = braces_read_from(named);
     std::string const blank_lines = blank_lines_read_from(named);

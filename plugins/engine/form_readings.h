@@ -1,8 +1,9 @@
 // What the forms of an addon show directly, read from their text without the engine: the indent
 // step and tabs, the access-specifier offset, case-label and namespace indentation, brace
 // placement per construct, the blanks before and inside parentheses, where `*` and `&` lean, which
-// short statements share a line, how many blank lines are kept, the macros used as loops, and the
-// narrowest column limit the forms allow (internal to the engine library).
+// short statements share a line, how many blank lines are kept, the macros used as loops, the
+// narrowest column limit the forms allow or none where a short call keeps its author's line
+// break, and the width of a tab (internal to the engine library).
 #ifndef TARNEL_ENGINE_FORM_READINGS_H
 #define TARNEL_ENGINE_FORM_READINGS_H
 
@@ -32,6 +33,15 @@ struct form_readings {
 };
 
 form_readings readings_of(std::vector<form_case> const& forms);
+
+// The width of a tab, read where tabs and blanks must line up: a line indented with tabs under
+// the parenthesis the line above leaves open, and the steps after an opening brace (a tab-indented
+// line one step in from a blank-indented one). 8 when nothing shows another width: code indented
+// with tabs alone does not show it, and the indent step never decides it.
+int tab_width_read_from(std::vector<std::string> const& codes);
+
+// The same width where some line shows it, or 0 where every width fits the code alike.
+int tab_width_shown_by(std::vector<std::string> const& codes);
 
 }  // namespace tarnel_engine
 

@@ -5,6 +5,7 @@
 #include "bracket_balance.h"
 #include "code_sample.h"
 #include "conditional_passes.h"
+#include "form_readings.h"
 #include "engine_limits.h"
 #include "form_conflicts.h"
 #include "loop_macros.h"
@@ -59,8 +60,10 @@ line_ending_traits traits_of_8_bit(std::string const& source) {
 }
 
 // The smallest usual limit that nearly every line fits in (a few long strings and URLs go over any
-// limit), or none; with the width of a tab under which nearly all lines come closest to that limit
-// (indentation by tabs alone does not show it), or 0 when no line begins with a tab.
+// limit), or none; with the width of a tab (0 when no line begins with one): the width the code
+// shows where tabs and blanks line up (form_readings.h), or where none does (code indented with
+// tabs alone, its continuation lines lined up with the same tabs), the width under which nearly
+// all lines come closest to that limit.
 struct column_reading {
     std::string limit;
     int tab_width = 0;
@@ -70,9 +73,12 @@ column_reading column_limit_read_from(std::vector<std::string> const& pieces) {
     bool tabs = false;
     for (std::string const& piece : pieces)
         tabs = tabs || piece[0] == '\t' || piece.find("\n\t") != std::string::npos;
+    int const shown = tabs ? tab_width_shown_by(pieces) : 8;
     column_reading best;
     std::size_t best_slack = 0;
     for (int tab_width : {8, 4, 2}) {
+        if (shown && tab_width != shown)
+            continue;
         std::vector<std::size_t> widths;
         for (std::string const& piece : pieces)
             for (std::string const& line : lines_of(piece)) {
@@ -98,8 +104,6 @@ column_reading column_limit_read_from(std::vector<std::string> const& pieces) {
             best = reading;
             best_slack = slack;
         }
-        if (!tabs)
-            break;
     }
     return best;
 }

@@ -105,6 +105,94 @@ private slots:
         QCOMPARE(forms_not_coming_back_in(addon, description), QStringList());
     }
 
+    // Options the forms of how lines break and of nested blocks show: each value comes back from
+    // the forms written in it (a penalty away from the base's where the forms show another, tabs of
+    // their own width whatever the indent step, no column limit where a short call keeps its line
+    // break; tabs for indentation with an indent of 2 used to come back as no tabs at all).
+    void break_and_tab_options_come_back_data() {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QStringList>("inferred");
+        // 200 and the 1000 of another base lay every form out alike: either, but not LLVM's 60.
+        QTest::newRow("return type on its own line less often (200)")
+            << "C" << "{BasedOnStyle: LLVM, PenaltyReturnTypeOnItsOwnLine: 200}"
+            << QStringList{"!PenaltyReturnTypeOnItsOwnLine: 60"};
+        QTest::newRow("return type on its own line more often (60)")
+            << "C++" << "{BasedOnStyle: Google, PenaltyReturnTypeOnItsOwnLine: 60}"
+            << QStringList{"PenaltyReturnTypeOnItsOwnLine: 60"};
+        QTest::newRow("breaking after = costs more (100)")
+            << "C" << "{BasedOnStyle: LLVM, PenaltyBreakAssignment: 100}" << QStringList{"PenaltyBreakAssignment: 100"};
+        QTest::newRow("breaking before the first argument costs more (100)")
+            << "C++" << "{BasedOnStyle: LLVM, PenaltyBreakBeforeFirstCallParameter: 100}"
+            << QStringList{"PenaltyBreakBeforeFirstCallParameter: 100"};
+        QTest::newRow("no column limit, the author's breaks kept")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0}" << QStringList{"ColumnLimit: 0"};
+        QTest::newRow("no column limit, C++ Google")
+            << "C++" << "{BasedOnStyle: Google, ColumnLimit: 0, IndentWidth: 4}" << QStringList{"ColumnLimit: 0"};
+        QTest::newRow("tabs of 8 columns, indent width 8")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, BreakBeforeBraces: Linux}"
+            << QStringList{"IndentWidth: 8", "TabWidth: 8", "UseTab: Always"};
+        QTest::newRow("tabs for indentation, indent width 2")
+            << "C++" << "{BasedOnStyle: LLVM, IndentWidth: 2, TabWidth: 8, UseTab: ForIndentation}"
+            << QStringList{"IndentWidth: 2", "TabWidth: 8", "UseTab: ForIndentation"};
+        QTest::newRow("tabs for indentation, indent width 4")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 4, TabWidth: 8, UseTab: ForIndentation}"
+            << QStringList{"IndentWidth: 4", "TabWidth: 8", "UseTab: ForIndentation"};
+        QTest::newRow("tabs of 4 for indentation, indent width 2")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 2, TabWidth: 4, UseTab: ForIndentation}"
+            << QStringList{"IndentWidth: 2", "TabWidth: 4", "UseTab: ForIndentation"};
+    }
+    void break_and_tab_options_come_back() {
+        QFETCH(QString, language);
+        QFETCH(QString, options);
+        QFETCH(QStringList, inferred);
+        auto const& description = description_of(language);
+        std::string const addon = tarnel_engine::addon_written_in(options.toStdString(), "Round trip", description);
+        QVERIFY(!addon.empty());
+        QCOMPARE(forms_not_coming_back_in(addon, description), QStringList());
+        QString const found = QString("\n" + QString::fromStdString(tarnel_engine::options_inferred_from(addon, description)))
+                                  .replace(QRegularExpression(" +"), " ");
+        // "!" before an option: a value the inferred options must not hold.
+        for (QString const& option : inferred)
+            QVERIFY2(found.contains("\n" + option.mid(option.startsWith('!')) + "\n") != option.startsWith('!'),
+                     qPrintable(option + " in:" + found));
+    }
+
+    // An addon written before the forms of line breaks and nested blocks existed: it loads, its
+    // forms come back, and it revises as the same addon with those forms does.
+    void addon_without_the_newer_forms_revises_the_same_data() {
+        QTest::addColumn<QString>("addon_file");
+        QTest::newRow("LLVM, C++") << "LLVM[C++].style";
+        QTest::newRow("Linux kernel, C") << "Linux kernel[C].style";
+        QTest::newRow("Stroustrup, C++") << "Stroustrup[C++].style";
+    }
+    void addon_without_the_newer_forms_revises_the_same() {
+        QFETCH(QString, addon_file);
+        std::string const shipped = shipped_addon(addon_file);
+        std::string older = shipped;
+        for (char const* structure :
+             {"kept line break", "long call assignment", "long comment", "long return type", "long string", "nested blocks"}) {
+            std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
+            if (begin == std::string::npos)
+                continue;
+            older.erase(begin, older.find("\nS_END\n", begin) + 7 - begin);
+        }
+        std::string const language = language_of_addon(shipped);
+        auto const& description = description_of(QString::fromStdString(language));
+        QCOMPARE(forms_not_coming_back_in(older, description), QStringList());
+        loaded_plugin plugin(plugin_file_of(language));
+        QVERIFY(plugin.get());
+        std::string const source =
+            "static struct list_head *find_entry_in(struct list_head *head, unsigned long key, int flags) {\n"
+            "\tif (key) { while (flags) { if (head) { while (key) { key--; flags--; } } } }\n"
+            "\tint total = compute_the_total(head, key, flags) + compute_the_total(head, flags, key);\n"
+            "\tprintf(\"a message long enough to pass the column limit of the style: %lu\\n\", key);\n"
+            "\treturn head;\n}\n";
+        std::string const revised = plugin->revise(source, older, traits_of(source));
+        QVERIFY(revised != STYLE_TARNEL_SYNTAX_ERROR_TEXT);
+        QCOMPARE(QString::fromStdString(revised), QString::fromStdString(plugin->revise(source, shipped, traits_of(source))));
+    }
+
     void addon_with_indent_width_4_revises_with_4_spaces() {
         std::string const addon =
             tarnel_engine::addon_written_in("{BasedOnStyle: Google, IndentWidth: 4}", "G4", cpp_language());

@@ -12,6 +12,7 @@
 #include "cpp_language.h"
 #include "core/style_addon.h"
 #include "form_conflicts.h"
+#include "form_readings.h"
 #include "loop_macros.h"
 #include "revision.h"
 #include "style_learning.h"
@@ -119,6 +120,69 @@ private slots:
         QCOMPARE(learned.lines, lines);
         QCOMPARE(learned.lines_left, left);
         QVERIFY2(left * 1000 >= lines * 995, qPrintable(QString("%1 of %2 lines left").arg(left).arg(lines)));
+    }
+
+    // The width of a tab comes from where tabs and blanks line up, never from the indent step:
+    // tabs alone show no width (8), continuation lines under an open parenthesis and a tab-indented
+    // line one step in from a blank-indented one do.
+    void reads_the_width_of_tabs_data() {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<int>("width");
+        QTest::newRow("tabs alone, one a level") << "int f(void)\n{\n\tif (a) {\n\t\tb();\n\t}\n}\n" << 8;
+        QTest::newRow("arguments lined up under ( with tabs of 8 and blanks")
+            << "int f(void)\n{\n\tif (a) {\n\t\tresult = check_state(dev, flags,\n\t\t\t\t     other);\n\t}\n}\n" << 8;
+        QTest::newRow("arguments lined up under ( with tabs of 4 and blanks")
+            << "int f(void)\n{\n\tif (a) {\n\t\tresult = check_state(dev, flags,\n\t\t\t\t\t\t\t other);\n\t}\n}\n"
+            << 4;
+        QTest::newRow("indent 4, a tab taking over at the second level")
+            << "int f(void) {\n    if (a) {\n\tb();\n\tif (c) {\n\t    d();\n\t}\n    }\n}\n" << 8;
+        QTest::newRow("indent 2, tabs of 4 at the second level")
+            << "int f(void) {\n  if (a) {\n\tb();\n\tif (c) {\n\t  d();\n\t}\n  }\n}\n" << 4;
+    }
+    void reads_the_width_of_tabs() {
+        QFETCH(QString, code);
+        QFETCH(int, width);
+        QCOMPARE(tarnel_engine::tab_width_read_from({code.toStdString()}), width);
+    }
+
+    // Code indented with tabs of 8 columns, its continuation lines lined up with tabs and blanks:
+    // the tab's width is read where they line up, not from the indent step nor from how close lines
+    // come to a limit (tabs of 4 with an indent of 4 put every level's tab back, and lined up
+    // continuations and long lines wrong).
+    void learns_tabs_of_8_columns() {
+        std::string const options =
+            "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, ContinuationIndentWidth: 8, "
+            "BreakBeforeBraces: Linux, AllowShortIfStatementsOnASingleLine: Never, AllowShortFunctionsOnASingleLine: None, "
+            "IndentCaseLabels: false, ColumnLimit: 80}";
+        std::string const known = tarnel_engine::addon_written_in(options, "Kernel", c_language());
+        QVERIFY(!known.empty());
+        loaded_plugin plugin(c_plugin_file());
+        QVERIFY(plugin.learning());
+        // Messages that pass the limit three levels in, as drivers print them: narrower under tabs
+        // of 4, where they would fit a limit of 80.
+        std::string messages;
+        for (int handler = 0; handler < 12; ++handler) {
+            messages += "static int handle_" + std::to_string(handler) + "(struct device *dev, int state) {\n";
+            messages += "if (dev) { if (state > " + std::to_string(handler) + ") {\n";
+            for (int line = 0; line < 6; ++line)
+                messages += "pr_info(\"device in state %d waits for the handler to finish its work\", state);\n";
+            messages += "state = check_the_state_of(dev, state, " + std::to_string(handler) + ", handler_flags, dev->flags, 0);\n";
+            messages += "} }\nreturn state;\n}\n";
+        }
+        std::vector<std::string> project;
+        for (std::string const& source : sources_of("C")) {
+            std::string const written = plugin->revise(source, known, traits_of(source));
+            if (written != STYLE_TARNEL_SYNTAX_ERROR_TEXT)
+                project.push_back(written);
+        }
+        project.push_back(plugin->revise(messages, known, traits_of(messages)));
+        QVERIFY(project.back() != STYLE_TARNEL_SYNTAX_ERROR_TEXT);
+        learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
+        QVERIFY(!learned.addon.empty());
+        QString const inferred = QString("\n" + QString::fromStdString(tarnel_engine::options_inferred_from(learned.addon, c_language())))
+                                  .replace(QRegularExpression(" +"), " ");
+        QVERIFY2(inferred.contains("\nTabWidth: 8\n"), qPrintable(inferred));
+        QVERIFY2(inferred.contains("\nIndentWidth: 8\n"), qPrintable(inferred));
     }
 
     void learns_nothing_data() {
