@@ -10,6 +10,8 @@
 #include <QStandardPaths>
 #include <QtTest>
 
+#include <algorithm>
+
 namespace {
 
 QString our_c_plugin() { return built::build_dir() + "/PlugIns/languages/libc-language-plugin.so"; }
@@ -29,6 +31,17 @@ struct configuration_bundle : installed_bundle {
 };
 
 QByteArray const configuration_start = "# The options of a Style Tarnel style";
+
+// The lines of a configuration text that are not comments or blank, sorted: the same options in
+// any order.
+QList<QByteArray> option_lines_of(QByteArray const& configuration) {
+    QList<QByteArray> lines;
+    for (QByteArray const& line : configuration.split('\n'))
+        if (!line.trimmed().isEmpty() && !line.startsWith('#'))
+            lines.append(line);
+    std::sort(lines.begin(), lines.end());
+    return lines;
+}
 
 QString user_styles_of(temporary_bundle const& bundle) {
     return "user: " + QDir(bundle.user_addons_directory()).entryList(QDir::Files, QDir::Name).join(' ') +
@@ -116,6 +129,13 @@ void test_engine_configuration::the_engine_under_the_configuration_formats_as_th
     QString const work = bundle.work_directory();
     if (configuration.isEmpty()) {
         COMPARE_RUN(bundle.run({"--export-config=" + work + "/out", "-l=C", "-s=" + style}), "It's done.\n", "", 0);
+        // Every option is written, and read back as written: the engine's own account of what it
+        // read holds the same lines.
+        QProcess dumping;
+        dumping.start(engine, {"--style=file:" + work + "/out/.clang-format", "--dump-config"});
+        run_result const dumped = result_of_finished(dumping, 60000);
+        QCOMPARE(dumped.status, 0);
+        QCOMPARE(option_lines_of(dumped.out), option_lines_of(bundle.contents_of(work + "/out/.clang-format")));
     } else {
         bundle.write_file("out/.clang-format", configuration);
         run_result const imported = bundle.run({"--import=" + work + "/out/.clang-format", "--lang=C", "--style=" + style});
