@@ -11,7 +11,7 @@ std::vector<std::string> const& known_names() {
         "-h", "--help", "-v", "--version", "-l", "--lang", "-s", "--style", "-p", "--path",
         "-f", "--force", "--exts", "--import", "--export", "--delete", "--rename", "--ls",
         "--update", "--check", "--diff", "--addon", "--assume-filename", "--learn", "--exclude",
-        "--no-gitignore", "--quiet", "--lines", "--changed"};
+        "--no-gitignore", "--quiet", "--lines", "--changed", "--export-config"};
     return names;
 }
 

@@ -47,6 +47,10 @@ int result_of_run::do_what_user_want_based_on(argument_list const& arguments) co
         return learn_style_based_on(arguments);
     if (user.want_to_revise())
         return revise_based_on(arguments);
+    if (user.want_to_export_config())
+        return export_config_based_on(arguments);
+    if (user.want_to_import_configuration())
+        return import_configuration_based_on(arguments);
     if (user.want_to_export_style())
         return export_style_based_on(arguments);
     if (user.want_to_rename_style())

@@ -21,6 +21,8 @@ public:
     int delete_something_based_on(argument_list const& arguments) const;
     int update_app_based_on(argument_list const& arguments) const;
     int learn_style_based_on(argument_list const& arguments) const;
+    int export_config_based_on(argument_list const& arguments) const;
+    int import_configuration_based_on(argument_list const& arguments) const;
 };
 
 // Whether the file at `path` (absolute) is a style addon of an installed language that can be used

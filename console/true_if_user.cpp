@@ -62,6 +62,20 @@ bool true_if_user::want_to_export_style(argument_list const& arguments) const {
     return one_style_with("--export", arguments);
 }
 
+bool true_if_user::want_to_export_config(argument_list const& arguments) const {
+    // The style from --lang and --style, or from --addon alone; --force replaces an older file.
+    std::size_t const addons = quantity_of("--addon").in(arguments);
+    std::size_t const forced = quantity_of("--force", "-f").in(arguments);
+    bool const style_named = addons == 0 ? languages(arguments) == 1 && styles(arguments) == 1
+                                         : addons == 1 && languages(arguments) == 0 && styles(arguments) == 0;
+    return quantity_of("--export-config").in(arguments) == 1 && forced <= 1 && style_named &&
+           arguments.size() == 1 + forced + (addons == 0 ? 2 : 1);
+}
+
+bool true_if_user::want_to_import_configuration(argument_list const& arguments) const {
+    return one_style_with("--import", arguments);
+}
+
 bool true_if_user::want_to_rename_style(argument_list const& arguments) const {
     return one_style_with("--rename", arguments);
 }

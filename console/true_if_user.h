@@ -30,6 +30,8 @@ public:
     bool want_to_see_what_supported(argument_list const& arguments) const;
     bool want_to_update_app(argument_list const& arguments) const;
     bool want_to_learn_style(argument_list const& arguments) const;
+    bool want_to_export_config(argument_list const& arguments) const;
+    bool want_to_import_configuration(argument_list const& arguments) const;
 
     // The list is one pair, named by either name, without a value.
     bool is_there_only_one_argument_without_value_with_names(std::string const& long_name,
@@ -51,6 +53,8 @@ public:
     bool want_to_see_what_supported() const { return true_if_user().want_to_see_what_supported(arguments); }
     bool want_to_update_app() const { return true_if_user().want_to_update_app(arguments); }
     bool want_to_learn_style() const { return true_if_user().want_to_learn_style(arguments); }
+    bool want_to_export_config() const { return true_if_user().want_to_export_config(arguments); }
+    bool want_to_import_configuration() const { return true_if_user().want_to_import_configuration(arguments); }
 
 private:
     argument_list arguments;

@@ -7,6 +7,7 @@
 #ifndef STYLE_TARNEL_CORE_KERNEL_H
 #define STYLE_TARNEL_CORE_KERNEL_H
 
+#include "core/engine_configuration_outcome.h"
 #include "core/style_description.h"
 #include "core/revision_task.h"
 #include "core/style_learning_outcome.h"
@@ -74,6 +75,17 @@ public:
                       std::string const& destination) const;
     std::string full_path_to_style_addon_by(std::string const& style,
                                             std::string const& language) const;
+
+    // The engine configuration a style stands for, in the engine's own format (what editors read),
+    // from the language's plugin; of an addon file used as it is, in its own language.
+    engine_configuration_outcome engine_configuration_of(std::string const& style,
+                                                         std::string const& language) const;
+    engine_configuration_outcome engine_configuration_of_addon(std::string const& path) const;
+    // A style of the language made by its plugin from the engine configuration file at `path`,
+    // installed as an import installs an addon (an installed style of that name is replaced).
+    configuration_import_outcome import_style_from_configuration(std::string const& path,
+                                                                 std::string const& language,
+                                                                 std::string const& style) const;
 
     // Deleting and renaming.
     bool delete_language_by(std::string const& language) const;

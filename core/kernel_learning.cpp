@@ -2,6 +2,7 @@
 // interface, and installing it as an import installs an addon.
 #include "core/kernel.h"
 
+#include "core/addon_installation.h"
 #include "core/closest_installed_style.h"
 #include "core/installed_files.h"
 #include "core/store_files.h"
@@ -12,10 +13,8 @@
 #include "engine/interruption_by_signal.h"
 #include "engine/plugin_obtainer.h"
 #include "engine/read_from.h"
-#include "engine/write_to.h"
 
 #include <QPluginLoader>
-#include <QTemporaryDir>
 
 namespace {
 
@@ -34,20 +33,6 @@ std::string extensions_of(revision_task const& task, plugin_description const& p
     for (std::string const& extension : plugin.extensions)
         extensions += (extensions.empty() ? "" : " ") + extension;
     return extensions;
-}
-
-// Writes the addon under its own file name beside nothing else, then stores it: the copy must
-// describe the style learned.
-bool install(std::string const& addon, std::string const& style, std::string const& language) {
-    QTemporaryDir directory;
-    if (!directory.isValid())
-        return false;
-    QString const path = directory.filePath(QString::fromStdString(addon_file_name_for(style, language)));
-    if (!write_to(path).from(addon))
-        return false;
-    return store::in<new_addons_directory>(path, [&](QString const& copy) {
-        return obtain_style_description().from(copy.toStdString()) == style_description{style, language};
-    });
 }
 
 style_learning_outcome learned(revision_task const& task,
@@ -119,7 +104,7 @@ style_learning_outcome learned(revision_task const& task,
         outcome.lines = closer.lines;
         outcome.lines_left = std::min(closer.lines_left, closer.lines);
     }
-    if (addon.empty() || !install(addon, task.style, task.language))
+    if (addon.empty() || !install_addon_text(addon, task.style, task.language))
         return ended(end::not_installed);
     return outcome;
 }

@@ -31,6 +31,12 @@ interface_to_range_revision* plugin_obtainer::range_revision() const {
     return qobject_cast<interface_to_range_revision*>(loader.instance());
 }
 
+interface_to_engine_configuration* plugin_obtainer::engine_configuration() const {
+    if (!loader.isLoaded())
+        return nullptr;
+    return qobject_cast<interface_to_engine_configuration*>(loader.instance());
+}
+
 bool plugin_obtainer::this_is_a_plugin(std::string const& path) const {
     loader.setFileName(QString::fromStdString(path));
     return loader.instance() != nullptr;

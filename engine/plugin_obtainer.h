@@ -26,6 +26,10 @@ public:
     // none (it is optional: such a plugin revises whole files only) or nothing is loaded.
     interface_to_range_revision* range_revision() const;
 
+    // The configuration interface of the plugin that operator() loaded last, or null when the
+    // plugin has none (it is optional) or nothing is loaded.
+    interface_to_engine_configuration* engine_configuration() const;
+
     // Whether the file at `path` loads as any Qt plugin; the interface is not checked.
     bool this_is_a_plugin(std::string const& path) const;
 

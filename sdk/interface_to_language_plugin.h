@@ -144,4 +144,49 @@ public:
 #define STYLE_TARNEL_RANGE_INTERFACE_ID STYLE_TARNEL_RANGE_INTERFACE_NAME "/" STYLE_TARNEL_RANGE_INTERFACE_VERSION
 Q_DECLARE_INTERFACE(interface_to_range_revision, STYLE_TARNEL_RANGE_INTERFACE_ID)
 
+// What a plugin makes of a configuration of its formatting engine: the addon written from it, or
+// the reason it refuses the configuration, and the options the addon does not carry.
+struct configured_addon {
+    // The whole text of a style addon; empty when the configuration is refused.
+    std::string addon;
+    // Why the configuration is refused (it cannot be read, or the engine cannot work under it);
+    // empty when an addon was written.
+    std::string refusal;
+    // Options the configuration sets that would change more than white space (include sorting and
+    // the like): revisions never use them.
+    std::vector<std::string> left_out;
+    // Options the configuration sets that no form of the addon shows: the options read back from
+    // the addon give them other values.
+    std::vector<std::string> not_shown;
+};
+
+// Optional: a plugin built on a formatting engine that has a configuration format of its own (a
+// file that editors and other tools read) also derives its root object from this class and names
+// it among its interfaces, as the learning interface above is named. The host finds it with
+// qobject_cast on the root object; a plugin without it keeps working, and its styles only cannot
+// be exported as, or imported from, an engine configuration. Called from one thread at a time,
+// never during a revision run.
+class interface_to_engine_configuration {
+public:
+    virtual ~interface_to_engine_configuration() = default;
+
+    // The engine configuration that `addon` (the whole addon text) stands for, in the engine's own
+    // configuration format: the options a style decides, under which the engine formats code as a
+    // revision in the addon's style does, and the settings the plugin forces whatever the style
+    // (so that only white space changes), said as such. Empty when the addon cannot be read.
+    virtual std::string engine_configuration_of(std::string const& addon) = 0;
+
+    // An addon named `style_name` whose forms the engine writes under the configuration
+    // `configuration` (text in the engine's configuration format), with the options left out.
+    virtual configured_addon addon_from_configuration(std::string const& configuration,
+                                                      std::string const& style_name) = 0;
+};
+
+// The configuration interface's identifier, versioned as the first one is.
+#define STYLE_TARNEL_CONFIGURATION_INTERFACE_NAME "org.style-tarnel.interface_to_engine_configuration"
+#define STYLE_TARNEL_CONFIGURATION_INTERFACE_VERSION "1.0"
+#define STYLE_TARNEL_CONFIGURATION_INTERFACE_ID \
+    STYLE_TARNEL_CONFIGURATION_INTERFACE_NAME "/" STYLE_TARNEL_CONFIGURATION_INTERFACE_VERSION
+Q_DECLARE_INTERFACE(interface_to_engine_configuration, STYLE_TARNEL_CONFIGURATION_INTERFACE_ID)
+
 #endif

@@ -3,6 +3,7 @@
 
 #include "range_revision.h"
 #include "deep_stack.h"
+#include "engine_configuration.h"
 #include "style_learning.h"
 
 namespace tarnel_engine {
@@ -42,6 +43,20 @@ learned_style language_plugin_base::learn_style(std::vector<std::string> const& 
     learned_style learned;
     run_on_a_deep_stack([&] { learned = learn_style_of(language).from(sources, style_name, going_on); });
     return learned;
+}
+
+std::string language_plugin_base::engine_configuration_of(std::string const& addon) {
+    // The inference formats the forms: on the engine's own stack too.
+    std::string configuration;
+    run_on_a_deep_stack([&] { configuration = tarnel_engine::engine_configuration_of(addon, language); });
+    return configuration;
+}
+
+configured_addon language_plugin_base::addon_from_configuration(std::string const& configuration,
+                                                                std::string const& style_name) {
+    configured_addon made;
+    run_on_a_deep_stack([&] { made = tarnel_engine::addon_from_configuration(configuration, style_name, language); });
+    return made;
 }
 
 }  // namespace tarnel_engine

@@ -1,5 +1,5 @@
 // The plugin interfaces implemented once for every language of ours: a plugin's root object
-// derives from QObject and from this class, passes its language description and names the three
+// derives from QObject and from this class, passes its language description and names the four
 // interfaces.
 #ifndef TARNEL_ENGINE_LANGUAGE_PLUGIN_BASE_H
 #define TARNEL_ENGINE_LANGUAGE_PLUGIN_BASE_H
@@ -12,7 +12,8 @@ namespace tarnel_engine {
 
 class language_plugin_base : public interface_to_language_plugin,
                              public interface_to_style_learning,
-                             public interface_to_range_revision {
+                             public interface_to_range_revision,
+                             public interface_to_engine_configuration {
 public:
     // The description must outlive the plugin (plugins pass a function-local static).
     explicit language_plugin_base(language_description const& language);
@@ -29,6 +30,9 @@ public:
 
     learned_style learn_style(std::vector<std::string> const& sources, std::string const& style_name,
                               std::function<bool(unsigned long done, unsigned long whole)> const& going_on) override;
+
+    std::string engine_configuration_of(std::string const& addon) override;
+    configured_addon addon_from_configuration(std::string const& configuration, std::string const& style_name) override;
 
 private:
     language_description const& language;

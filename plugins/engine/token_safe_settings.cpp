@@ -29,6 +29,15 @@ void make_token_safe(clang::format::FormatStyle& style) {
     style.Standard = FormatStyle::LS_Latest;
 }
 
+std::vector<std::string> const& names_of_token_safe_settings() {
+    static std::vector<std::string> const names = {
+        "DisableFormat", "SortIncludes", "IncludeBlocks", "SortUsingDeclarations", "InsertBraces",
+        "RemoveBracesLLVM", "FixNamespaceComments", "ReflowComments", "QualifierAlignment", "RemoveSemicolon",
+        "RemoveParentheses", "IntegerLiteralSeparator", "InsertTrailingCommas", "JavaScriptQuotes",
+        "BreakStringLiterals", "InsertNewlineAtEOF", "KeepEmptyLines", "ObjCPropertyAttributeOrder", "Standard"};
+    return names;
+}
+
 std::vector<std::string> const& names_of_predefined_styles() {
     static std::vector<std::string> const names = {"LLVM", "Google", "Chromium", "Mozilla", "WebKit", "GNU", "Microsoft"};
     return names;

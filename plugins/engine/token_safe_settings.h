@@ -17,6 +17,9 @@ namespace tarnel_engine {
 // style says, only white space may change.
 void make_token_safe(clang::format::FormatStyle& style);
 
+// The names of the options make_token_safe sets, as the engine's configuration text names them.
+std::vector<std::string> const& names_of_token_safe_settings();
+
 // The engine's predefined styles, in the order the inference prefers them on a tie.
 std::vector<std::string> const& names_of_predefined_styles();
 

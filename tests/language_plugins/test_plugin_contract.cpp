@@ -100,6 +100,40 @@ private slots:
         QCOMPARE(plugin->revise(source, shipped_addon("GNU[C++].style"), traits_of(source)), gnu);
     }
 
+    // A shipped style, exported as its engine configuration and made into a style again, revises
+    // its golden input as the shipped style does: the configuration says everything the style does.
+    void a_shipped_style_comes_back_from_its_engine_configuration_data() {
+        QTest::addColumn<QString>("golden_case");
+        for (QString const& golden : golden_cases())
+            QTest::newRow(qPrintable(golden)) << golden;
+    }
+    void a_shipped_style_comes_back_from_its_engine_configuration() {
+        QFETCH(QString, golden_case);
+        std::string const language = golden_case.section('/', 0, 0).toStdString();
+        QString const style = golden_case.section('/', 1, 1);
+        std::string const addon = shipped_addon(style + "[" + QString::fromStdString(language) + "].style");
+        loaded_plugin plugin(plugin_file_of(language));
+        QVERIFY(plugin.configurations());
+        std::string const configuration = plugin.configurations()->engine_configuration_of(addon);
+        QVERIFY(!configuration.empty());
+        configured_addon const made = plugin.configurations()->addon_from_configuration(configuration, "Again");
+        QCOMPARE(QString::fromStdString(made.refusal), QString());
+        QCOMPARE(made.left_out.size(), std::size_t(0));
+        std::string const input = golden_file(golden_case, "input");
+        QCOMPARE(QString::fromStdString(plugin->revise(input, made.addon, traits_of(input))),
+                 QString::fromStdString(plugin->revise(input, addon, traits_of(input))));
+    }
+
+    void a_configuration_the_engine_cannot_read_is_refused_with_the_reason_data() { each_plugin(); }
+    void a_configuration_the_engine_cannot_read_is_refused_with_the_reason() {
+        QFETCH(QString, file);
+        loaded_plugin plugin(file);
+        QVERIFY(plugin.configurations());
+        configured_addon const made = plugin.configurations()->addon_from_configuration("IndentWidth: [4\n", "Bad");
+        QVERIFY(made.addon.empty());
+        QVERIFY(!made.refusal.empty());
+    }
+
 private:
     void each_plugin() {
         QTest::addColumn<QString>("file");

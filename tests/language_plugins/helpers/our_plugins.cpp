@@ -40,6 +40,7 @@ loaded_plugin::loaded_plugin(QString const& file_name) : loader(std::make_unique
         plugin = qobject_cast<interface_to_language_plugin*>(root);
         learner = qobject_cast<interface_to_style_learning*>(root);
         range_reviser = qobject_cast<interface_to_range_revision*>(root);
+        configurer = qobject_cast<interface_to_engine_configuration*>(root);
     }
 }
 

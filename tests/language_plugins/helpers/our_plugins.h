@@ -35,12 +35,15 @@ public:
     interface_to_style_learning* learning() const { return learner; }
     // The plugin's range interface, found as the host finds it.
     interface_to_range_revision* ranges() const { return range_reviser; }
+    // The plugin's configuration interface, found as the host finds it.
+    interface_to_engine_configuration* configurations() const { return configurer; }
 
 private:
     std::unique_ptr<QPluginLoader> loader;
     interface_to_language_plugin* plugin = nullptr;
     interface_to_style_learning* learner = nullptr;
     interface_to_range_revision* range_reviser = nullptr;
+    interface_to_engine_configuration* configurer = nullptr;
 };
 
 // The shipped addons (file names in plugins/styles).

@@ -1,0 +1,173 @@
+// Options are compared as the engine writes them: one top-level entry of its configuration text,
+// with the lines nested under it, per option.
+#include "engine_configuration.h"
+
+#include "inference_cache.h"
+#include "option_moves.h"
+#include "revision.h"
+#include "token_safe_settings.h"
+
+#include <clang/Format/Format.h>
+#include <llvm/Support/MemoryBuffer.h>
+#include <llvm/Support/SourceMgr.h>
+
+#include <algorithm>
+#include <cctype>
+#include <map>
+#include <sstream>
+
+namespace tarnel_engine {
+
+namespace {
+
+bool is_top_level_entry(std::string const& line) {
+    return !line.empty() && std::isalpha(static_cast<unsigned char>(line[0])) && line.find(':') != std::string::npos;
+}
+
+std::string key_of(std::string const& line) {
+    std::string key = line.substr(0, line.find(':'));
+    while (!key.empty() && (key.back() == ' ' || key.back() == '\t'))
+        key.pop_back();
+    return key;
+}
+
+// Option name -> its entry (the line and the lines nested under it), in the order of the text.
+std::vector<std::pair<std::string, std::string>> entries_of(std::string const& text) {
+    std::vector<std::pair<std::string, std::string>> entries;
+    std::istringstream lines(text);
+    std::string line;
+    bool inside = false;
+    while (std::getline(lines, line)) {
+        if (!line.empty() && line.back() == '\r')
+            line.pop_back();
+        if (is_top_level_entry(line)) {
+            entries.emplace_back(key_of(line), line + "\n");
+            inside = true;
+        } else if (inside && !line.empty() && (line[0] == ' ' || line[0] == '\t')) {
+            entries.back().second += line + "\n";
+        } else {
+            inside = false;
+        }
+    }
+    return entries;
+}
+
+std::map<std::string, std::string> options_in(clang::format::FormatStyle const& style) {
+    std::map<std::string, std::string> options;
+    for (auto& [key, entry] : entries_of(clang::format::configurationAsText(style)))
+        options[key] = std::move(entry);
+    return options;
+}
+
+// The options a configuration text names itself, in its order, each once; its documents'
+// language and the style it is based on are no options.
+std::vector<std::string> options_named_in(std::string const& configuration) {
+    std::vector<std::string> names;
+    for (auto const& entry : entries_of(configuration))
+        if (entry.first != "Language" && entry.first != "BasedOnStyle" &&
+            std::find(names.begin(), names.end(), entry.first) == names.end())
+            names.push_back(entry.first);
+    return names;
+}
+
+// An option that names a preset of another, and that other: the engine writes the preset out in
+// full, so a style may hold the same layout under another preset name ("Custom").
+std::string expansion_of(std::string const& option) {
+    if (option == "BreakBeforeBraces")
+        return "BraceWrapping";
+    if (option == "SpacesInParens")
+        return "SpacesInParensOptions";
+    return std::string();
+}
+
+bool same_option(std::map<std::string, std::string> const& one, std::map<std::string, std::string> const& other,
+                 std::string const& option) {
+    auto const in_one = one.find(option), in_other = other.find(option);
+    if (in_one == one.end() || in_other == other.end())
+        return false;
+    if (in_one->second == in_other->second)
+        return true;
+    std::string const expanded = expansion_of(option);
+    return !expanded.empty() && one.count(expanded) && other.count(expanded) &&
+           one.at(expanded) == other.at(expanded);
+}
+
+// Why the engine's parser cannot read the configuration, in its own words and without printing
+// them; empty when it reads it.
+std::string why_unreadable(std::string const& configuration) {
+    clang::format::FormatStyle style = clang::format::getLLVMStyle();
+    std::string reason;
+    auto const told = [](llvm::SMDiagnostic const& diagnostic, void* context) {
+        std::string& said = *static_cast<std::string*>(context);
+        if (said.empty())
+            said = diagnostic.getMessage().str() + " (line " + std::to_string(diagnostic.getLineNo()) + ")";
+    };
+    std::error_code const error = clang::format::parseConfiguration(
+        llvm::MemoryBufferRef(configuration, "configuration"), &style, false, told, &reason);
+    if (!error)
+        return std::string();
+    return reason.empty() ? error.message() : reason;
+}
+
+bool forced(std::string const& option) {
+    std::vector<std::string> const& names = names_of_token_safe_settings();
+    return std::find(names.begin(), names.end(), option) != names.end();
+}
+
+}  // namespace
+
+std::string engine_configuration_of(std::string const& addon, language_description const& language) {
+    std::string text;
+    try {
+        text = clang::format::configurationAsText(inference_cache::shared().style_for(addon, language));
+    } catch (...) {
+        return std::string();
+    }
+    std::string decided, forced_ones;
+    for (auto const& [key, entry] : entries_of(text))
+        (forced(key) ? forced_ones : decided) += entry;
+    return "# The options of a Style Tarnel style: the engine formats code under them as a revision\n"
+           "# in the style does.\n---\n" +
+           decided +
+           "# Forced by Style Tarnel whatever the style, so that only white space changes:\n" + forced_ones +
+           "...\n";
+}
+
+configured_addon addon_from_configuration(std::string const& configuration, std::string const& style_name,
+                                          language_description const& language) {
+    configured_addon made;
+    try {
+        made.refusal = why_unreadable(configuration);
+        clang::format::FormatStyle as_given = clang::format::getLLVMStyle();
+        if (!made.refusal.empty() || !read_configuration(configuration, as_given)) {
+            if (made.refusal.empty())
+                made.refusal = "the engine cannot read it";
+            return made;
+        }
+        clang::format::FormatStyle safe = as_given;
+        make_token_safe(safe);
+        made.addon = addon_written_in(configuration, style_name, language);
+        if (made.addon.empty()) {
+            made.refusal = "the engine cannot format code under it";
+            return made;
+        }
+        std::map<std::string, std::string> const given = options_in(as_given), kept = options_in(safe),
+                                                 read_back = options_in(
+                                                     inference_cache::shared().style_for(made.addon, language));
+        for (std::string const& option : options_named_in(configuration)) {
+            auto const was = kept.find(option);
+            if (was == kept.end())
+                continue;
+            if (given.at(option) != was->second)
+                made.left_out.push_back(option);
+            else if (!same_option(kept, read_back, option))
+                made.not_shown.push_back(option);
+        }
+    } catch (...) {
+        made = configured_addon();
+        made.refusal = "the engine cannot format code under it";
+    }
+    return made;
+}
+
+}  // namespace tarnel_engine
