@@ -85,6 +85,23 @@ constexpr char please_make_sure_this_file[] = "Please make sure this style file\
 constexpr char plugin_refuses_the_form[] =
     "The language plugin cannot revise this form: a revision would leave such code as it is.";
 
+// The preview of a file of the task as the current style revises it.
+constexpr char preview_caption[] = "Preview";
+constexpr char file_to_preview[] = "File to preview";
+constexpr char previewed_file[] = "The file as the style revises it";
+constexpr char next_change[] = "Next change";
+constexpr char previous_change[] = "Previous change";
+constexpr char previewing[] = "Revising the file for the preview...";
+constexpr char no_file_to_preview[] =
+    "No file of the task to preview: add paths to your code with files of the extensions below.";
+constexpr char file_stays_as_it_is[] = "The style leaves this file as it is.";
+constexpr char lines_change_prefix[] = "The style changes ";
+constexpr char lines_change_middle[] = " of ";
+constexpr char lines_change_suffix[] = " lines of this file (marked).";
+constexpr char plugin_refuses_the_file[] =
+    "The language plugin cannot revise this file: a revision would leave it as it is.";
+constexpr char file_cannot_be_read[] = "This file cannot be read.";
+
 // Learning a style from the task's code: the menu entry, the name asked, the progress, and the
 // ends other than a learned style (the words of the command line where it has them).
 constexpr char learn_from_code[] = "Learn from code...";

@@ -124,6 +124,9 @@ public:
     text_outcome_status revise_text(revision_task const& task, std::string const& name,
                                     std::string const& text, std::string& result,
                                     std::string& report) const;
+    // The files a run of the task would revise, in its order: its paths walked with its extensions
+    // and its ignore rules. Nothing is read or revised.
+    QStringList files_of(revision_task const& task) const;
     // A unified diff ("--- a/LABEL", "+++ b/LABEL", three lines of context) from `text` to
     // `revised`; empty when they are equal.
     std::string unified_diff_of(std::string const& label, std::string const& text,

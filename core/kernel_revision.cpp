@@ -10,6 +10,7 @@
 #include "engine/change_record_store.h"
 #include "engine/change_records.h"
 #include "engine/console_checker.h"
+#include "engine/file_collection.h"
 #include "engine/tarnel.h"
 #include "engine/text_revision.h"
 #include "engine/unified_diff.h"
@@ -110,6 +111,13 @@ text_outcome_status kernel::revise_text(revision_task const& task, std::string c
         break;
     }
     return text_outcome_status::not_started;
+}
+
+QStringList kernel::files_of(revision_task const& task) const {
+    revision_request const request = request_for(task);
+    return obtain_full_file_paths_from(request.paths)
+        .following(request.ignoring)
+        .with(QString::fromStdString(request.extensions));
 }
 
 std::string kernel::unified_diff_of(std::string const& label, std::string const& text,

@@ -1,0 +1,415 @@
+#include "GUI/preview_of_code.h"
+
+#include "GUI/messages.h"
+#include "GUI/worker_link.h"
+#include "core/kernel.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextBlock>
+#include <QTimer>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <sstream>
+#include <thread>
+
+namespace GUI {
+
+namespace {
+
+// One request of the preview, as the worker takes it.
+struct preview_request {
+    unsigned long generation = 0;
+    revision_task task;
+    // The file the user chose; empty, or not among the task's files: the first of them.
+    QString chosen;
+};
+
+int line_count_of(std::string const& text) {
+    if (text.empty())
+        return 0;
+    int const breaks = static_cast<int>(std::count(text.begin(), text.end(), '\n'));
+    return text.back() == '\n' ? breaks : breaks + 1;
+}
+
+// The lines (from 0) of the new side of a unified diff that are new or stand where lines went:
+// "+" lines, and for lines removed with nothing in their place, the line that follows them.
+std::vector<int> changed_lines_in(std::string const& diff, int new_line_count) {
+    std::vector<int> lines;
+    auto mark = [&](int line) {
+        line = std::max(0, std::min(line, new_line_count - 1));
+        if (lines.empty() || lines.back() != line)
+            lines.push_back(line);
+    };
+    std::istringstream in(diff);
+    std::string line;
+    int next_new = 0;  // from 0: the line of the new side that comes next
+    bool in_hunk = false;
+    while (std::getline(in, line)) {
+        if (line.compare(0, 3, "@@ ") == 0) {
+            // "@@ -a,b +c,d @@": c counts from 1, and names the line before when d is 0.
+            auto const plus = line.find('+');
+            if (plus == std::string::npos)
+                continue;
+            int start = 0, count = 1;
+            char comma = 0;
+            std::istringstream numbers(line.substr(plus + 1));
+            numbers >> start;
+            if (numbers.get(comma) && comma == ',')
+                numbers >> count;
+            next_new = count == 0 ? start : start - 1;
+            in_hunk = true;
+            continue;
+        }
+        if (!in_hunk || line.empty())
+            continue;
+        switch (line[0]) {
+        case ' ':
+            ++next_new;
+            break;
+        case '+':
+            mark(next_new);
+            ++next_new;
+            break;
+        case '-':
+            if (new_line_count > 0)
+                mark(next_new);
+            break;
+        default:
+            break;
+        }
+    }
+    std::sort(lines.begin(), lines.end());
+    lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
+    return lines;
+}
+
+// The worker's whole job: the task's files, the one to preview, read, revised and compared.
+preview_outcome outcome_of(preview_request const& request) {
+    kernel const k;
+    preview_outcome outcome;
+    outcome.generation = request.generation;
+    outcome.files = k.files_of(request.task);
+    if (outcome.files.isEmpty()) {
+        outcome.how = preview_outcome::end::no_files;
+        return outcome;
+    }
+    outcome.file = outcome.files.contains(request.chosen) ? request.chosen : outcome.files.first();
+    QFile file(outcome.file);
+    if (!file.open(QIODevice::ReadOnly)) {
+        outcome.how = preview_outcome::end::unreadable;
+        return outcome;
+    }
+    QByteArray const bytes = file.readAll();
+    std::string const text(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    std::string revised, report;
+    text_outcome_status const status = k.revise_text(request.task, outcome.file.toStdString(), text, revised, report);
+    outcome.lines_of_file = line_count_of(text);
+    outcome.report = QString::fromStdString(report).trimmed();
+    switch (status) {
+    case text_outcome_status::revised:
+        outcome.how = preview_outcome::end::revised;
+        outcome.text = QString::fromStdString(revised);
+        outcome.changed_lines = changed_lines_in(k.unified_diff_of("preview", text, revised), line_count_of(revised));
+        break;
+    case text_outcome_status::refused:
+        outcome.how = preview_outcome::end::refused;
+        outcome.text = QString::fromStdString(text);
+        break;
+    case text_outcome_status::not_started:
+        outcome.how = preview_outcome::end::not_started;
+        outcome.text = QString::fromStdString(text);
+        break;
+    }
+    return outcome;
+}
+
+QString shown_name_of(QString const& file) { return QDir::toNativeSeparators(file); }
+
+}  // namespace
+
+class preview_of_code::implementation {
+public:
+    explicit implementation(preview_of_code* owner)
+        : files(new QComboBox(owner)), message(new QLabel(owner)), text(new QPlainTextEdit(owner)),
+          previous(new QPushButton(QObject::tr(text::previous_change), owner)),
+          next(new QPushButton(QObject::tr(text::next_change), owner)), later(new QTimer(owner)) {
+        auto* caption = new QLabel(QObject::tr(text::preview_caption), owner);
+        caption->setStyleSheet("QLabel { font: bold; }");
+        caption->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
+        caption->setBuddy(files);
+        files->setObjectName("file_to_preview");
+        files->setAccessibleName(QObject::tr(text::file_to_preview));
+        files->setToolTip(QObject::tr(text::file_to_preview));
+        files->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        files->setMinimumContentsLength(16);
+        message->setObjectName("preview_status");
+        message->setWordWrap(true);
+        message->setAccessibleName(QObject::tr(text::preview_caption));
+        text->setObjectName("previewed_file");
+        text->setAccessibleName(QObject::tr(text::previewed_file));
+        text->setReadOnly(true);
+        text->setLineWrapMode(QPlainTextEdit::NoWrap);
+        text->setMinimumWidth(180);
+        QFont font("Courier");
+        font.setStyleHint(QFont::Monospace);
+        text->setFont(font);
+        previous->setObjectName("previous_change");
+        previous->setAccessibleName(QObject::tr(text::previous_change));
+        next->setObjectName("next_change");
+        next->setAccessibleName(QObject::tr(text::next_change));
+        later->setSingleShot(true);
+        later->setInterval(0);
+        auto* buttons = new QHBoxLayout;
+        buttons->setContentsMargins(0, 0, 0, 0);
+        buttons->addWidget(previous);
+        buttons->addWidget(next);
+        buttons->addStretch();
+        auto* layout = new QVBoxLayout(owner);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(caption);
+        layout->addWidget(files);
+        layout->addWidget(message);
+        layout->addWidget(text, 1);
+        layout->addLayout(buttons);
+        no_changes_to_go_to();
+    }
+
+    // The worker may be in the plugin: it is cut from the pane and waited for.
+    ~implementation() {
+        if (link)
+            link->cut();
+        if (worker.joinable())
+            worker.join();
+    }
+
+    void no_changes_to_go_to() {
+        changes.clear();
+        previous->setEnabled(false);
+        next->setEnabled(false);
+    }
+
+    // The first lines of the runs of changed lines.
+    void take_changes_of(std::vector<int> const& lines) {
+        changes.clear();
+        for (std::size_t i = 0; i < lines.size(); ++i)
+            if (i == 0 || lines[i] != lines[i - 1] + 1)
+                changes.push_back(lines[i]);
+        previous->setEnabled(!changes.empty());
+        next->setEnabled(!changes.empty());
+    }
+
+    void mark(std::vector<int> const& lines) {
+        QList<QTextEdit::ExtraSelection> marks;
+        QTextCharFormat changed;
+        changed.setBackground(QColor("#fbe7a1"));
+        changed.setProperty(QTextFormat::FullWidthSelection, true);
+        QTextDocument* const document = text->document();
+        for (int line : lines) {
+            QTextBlock const block = document->findBlockByNumber(line);
+            if (!block.isValid())
+                continue;
+            QTextEdit::ExtraSelection selection;
+            selection.cursor = QTextCursor(block);
+            selection.format = changed;
+            marks.append(selection);
+        }
+        text->setExtraSelections(marks);
+    }
+
+    void go_to_line(int line) {
+        QTextCursor cursor(text->document()->findBlockByNumber(line));
+        text->setTextCursor(cursor);
+        text->centerCursor();
+    }
+
+    void show_files(QStringList const& all, QString const& shown) {
+        if (all != listed) {
+            QSignalBlocker const quiet(files);
+            files->clear();
+            for (QString const& file : all)
+                files->addItem(shown_name_of(file), file);
+            listed = all;
+        }
+        QSignalBlocker const quiet(files);
+        files->setCurrentIndex(files->findData(shown));
+    }
+
+    QComboBox* files;
+    QLabel* message;
+    QPlainTextEdit* text;
+    QPushButton* previous;
+    QPushButton* next;
+    QTimer* later;
+    QStringList listed;
+    QString chosen;
+    std::vector<int> changes;
+    unsigned long generation = 0;
+    bool busy = false;
+    bool again = false;
+    std::shared_ptr<worker_link<preview_of_code>> link;
+    std::thread worker;
+};
+
+preview_of_code::preview_of_code(QWidget* parent)
+    : QWidget(parent), pimpl(std::make_unique<implementation>(this)) {
+    setObjectName("preview_of_code");
+    setAccessibleName(tr(text::preview_caption));
+    connect(pimpl->later, &QTimer::timeout, this, &preview_of_code::update_now);
+    connect(pimpl->files, QOverload<int>::of(&QComboBox::activated), this, &preview_of_code::file_was_chosen);
+    connect(pimpl->next, &QPushButton::clicked, this, &preview_of_code::go_to_next_change);
+    connect(pimpl->previous, &QPushButton::clicked, this, &preview_of_code::go_to_previous_change);
+    setEnabled(false);
+}
+
+preview_of_code::~preview_of_code() = default;
+
+QWidget* preview_of_code::widget_ptr() { return this; }
+
+unsigned long preview_of_code::generation() const { return pimpl->generation; }
+
+QComboBox* preview_of_code::chooser() const { return pimpl->files; }
+
+QPlainTextEdit* preview_of_code::view() const { return pimpl->text; }
+
+QLabel* preview_of_code::status() const { return pimpl->message; }
+
+void preview_of_code::something_has_changed() { pimpl->later->start(); }
+
+// One worker at a time: a request made while it works makes it start again with the newest
+// task once it is done, and what it was doing is dropped by its number.
+void preview_of_code::update_now() {
+    implementation& p = *pimpl;
+    p.later->stop();
+    ++p.generation;
+    if (p.busy) {
+        p.again = true;
+        return;
+    }
+    preview_request request;
+    request.generation = p.generation;
+    QString language, style, extensions;
+    emit obtain_programming_language(language);
+    emit obtain_formatting_style(style);
+    if (language.isEmpty() || style.isEmpty()) {
+        disable_with_cleanup();
+        return;
+    }
+    emit obtain_filename_extensions(extensions);
+    emit obtain_raw_paths_to_revising_files(request.task.paths);
+    request.task.language = language.toStdString();
+    request.task.style = style.toStdString();
+    request.task.extensions = extensions.simplified().toStdString();
+    request.task.quiet = true;
+    request.chosen = p.chosen;
+    setEnabled(true);
+    p.message->setText(tr(text::previewing));
+    p.busy = true;
+    auto const link = std::make_shared<worker_link<preview_of_code>>(this);
+    p.link = link;
+    p.worker = std::thread([link, request] {
+        preview_outcome const outcome = outcome_of(request);
+        link->reach([&outcome](preview_of_code& to) {
+            QMetaObject::invokeMethod(&to, [&to, outcome] { to.worker_has_finished(outcome); }, Qt::QueuedConnection);
+        });
+    });
+}
+
+void preview_of_code::worker_has_finished(preview_outcome const& outcome) {
+    implementation& p = *pimpl;
+    p.worker.join();
+    p.link.reset();
+    p.busy = false;
+    if (p.again) {
+        p.again = false;
+        --p.generation;  // update_now counts the request it makes again
+        update_now();
+        return;
+    }
+    show_outcome(outcome);
+}
+
+void preview_of_code::show_outcome(preview_outcome const& outcome) {
+    implementation& p = *pimpl;
+    if (outcome.generation != p.generation)
+        return;  // A newer change overtook it.
+    using end = preview_outcome::end;
+    p.show_files(outcome.files, outcome.file);
+    p.no_changes_to_go_to();
+    p.text->setPlainText(outcome.text);
+    p.mark(outcome.changed_lines);
+    switch (outcome.how) {
+    case end::no_files:
+        p.message->setText(tr(text::no_file_to_preview));
+        break;
+    case end::unreadable:
+        p.message->setText(tr(text::file_cannot_be_read));
+        break;
+    case end::refused:
+        p.message->setText(tr(text::plugin_refuses_the_file));
+        break;
+    case end::not_started:
+        p.message->setText(outcome.report);
+        break;
+    case end::revised:
+        if (outcome.changed_lines.empty()) {
+            p.message->setText(tr(text::file_stays_as_it_is));
+        } else {
+            p.message->setText(tr(text::lines_change_prefix) + QString::number(outcome.changed_lines.size()) +
+                               tr(text::lines_change_middle) + QString::number(outcome.lines_of_file) +
+                               tr(text::lines_change_suffix));
+            p.take_changes_of(outcome.changed_lines);
+        }
+        break;
+    }
+    emit preview_was_shown();
+}
+
+void preview_of_code::disable_with_cleanup() {
+    implementation& p = *pimpl;
+    p.later->stop();
+    ++p.generation;  // whatever is under way is not shown
+    {
+        QSignalBlocker const quiet(p.files);
+        p.files->clear();
+    }
+    p.listed.clear();
+    p.text->clear();
+    p.text->setExtraSelections({});
+    p.message->clear();
+    p.no_changes_to_go_to();
+    setEnabled(false);
+}
+
+void preview_of_code::go_to_next_change() {
+    implementation& p = *pimpl;
+    int const here = p.text->textCursor().blockNumber();
+    auto const next = std::upper_bound(p.changes.begin(), p.changes.end(), here);
+    if (next != p.changes.end())
+        p.go_to_line(*next);
+    else if (!p.changes.empty())
+        p.go_to_line(p.changes.front());
+}
+
+void preview_of_code::go_to_previous_change() {
+    implementation& p = *pimpl;
+    int const here = p.text->textCursor().blockNumber();
+    auto const previous = std::lower_bound(p.changes.begin(), p.changes.end(), here);
+    if (previous != p.changes.begin())
+        p.go_to_line(*std::prev(previous));
+    else if (!p.changes.empty())
+        p.go_to_line(p.changes.back());
+}
+
+void preview_of_code::file_was_chosen(int index) {
+    pimpl->chosen = pimpl->files->itemData(index).toString();
+    update_now();
+}
+
+}  // namespace GUI
