@@ -7,6 +7,7 @@
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -95,6 +96,7 @@ preview_outcome outcome_of(preview_request const& request) {
     kernel const k;
     preview_outcome outcome;
     outcome.generation = request.generation;
+    outcome.paths = request.task.paths;
     outcome.files = k.files_of(request.task);
     if (outcome.files.isEmpty()) {
         outcome.how = preview_outcome::end::no_files;
@@ -130,7 +132,16 @@ preview_outcome outcome_of(preview_request const& request) {
     return outcome;
 }
 
-QString shown_name_of(QString const& file) { return QDir::toNativeSeparators(file); }
+// A file as the list shows it: from the directory of the task's path it was found under (so
+// "examples/c/word_count.h" for a file below the path "…/examples"), in full when it is none's.
+QString shown_name_of(QString const& file, QStringList const& paths) {
+    for (QString const& path : paths) {
+        QString const clean = QDir::cleanPath(path);
+        if (file == clean || file.startsWith(clean + "/"))
+            return QDir::toNativeSeparators(QFileInfo(clean).dir().relativeFilePath(file));
+    }
+    return QDir::toNativeSeparators(file);
+}
 
 }  // namespace
 
@@ -229,12 +240,14 @@ public:
         text->centerCursor();
     }
 
-    void show_files(QStringList const& all, QString const& shown) {
+    void show_files(QStringList const& all, QStringList const& paths, QString const& shown) {
         if (all != listed) {
             QSignalBlocker const quiet(files);
             files->clear();
-            for (QString const& file : all)
-                files->addItem(shown_name_of(file), file);
+            for (QString const& file : all) {
+                files->addItem(shown_name_of(file, paths), file);
+                files->setItemData(files->count() - 1, QDir::toNativeSeparators(file), Qt::ToolTipRole);
+            }
             listed = all;
         }
         QSignalBlocker const quiet(files);
@@ -340,7 +353,7 @@ void preview_of_code::show_outcome(preview_outcome const& outcome) {
     if (outcome.generation != p.generation)
         return;  // A newer change overtook it.
     using end = preview_outcome::end;
-    p.show_files(outcome.files, outcome.file);
+    p.show_files(outcome.files, outcome.paths, outcome.file);
     p.no_changes_to_go_to();
     p.text->setPlainText(outcome.text);
     p.mark(outcome.changed_lines);

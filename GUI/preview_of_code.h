@@ -25,7 +25,8 @@ struct preview_outcome {
     // The request's number: only the newest one is shown.
     unsigned long generation = 0;
     end how = end::no_files;
-    // The task's files, and the one previewed.
+    // The task's paths, its files, and the one previewed.
+    QStringList paths;
     QStringList files;
     QString file;
     // The text shown: the revised one, or the file as it is when it was not revised.

@@ -133,7 +133,7 @@ void test_window_preview::follows_what_takes_effect_data() {
 
 // Faults: the preview keeping what it showed when another style is chosen, a form is saved, a
 // task is shown, a file is chosen, the extensions or the paths change; a task coming back with
-// another task's file or style.
+// another task's file or style; the files listed under names too long to tell apart.
 void test_window_preview::follows_what_takes_effect() {
     QFETCH(QString, step);
     QFETCH(QString, file);
@@ -145,6 +145,7 @@ void test_window_preview::follows_what_takes_effect() {
     QTRY_COMPARE(shown_file(), path("tree/a.tst"));
     QTRY_COMPARE(status(), stays);
     QCOMPARE(shown_text(), QString("one two\nthree\n"));
+    QCOMPARE(preview()->chooser()->itemText(0), QString("tree/a.tst"));
 
     if (step == "Wide") {
         emit window->findChild<GUI::task_tabs*>()->set_this_formatting_style("Wide");
