@@ -98,6 +98,8 @@ constexpr char file_stays_as_it_is[] = "The style leaves this file as it is.";
 constexpr char lines_change_prefix[] = "The style changes ";
 constexpr char lines_change_middle[] = " of ";
 constexpr char lines_change_suffix[] = " lines of this file (marked).";
+constexpr char lines_added_prefix[] = "The style adds ";
+constexpr char lines_added_suffix[] = " lines to this file (marked).";
 constexpr char plugin_refuses_the_file[] =
     "The language plugin cannot revise this file: a revision would leave it as it is.";
 constexpr char file_cannot_be_read[] = "This file cannot be read.";

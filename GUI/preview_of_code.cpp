@@ -39,10 +39,18 @@ int line_count_of(std::string const& text) {
     return text.back() == '\n' ? breaks : breaks + 1;
 }
 
-// The lines (from 0) of the new side of a unified diff that are new or stand where lines went:
-// "+" lines, and for lines removed with nothing in their place, the line that follows them.
-std::vector<int> changed_lines_in(std::string const& diff, int new_line_count) {
-    std::vector<int> lines;
+// What a unified diff says of the lines.
+struct lines_of_a_diff {
+    // The lines (from 0) of the new side that are new or stand where lines went: "+" lines, and
+    // for lines removed with nothing in their place, the line that follows them.
+    std::vector<int> marked;
+    int removed = 0;  // "-" lines: lines of the old side replaced or removed
+    int added = 0;    // "+" lines
+};
+
+lines_of_a_diff lines_in(std::string const& diff, int new_line_count) {
+    lines_of_a_diff found;
+    std::vector<int>& lines = found.marked;
     auto mark = [&](int line) {
         line = std::max(0, std::min(line, new_line_count - 1));
         if (lines.empty() || lines.back() != line)
@@ -75,10 +83,12 @@ std::vector<int> changed_lines_in(std::string const& diff, int new_line_count) {
             ++next_new;
             break;
         case '+':
+            ++found.added;
             mark(next_new);
             ++next_new;
             break;
         case '-':
+            ++found.removed;
             if (new_line_count > 0)
                 mark(next_new);
             break;
@@ -88,7 +98,7 @@ std::vector<int> changed_lines_in(std::string const& diff, int new_line_count) {
     }
     std::sort(lines.begin(), lines.end());
     lines.erase(std::unique(lines.begin(), lines.end()), lines.end());
-    return lines;
+    return found;
 }
 
 // The worker's whole job: the task's files, the one to preview, read, revised and compared.
@@ -115,11 +125,15 @@ preview_outcome outcome_of(preview_request const& request) {
     outcome.lines_of_file = line_count_of(text);
     outcome.report = QString::fromStdString(report).trimmed();
     switch (status) {
-    case text_outcome_status::revised:
+    case text_outcome_status::revised: {
         outcome.how = preview_outcome::end::revised;
         outcome.text = QString::fromStdString(revised);
-        outcome.changed_lines = changed_lines_in(k.unified_diff_of("preview", text, revised), line_count_of(revised));
+        lines_of_a_diff const lines = lines_in(k.unified_diff_of("preview", text, revised), line_count_of(revised));
+        outcome.changed_lines = lines.marked;
+        outcome.lines_changed = lines.removed;
+        outcome.lines_added = lines.added;
         break;
+    }
     case text_outcome_status::refused:
         outcome.how = preview_outcome::end::refused;
         outcome.text = QString::fromStdString(text);
@@ -373,12 +387,16 @@ void preview_of_code::show_outcome(preview_outcome const& outcome) {
     case end::revised:
         if (outcome.changed_lines.empty()) {
             p.message->setText(tr(text::file_stays_as_it_is));
-        } else {
-            p.message->setText(tr(text::lines_change_prefix) + QString::number(outcome.changed_lines.size()) +
+            break;
+        }
+        if (outcome.lines_changed > 0)
+            p.message->setText(tr(text::lines_change_prefix) + QString::number(outcome.lines_changed) +
                                tr(text::lines_change_middle) + QString::number(outcome.lines_of_file) +
                                tr(text::lines_change_suffix));
-            p.take_changes_of(outcome.changed_lines);
-        }
+        else
+            p.message->setText(tr(text::lines_added_prefix) + QString::number(outcome.lines_added) +
+                               tr(text::lines_added_suffix));
+        p.take_changes_of(outcome.changed_lines);
         break;
     }
     emit preview_was_shown();

@@ -169,6 +169,8 @@ void style_group::restore_state_of_splitter() {
     QVariant const preview = settings.value(settings_key::preview_splitter_state);
     if (preview.isValid())
         pimpl->outer->restoreState(preview.toByteArray());
+    else
+        pimpl->outer->setSizes({600, 400});  // shares: the style's panes three fifths, the preview two
 }
 
 void style_group::restore_states_of_sliders() {

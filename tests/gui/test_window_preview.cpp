@@ -197,6 +197,7 @@ void test_window_preview::drops_a_result_a_newer_change_overtook() {
     late.file = path("tree/a.tst");
     late.text = "overtaken\n";
     late.changed_lines = {0};
+    late.lines_changed = 1;
     late.lines_of_file = 1;
     late.generation = preview()->generation() - 1;
     preview()->show_outcome(late);
