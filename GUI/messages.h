@@ -103,6 +103,16 @@ constexpr char lines_added_suffix[] = " lines to this file (marked).";
 constexpr char plugin_refuses_the_file[] =
     "The language plugin cannot revise this file: a revision would leave it as it is.";
 constexpr char file_cannot_be_read[] = "This file cannot be read.";
+constexpr char changes_caption[] = "How much of the code the style changes";
+constexpr char counting_changes[] = "Counting the lines the style changes...";
+constexpr char changes_prefix[] = "This style changes ";
+constexpr char changes_of[] = " of ";
+constexpr char changes_lines_in[] = " lines in ";
+constexpr char changes_files[] = " files";
+constexpr char most_changed_files[] = "The files the style changes most: click one to preview it";
+constexpr char changed_lines_prefix[] = ": ";
+constexpr char changed_line_suffix[] = " line changes";
+constexpr char changed_lines_suffix[] = " lines change";
 
 // Learning a style from the task's code: the menu entry, the name asked, the progress, and the
 // ends other than a learned style (the words of the command line where it has them).

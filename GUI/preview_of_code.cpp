@@ -10,7 +10,9 @@
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QListWidget>
 #include <QPlainTextEdit>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTextBlock>
 #include <QTimer>
@@ -162,13 +164,27 @@ QString shown_name_of(QString const& file, QStringList const& paths) {
 class preview_of_code::implementation {
 public:
     explicit implementation(preview_of_code* owner)
-        : files(new QComboBox(owner)), message(new QLabel(owner)), text(new QPlainTextEdit(owner)),
+        : figure(new QLabel(owner)), progress(new QProgressBar(owner)), most_changed(new QListWidget(owner)),
+          files(new QComboBox(owner)), message(new QLabel(owner)), text(new QPlainTextEdit(owner)),
           previous(new QPushButton(QObject::tr(text::previous_change), owner)),
           next(new QPushButton(QObject::tr(text::next_change), owner)), later(new QTimer(owner)) {
         auto* caption = new QLabel(QObject::tr(text::preview_caption), owner);
         caption->setStyleSheet("QLabel { font: bold; }");
         caption->setAlignment(Qt::AlignHCenter | Qt::AlignVCenter);
         caption->setBuddy(files);
+        figure->setObjectName("changes_figure");
+        figure->setWordWrap(true);
+        figure->setAccessibleName(QObject::tr(text::changes_caption));
+        progress->setObjectName("changes_progress");
+        progress->setAccessibleName(QObject::tr(text::counting_changes));
+        progress->setTextVisible(false);
+        progress->setMaximumHeight(8);
+        progress->hide();
+        most_changed->setObjectName("most_changed_files");
+        most_changed->setAccessibleName(QObject::tr(text::most_changed_files));
+        most_changed->setToolTip(QObject::tr(text::most_changed_files));
+        most_changed->setMaximumHeight(4 * most_changed->fontMetrics().height() + 8);
+        most_changed->hide();
         files->setObjectName("file_to_preview");
         files->setAccessibleName(QObject::tr(text::file_to_preview));
         files->setToolTip(QObject::tr(text::file_to_preview));
@@ -199,6 +215,9 @@ public:
         auto* layout = new QVBoxLayout(owner);
         layout->setContentsMargins(0, 0, 0, 0);
         layout->addWidget(caption);
+        layout->addWidget(figure);
+        layout->addWidget(progress);
+        layout->addWidget(most_changed);
         layout->addWidget(files);
         layout->addWidget(message);
         layout->addWidget(text, 1);
@@ -210,8 +229,12 @@ public:
     ~implementation() {
         if (link)
             link->cut();
+        if (count_link)
+            count_link->cut();
         if (worker.joinable())
             worker.join();
+        if (counter.joinable())
+            counter.join();
     }
 
     void no_changes_to_go_to() {
@@ -268,6 +291,9 @@ public:
         files->setCurrentIndex(files->findData(shown));
     }
 
+    QLabel* figure;
+    QProgressBar* progress;
+    QListWidget* most_changed;
     QComboBox* files;
     QLabel* message;
     QPlainTextEdit* text;
@@ -282,6 +308,12 @@ public:
     bool again = false;
     std::shared_ptr<worker_link<preview_of_code>> link;
     std::thread worker;
+    // The count of the whole task.
+    unsigned long count_generation = 0;
+    bool counting = false;
+    bool count_stopped = false;
+    std::shared_ptr<worker_link<preview_of_code>> count_link;
+    std::thread counter;
 };
 
 preview_of_code::preview_of_code(QWidget* parent)
@@ -290,6 +322,8 @@ preview_of_code::preview_of_code(QWidget* parent)
     setAccessibleName(tr(text::preview_caption));
     connect(pimpl->later, &QTimer::timeout, this, &preview_of_code::update_now);
     connect(pimpl->files, QOverload<int>::of(&QComboBox::activated), this, &preview_of_code::file_was_chosen);
+    connect(pimpl->most_changed, &QListWidget::itemClicked, this, &preview_of_code::changed_file_was_clicked);
+    connect(pimpl->most_changed, &QListWidget::itemActivated, this, &preview_of_code::changed_file_was_clicked);
     connect(pimpl->next, &QPushButton::clicked, this, &preview_of_code::go_to_next_change);
     connect(pimpl->previous, &QPushButton::clicked, this, &preview_of_code::go_to_previous_change);
     setEnabled(false);
@@ -307,33 +341,53 @@ QPlainTextEdit* preview_of_code::view() const { return pimpl->text; }
 
 QLabel* preview_of_code::status() const { return pimpl->message; }
 
+QLabel* preview_of_code::figure() const { return pimpl->figure; }
+
+QListWidget* preview_of_code::most_changed_files() const { return pimpl->most_changed; }
+
+unsigned long preview_of_code::count_generation() const { return pimpl->count_generation; }
+
 void preview_of_code::something_has_changed() { pimpl->later->start(); }
 
-// One worker at a time: a request made while it works makes it start again with the newest
-// task once it is done, and what it was doing is dropped by its number.
 void preview_of_code::update_now() {
     implementation& p = *pimpl;
     p.later->stop();
     ++p.generation;
+    ++p.count_generation;
+    preview_again();
+    count_again();
+}
+
+// The task as the other panes show it; false without a language or a style.
+bool preview_of_code::task_asked(revision_task& task) {
+    QString language, style, extensions;
+    emit obtain_programming_language(language);
+    emit obtain_formatting_style(style);
+    if (language.isEmpty() || style.isEmpty())
+        return false;
+    emit obtain_filename_extensions(extensions);
+    emit obtain_raw_paths_to_revising_files(task.paths);
+    task.language = language.toStdString();
+    task.style = style.toStdString();
+    task.extensions = extensions.simplified().toStdString();
+    task.quiet = true;
+    return true;
+}
+
+// One worker at a time: a request made while it works makes it start again with the newest
+// task once it is done, and what it was doing is dropped by its number.
+void preview_of_code::preview_again() {
+    implementation& p = *pimpl;
     if (p.busy) {
         p.again = true;
         return;
     }
     preview_request request;
     request.generation = p.generation;
-    QString language, style, extensions;
-    emit obtain_programming_language(language);
-    emit obtain_formatting_style(style);
-    if (language.isEmpty() || style.isEmpty()) {
+    if (!task_asked(request.task)) {
         disable_with_cleanup();
         return;
     }
-    emit obtain_filename_extensions(extensions);
-    emit obtain_raw_paths_to_revising_files(request.task.paths);
-    request.task.language = language.toStdString();
-    request.task.style = style.toStdString();
-    request.task.extensions = extensions.simplified().toStdString();
-    request.task.quiet = true;
     request.chosen = p.chosen;
     setEnabled(true);
     p.message->setText(tr(text::previewing));
@@ -355,11 +409,105 @@ void preview_of_code::worker_has_finished(preview_outcome const& outcome) {
     p.busy = false;
     if (p.again) {
         p.again = false;
-        --p.generation;  // update_now counts the request it makes again
-        update_now();
+        preview_again();
         return;
     }
     show_outcome(outcome);
+}
+
+// The count of the whole task on a worker of its own; a newer change stops it, and it starts
+// again with the newest task once it has stopped.
+void preview_of_code::count_again() {
+    implementation& p = *pimpl;
+    if (p.counting) {
+        p.count_stopped = true;
+        p.count_link->stop = true;
+        return;
+    }
+    revision_task task;
+    if (!task_asked(task))
+        return;
+    p.counting = true;
+    p.figure->setText(tr(text::counting_changes));
+    p.progress->setRange(0, 0);
+    p.progress->setValue(0);
+    p.progress->QWidget::show();
+    auto const link = std::make_shared<worker_link<preview_of_code>>(this);
+    p.count_link = link;
+    unsigned long const generation = p.count_generation;
+    p.counter = std::thread([link, task, generation] {
+        changes_under_style const changes = kernel().changes_under_style_of(
+            task,
+            [&link](unsigned long done, int found) {
+                link->reach([done, found](preview_of_code& to) {
+                    QMetaObject::invokeMethod(&to, [&to, done, found] { to.count_went_on(done, found); },
+                                              Qt::QueuedConnection);
+                });
+            },
+            link->stop);
+        link->reach([&changes, generation](preview_of_code& to) {
+            QMetaObject::invokeMethod(&to, [&to, changes, generation] { to.count_has_finished(changes, generation); },
+                                      Qt::QueuedConnection);
+        });
+    });
+}
+
+void preview_of_code::count_went_on(unsigned long done, int found) {
+    implementation& p = *pimpl;
+    if (!p.counting || p.count_stopped)
+        return;
+    p.progress->setRange(0, found);
+    p.progress->setValue(static_cast<int>(std::min<unsigned long>(done, static_cast<unsigned long>(found))));
+}
+
+void preview_of_code::count_has_finished(changes_under_style const& changes, unsigned long generation) {
+    implementation& p = *pimpl;
+    p.counter.join();
+    p.count_link.reset();
+    p.counting = false;
+    p.progress->hide();
+    if (p.count_stopped) {
+        p.count_stopped = false;
+        count_again();
+        return;
+    }
+    show_changes(changes, generation);
+}
+
+void preview_of_code::show_changes(changes_under_style const& changes, unsigned long generation) {
+    implementation& p = *pimpl;
+    if (generation != p.count_generation)
+        return;  // A newer change overtook it.
+    p.most_changed->clear();
+    if (!changes.started || changes.stopped) {
+        p.figure->clear();
+        p.most_changed->hide();
+        return;
+    }
+    p.figure->setText(tr(text::changes_prefix) + QString::number(changes.lines_changed) + tr(text::changes_of) +
+                      QString::number(changes.lines) + tr(text::changes_lines_in) +
+                      QString::number(changes.files_changed) + tr(text::changes_of) + QString::number(changes.files) +
+                      tr(text::changes_files));
+    QStringList paths;
+    emit obtain_raw_paths_to_revising_files(paths);
+    std::size_t const shown = std::min<std::size_t>(changes.changed_files.size(), 10);
+    for (std::size_t file = 0; file < shown; ++file) {
+        auto const& changed = changes.changed_files[file];
+        auto* item = new QListWidgetItem(shown_name_of(changed.first, paths) + tr(text::changed_lines_prefix) +
+                                         QString::number(changed.second) +
+                                         tr(changed.second == 1 ? text::changed_line_suffix : text::changed_lines_suffix));
+        item->setData(Qt::UserRole, changed.first);
+        item->setToolTip(QDir::toNativeSeparators(changed.first));
+        p.most_changed->addItem(item);
+    }
+    p.most_changed->setVisible(shown > 0);
+    emit changes_were_counted();
+}
+
+void preview_of_code::changed_file_was_clicked(QListWidgetItem* item) {
+    pimpl->chosen = item->data(Qt::UserRole).toString();
+    ++pimpl->generation;
+    preview_again();
 }
 
 void preview_of_code::show_outcome(preview_outcome const& outcome) {
@@ -406,6 +554,15 @@ void preview_of_code::disable_with_cleanup() {
     implementation& p = *pimpl;
     p.later->stop();
     ++p.generation;  // whatever is under way is not shown
+    ++p.count_generation;
+    if (p.counting) {
+        p.count_link->stop = true;
+        p.count_stopped = false;
+    }
+    p.figure->clear();
+    p.progress->hide();
+    p.most_changed->clear();
+    p.most_changed->hide();
     {
         QSignalBlocker const quiet(p.files);
         p.files->clear();
@@ -440,7 +597,8 @@ void preview_of_code::go_to_previous_change() {
 
 void preview_of_code::file_was_chosen(int index) {
     pimpl->chosen = pimpl->files->itemData(index).toString();
-    update_now();
+    ++pimpl->generation;
+    preview_again();
 }
 
 }  // namespace GUI

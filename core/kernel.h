@@ -7,6 +7,7 @@
 #ifndef STYLE_TARNEL_CORE_KERNEL_H
 #define STYLE_TARNEL_CORE_KERNEL_H
 
+#include "core/changes_under_style.h"
 #include "core/style_description.h"
 #include "core/revision_task.h"
 #include "core/style_learning_outcome.h"
@@ -127,6 +128,12 @@ public:
     // The files a run of the task would revise, in its order: its paths walked with its extensions
     // and its ignore rules. Nothing is read or revised.
     QStringList files_of(revision_task const& task) const;
+    // What the task's style would change in its files, every file revised in memory whatever its
+    // change record says, on the run's workers; `progress` hears the files done and found, and
+    // `stop`, read before every file, ends the count early. Nothing is written.
+    changes_under_style changes_under_style_of(revision_task const& task,
+                                               std::function<void(unsigned long, int)> const& progress,
+                                               std::atomic<bool> const& stop) const;
     // A unified diff ("--- a/LABEL", "+++ b/LABEL", three lines of context) from `text` to
     // `revised`; empty when they are equal.
     std::string unified_diff_of(std::string const& label, std::string const& text,

@@ -98,6 +98,8 @@ private slots:
     void drops_a_result_a_newer_change_overtook();
     void says_when_the_plugin_refuses_the_file();
     void marks_the_changed_lines_and_goes_from_one_to_the_next();
+    void counts_what_the_style_changes_in_the_task();
+    void drops_a_count_a_newer_change_overtook();
 };
 
 void test_window_preview::init() {
@@ -252,6 +254,49 @@ void test_window_preview::marks_the_changed_lines_and_goes_from_one_to_the_next(
     QCOMPARE(visited, QList<int>({5, 3, 0}));
     for (QWidget* control : QList<QWidget*>{preview(), preview()->chooser(), preview()->view(), next, previous})
         QVERIFY2(!control->accessibleName().isEmpty(), qPrintable(control->objectName()));
+}
+
+// Faults: the figure missing, counting other lines or files than the style changes, not
+// following another style; the most changed files out of order, or a click on one not previewing it.
+void test_window_preview::counts_what_the_style_changes_in_the_task() {
+    write(path("tree/sub/d.tst"), "p q r\ns t\nu\n");
+    open_window();
+    choose("Plain");
+    add("tree");
+    QTRY_COMPARE(preview()->figure()->text(), QString("This style changes 0 of 7 lines in 0 of 3 files"));
+    QVERIFY(preview()->most_changed_files()->isHidden());
+    emit window->findChild<GUI::task_tabs*>()->set_this_formatting_style("Wide");
+    QTRY_COMPARE(preview()->figure()->text(), QString("This style changes 4 of 7 lines in 3 of 3 files"));
+    QListWidget* most = preview()->most_changed_files();
+    QVERIFY(!most->isHidden());
+    QCOMPARE(texts_of(most), QStringList({"tree/sub/d.tst: 2 lines change", "tree/a.tst: 1 line changes",
+                                          "tree/c.test: 1 line changes"}));
+    QTRY_COMPARE(shown_file(), path("tree/a.tst"));
+    QTest::mouseClick(most->viewport(), Qt::LeftButton, Qt::NoModifier, most->visualItemRect(most->item(0)).center());
+    QTRY_COMPARE(shown_file(), path("tree/sub/d.tst"));
+    QTRY_COMPARE(shown_text(), QString("p  q  r\ns  t\nu\n"));
+    QVERIFY(!preview()->figure()->accessibleName().isEmpty());
+    QVERIFY(!most->accessibleName().isEmpty());
+}
+
+// Fault: a count that a newer change overtook (it was stopped, or it was slower) showing over the
+// newer one's.
+void test_window_preview::drops_a_count_a_newer_change_overtook() {
+    open_window();
+    choose("Plain");
+    add("tree");
+    QString const newest = "This style changes 0 of 4 lines in 0 of 2 files";
+    QTRY_COMPARE(preview()->figure()->text(), newest);
+    changes_under_style late;
+    late.started = true;
+    late.lines = 9;
+    late.lines_changed = 9;
+    late.files = 1;
+    late.files_changed = 1;
+    preview()->show_changes(late, preview()->count_generation() - 1);
+    QCOMPARE(preview()->figure()->text(), newest);
+    preview()->show_changes(late, preview()->count_generation());
+    QCOMPARE(preview()->figure()->text(), QString("This style changes 9 of 9 lines in 1 of 1 files"));
 }
 
 STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(test_window_preview)
