@@ -46,8 +46,7 @@ struct lines_of_a_diff {
     // The lines (from 0) of the new side that are new or stand where lines went: "+" lines, and
     // for lines removed with nothing in their place, the line that follows them.
     std::vector<int> marked;
-    int removed = 0;  // "-" lines: lines of the old side replaced or removed
-    int added = 0;    // "+" lines
+    int added = 0;  // "+" lines
 };
 
 lines_of_a_diff lines_in(std::string const& diff, int new_line_count) {
@@ -90,7 +89,6 @@ lines_of_a_diff lines_in(std::string const& diff, int new_line_count) {
             ++next_new;
             break;
         case '-':
-            ++found.removed;
             if (new_line_count > 0)
                 mark(next_new);
             break;
@@ -132,7 +130,7 @@ preview_outcome outcome_of(preview_request const& request) {
         outcome.text = QString::fromStdString(revised);
         lines_of_a_diff const lines = lines_in(k.unified_diff_of("preview", text, revised), line_count_of(revised));
         outcome.changed_lines = lines.marked;
-        outcome.lines_changed = lines.removed;
+        outcome.lines_changed = static_cast<int>(k.lines_changed_between(text, revised));
         outcome.lines_added = lines.added;
         break;
     }

@@ -40,7 +40,7 @@ struct preview_outcome {
     // Why a revision could not start, as the run words it.
     QString report;
     // The lines (from 0) of `text` that differ from the file; how many lines of the file the
-    // revision replaces or removes, and how many it adds; the file's line count.
+    // revised text no longer holds, and how many lines the diff adds; the file's line count.
     std::vector<int> changed_lines;
     int lines_changed = 0;
     int lines_added = 0;

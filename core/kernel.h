@@ -134,6 +134,8 @@ public:
     changes_under_style changes_under_style_of(revision_task const& task,
                                                std::function<void(unsigned long, int)> const& progress,
                                                std::atomic<bool> const& stop) const;
+    // The lines of `text` that `revised` no longer holds: how the count above counts a file.
+    unsigned long lines_changed_between(std::string const& text, std::string const& revised) const;
     // A unified diff ("--- a/LABEL", "+++ b/LABEL", three lines of context) from `text` to
     // `revised`; empty when they are equal.
     std::string unified_diff_of(std::string const& label, std::string const& text,

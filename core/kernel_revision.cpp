@@ -135,7 +135,7 @@ changes_under_style kernel::changes_under_style_of(revision_task const& task,
     request.quiet = true;
     std::mutex lock;
     request.would_change = [&](QString const& path, std::string const& text, std::string const& revised) {
-        unsigned long const changed = style_tarnel::lines_of(text) - style_tarnel::lines_left_between(text, revised);
+        unsigned long const changed = lines_changed_between(text, revised);
         std::lock_guard<std::mutex> const hold(lock);
         changes.changed_files.emplace_back(path, changed);
     };
@@ -161,6 +161,10 @@ changes_under_style kernel::changes_under_style_of(revision_task const& task,
         return one.second != other.second ? one.second > other.second : one.first < other.first;
     });
     return changes;
+}
+
+unsigned long kernel::lines_changed_between(std::string const& text, std::string const& revised) const {
+    return style_tarnel::lines_of(text) - style_tarnel::lines_left_between(text, revised);
 }
 
 std::string kernel::unified_diff_of(std::string const& label, std::string const& text,
