@@ -100,6 +100,7 @@ private slots:
     void marks_the_changed_lines_and_goes_from_one_to_the_next();
     void counts_what_the_style_changes_in_the_task();
     void drops_a_count_a_newer_change_overtook();
+    void calls_a_plugin_from_one_thread_at_a_time();
 };
 
 void test_window_preview::init() {
@@ -297,6 +298,29 @@ void test_window_preview::drops_a_count_a_newer_change_overtook() {
     QCOMPARE(preview()->figure()->text(), newest);
     preview()->show_changes(late, preview()->count_generation());
     QCOMPARE(preview()->figure()->text(), QString("This style changes 9 of 9 lines in 1 of 1 files"));
+}
+
+// Fault: the preview and the count calling revise() of a plugin that does not say it may run on
+// several threads at once from two threads at once.
+void test_window_preview::calls_a_plugin_from_one_thread_at_a_time() {
+    empty_directory(path_to().plugins_directory());
+    QFile::copy(built::test_language_plugin(), path_to().plugins_directory() + "/libtest-language-plugin.so");
+    QString const log = work->path() + "/plugin.log";
+    qputenv("TEST_PLUGIN_LOG", log.toUtf8());
+    qputenv("TEST_PLUGIN_DELAY_MS", "100");
+    open_window();
+    choose("Plain");
+    add("tree");
+    QTRY_COMPARE_WITH_TIMEOUT(preview()->figure()->text(), QString("This style changes 0 of 4 lines in 0 of 2 files"), 20000);
+    QTRY_COMPARE_WITH_TIMEOUT(status(), stays, 20000);
+    window.reset();
+    qunsetenv("TEST_PLUGIN_LOG");
+    qunsetenv("TEST_PLUGIN_DELAY_MS");
+    QFile file(log);
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QByteArray const calls = file.readAll();
+    QVERIFY(calls.contains(" revise "));
+    QVERIFY2(!calls.contains("overlapping revise"), calls.constData());
 }
 
 STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(test_window_preview)
