@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QVBoxLayout>
 
@@ -104,6 +105,12 @@ code_group::code_group(QWidget* parent, revise_menu_it_forcibly* it_forcibly, re
     connect(P, &list_of_paths::obtain_filename_extensions, E, &list_of_file_extensions::obtain_filename_extensions);
     connect(P, &list_of_paths::obtain_programming_language, this, &code_group::obtain_programming_language);
     connect(E, &list_of_file_extensions::obtain_programming_language, this, &code_group::obtain_programming_language);
+    QAbstractItemModel* const rows = P->list_ptr()->model();
+    connect(rows, &QAbstractItemModel::rowsInserted, this, &code_group::paths_or_extensions_changed);
+    connect(rows, &QAbstractItemModel::rowsRemoved, this, &code_group::paths_or_extensions_changed);
+    connect(rows, &QAbstractItemModel::modelReset, this, &code_group::paths_or_extensions_changed);
+    for (QLineEdit* field : E->findChildren<QLineEdit*>())
+        connect(field, &QLineEdit::textChanged, this, &code_group::paths_or_extensions_changed);
     connect(this, &code_group::obtain_filename_extensions, E, &list_of_file_extensions::obtain_filename_extensions);
     connect(this, &code_group::obtain_raw_paths_to_revising_files, P,
             &list_of_paths::obtain_raw_paths_to_revising_files);

@@ -31,6 +31,8 @@ signals:
     void at_least_one_path_was_added();
     void no_extensions_anymore();
     void no_paths_anymore();
+    // A path was added or removed, or the extensions changed, by the user or by a task shown.
+    void paths_or_extensions_changed();
 
 public slots:
     void language_n_style_was_selected();

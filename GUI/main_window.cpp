@@ -192,6 +192,7 @@ void main_window::connect_groups() {
     connect(C, &code_group::at_least_one_path_was_added, R, &revise_group::at_least_one_path_was_added);
     connect(C, &code_group::no_extensions_anymore, R, &revise_group::no_extensions_anymore);
     connect(C, &code_group::no_paths_anymore, R, &revise_group::no_paths_anymore);
+    connect(C, &code_group::paths_or_extensions_changed, S, &style_group::code_was_changed);
     connect(pimpl->revise_all.widget_ptr(), &QAction::triggered, R, &revise_group::revise_all);
     connect(pimpl->revise_changed_lines.widget_ptr(), &QAction::triggered, R, &revise_group::revise_changed_lines);
     connect(pimpl->revise_all_forcibly.widget_ptr(), &QAction::triggered, R, &revise_group::revise_all_forcibly);

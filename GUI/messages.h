@@ -87,6 +87,35 @@ constexpr char please_make_sure_this_file[] = "Please make sure this style file\
 constexpr char plugin_refuses_the_form[] =
     "The language plugin cannot revise this form: a revision would leave such code as it is.";
 
+// The preview of a file of the task as the current style revises it.
+constexpr char preview_caption[] = "Preview";
+constexpr char file_to_preview[] = "File to preview";
+constexpr char previewed_file[] = "The file as the style revises it";
+constexpr char next_change[] = "Next change";
+constexpr char previous_change[] = "Previous change";
+constexpr char previewing[] = "Revising the file for the preview...";
+constexpr char no_file_to_preview[] =
+    "No file of the task to preview: add paths to your code with files of the extensions below.";
+constexpr char file_stays_as_it_is[] = "The style leaves this file as it is.";
+constexpr char lines_change_prefix[] = "The style changes ";
+constexpr char lines_change_middle[] = " of ";
+constexpr char lines_change_suffix[] = " lines of this file (marked).";
+constexpr char lines_added_prefix[] = "The style adds ";
+constexpr char lines_added_suffix[] = " lines to this file (marked).";
+constexpr char plugin_refuses_the_file[] =
+    "The language plugin cannot revise this file: a revision would leave it as it is.";
+constexpr char file_cannot_be_read[] = "This file cannot be read.";
+constexpr char changes_caption[] = "How much of the code the style changes";
+constexpr char counting_changes[] = "Counting the lines the style changes...";
+constexpr char changes_prefix[] = "This style changes ";
+constexpr char changes_of[] = " of ";
+constexpr char changes_lines_in[] = " lines in ";
+constexpr char changes_files[] = " files";
+constexpr char most_changed_files[] = "The files the style changes most: click one to preview it";
+constexpr char changed_lines_prefix[] = ": ";
+constexpr char changed_line_suffix[] = " line changes";
+constexpr char changed_lines_suffix[] = " lines change";
+
 // Learning a style from the task's code: the menu entry, the name asked, the progress, and the
 // ends other than a learned style (the words of the command line where it has them).
 constexpr char learn_from_code[] = "Learn from code...";

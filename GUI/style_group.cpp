@@ -1,6 +1,7 @@
 #include "GUI/style_group.h"
 
 #include "GUI/menu_actions.h"
+#include "GUI/preview_of_code.h"
 #include "GUI/select_formatting_style.h"
 #include "GUI/select_programming_language.h"
 #include "GUI/select_language_structure.h"
@@ -16,14 +17,16 @@ namespace GUI {
 class style_group::implementation {
 public:
     implementation(style_group* owner, QWidget* main_window, style_group_actions const& actions)
-        : splitter(new QSplitter(Qt::Horizontal, owner)),
+        : outer(new QSplitter(Qt::Horizontal, owner)),
+          splitter(new QSplitter(Qt::Horizontal, outer)),
           languages(new select_programming_language(splitter, main_window, actions.language_import,
                                                     actions.language_delete)),
           styles(new select_formatting_style(splitter, main_window,
                                              {actions.style_import, actions.style_export,
                                               actions.style_delete, actions.style_rename})),
           structures(new select_language_structure(splitter)),
-          form(new view_n_edit_language_structure(splitter, actions)) {
+          form(new view_n_edit_language_structure(splitter, actions)),
+          preview(new preview_of_code(outer)) {
         splitter->setObjectName("style_splitter");
         splitter->setChildrenCollapsible(false);
         splitter->addWidget(languages->widget_ptr());
@@ -31,17 +34,27 @@ public:
         splitter->addWidget(structures->widget_ptr());
         splitter->addWidget(form->widget_ptr());
         splitter->setStretchFactor(3, 1);
+        outer->setObjectName("preview_splitter");
+        outer->setChildrenCollapsible(true);
+        outer->addWidget(splitter);
+        outer->addWidget(preview->widget_ptr());
+        outer->setCollapsible(0, false);
+        outer->setStretchFactor(0, 3);
+        outer->setStretchFactor(1, 2);
         auto* layout = new QHBoxLayout(owner);
         layout->setSpacing(6);
         layout->setContentsMargins(0, 0, 0, 3);
-        layout->addWidget(splitter);
+        layout->addWidget(outer);
     }
 
+    // The style panes' splitter on the left, the preview on the right.
+    QSplitter* outer;
     QSplitter* splitter;
     select_programming_language* languages;
     select_formatting_style* styles;
     select_language_structure* structures;
     view_n_edit_language_structure* form;
+    preview_of_code* preview;
 };
 
 style_group::style_group(QWidget* parent, QWidget* main_window, style_group_actions const& actions)
@@ -91,6 +104,21 @@ style_group::style_group(QWidget* parent, QWidget* main_window, style_group_acti
     connect(T, &select_language_structure::language_structure_was_selected, V,
             &view_n_edit_language_structure::show);
 
+    // The preview asks what the panes and the paths group show, and follows what takes effect.
+    auto* P = pimpl->preview;
+    connect(P, &preview_of_code::obtain_programming_language, L,
+            &select_programming_language::obtain_programming_language);
+    connect(P, &preview_of_code::obtain_formatting_style, S, &select_formatting_style::obtain_formatting_style);
+    connect(P, &preview_of_code::obtain_filename_extensions, this, &style_group::obtain_filename_extensions);
+    connect(P, &preview_of_code::obtain_raw_paths_to_revising_files, this,
+            &style_group::obtain_raw_paths_to_revising_files);
+    connect(L, &select_programming_language::language_was_selected, P, &preview_of_code::something_has_changed);
+    connect(S, &select_formatting_style::style_was_selected, P, &preview_of_code::something_has_changed);
+    connect(V, &view_n_edit_language_structure::form_was_saved, P, &preview_of_code::something_has_changed);
+    connect(L, &select_programming_language::all_languages_have_been_deleted, P,
+            &preview_of_code::disable_with_cleanup);
+    connect(S, &select_formatting_style::all_styles_have_been_deleted, P, &preview_of_code::disable_with_cleanup);
+
     // Deletion.
     connect(L, &select_programming_language::all_languages_have_been_deleted, S,
             &select_formatting_style::disable_with_cleanup);
@@ -116,8 +144,13 @@ bool style_group::there_is_no_programming_languages() const {
     return pimpl->languages->there_is_no_programming_languages();
 }
 
+preview_of_code* style_group::preview() const { return pimpl->preview; }
+
+void style_group::code_was_changed() { pimpl->preview->something_has_changed(); }
+
 void style_group::save_state() {
     QSettings settings;
+    settings.setValue(settings_key::preview_splitter_state, pimpl->outer->saveState());
     QList<int> const sizes = pimpl->splitter->sizes();
     for (int pane = 0; pane < sizes.size(); ++pane)
         settings.setValue(settings_key::splitter_size(pane), sizes[pane]);
@@ -133,6 +166,11 @@ void style_group::restore_state_of_splitter() {
             sizes[pane] = size.toInt();
     }
     pimpl->splitter->setSizes(sizes);
+    QVariant const preview = settings.value(settings_key::preview_splitter_state);
+    if (preview.isValid())
+        pimpl->outer->restoreState(preview.toByteArray());
+    else
+        pimpl->outer->setSizes({600, 400});  // shares: the style's panes three fifths, the preview two
 }
 
 void style_group::restore_states_of_sliders() {

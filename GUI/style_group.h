@@ -1,5 +1,6 @@
 // The upper group of the window: language, style, structure and the structure's form side by
-// side in one splitter whose pane sizes survive a restart. It answers the other groups' questions
+// side in one splitter whose pane sizes survive a restart, and beside them, in a splitter of its
+// own, the preview of a file of the task under the style. It answers the other groups' questions
 // about the current language, style and structure.
 #ifndef STYLE_TARNEL_GUI_STYLE_GROUP_H
 #define STYLE_TARNEL_GUI_STYLE_GROUP_H
@@ -24,6 +25,7 @@ class lnf_menu_select_all;
 class lnf_menu_increase_font;
 class lnf_menu_decrease_font;
 class lnf_menu_non_print;
+class preview_of_code;
 
 struct style_group_actions {
     language_menu_import* language_import;
@@ -50,6 +52,7 @@ public:
 
     QWidget* widget_ptr();
     bool there_is_no_programming_languages() const;
+    preview_of_code* preview() const;
     void restore_state_of_splitter();
     void restore_states_of_sliders();
 
@@ -70,6 +73,8 @@ public slots:
     void set_this_formatting_style(QString const& style);
     void set_this_language_structure(QString const& structure);
     void set_first_programming_language();
+    // The task's paths or extensions changed: the preview follows.
+    void code_was_changed();
 
 private:
     void save_state();

@@ -203,6 +203,7 @@ void view_n_edit_language_structure::form_was_changed() {
         }
         p.last_valid_form = form;
         p.check_later->start();
+        emit form_was_saved();
         return;
     }
     put_back_the_form_saved_last();

@@ -36,6 +36,8 @@ signals:
     void obtain_programming_language(QString& language);
     void obtain_formatting_style(QString& style);
     void obtain_language_structure(QString& structure);
+    // An edited form was written into the style.
+    void form_was_saved();
 
 public slots:
     void show();

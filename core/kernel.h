@@ -7,6 +7,7 @@
 #ifndef STYLE_TARNEL_CORE_KERNEL_H
 #define STYLE_TARNEL_CORE_KERNEL_H
 
+#include "core/changes_under_style.h"
 #include "core/engine_configuration_outcome.h"
 #include "core/style_description.h"
 #include "core/revision_task.h"
@@ -142,6 +143,17 @@ public:
     text_outcome_status revise_text(revision_task const& task, std::string const& name,
                                     std::string const& text, std::string& result,
                                     std::string& report) const;
+    // The files a run of the task would revise, in its order: its paths walked with its extensions
+    // and its ignore rules. Nothing is read or revised.
+    QStringList files_of(revision_task const& task) const;
+    // What the task's style would change in its files, every file revised in memory whatever its
+    // change record says, on the run's workers; `progress` hears the files done and found, and
+    // `stop`, read before every file, ends the count early. Nothing is written.
+    changes_under_style changes_under_style_of(revision_task const& task,
+                                               std::function<void(unsigned long, int)> const& progress,
+                                               std::atomic<bool> const& stop) const;
+    // The lines of `text` that `revised` no longer holds: how the count above counts a file.
+    unsigned long lines_changed_between(std::string const& text, std::string const& revised) const;
     // A unified diff ("--- a/LABEL", "+++ b/LABEL", three lines of context) from `text` to
     // `revised`; empty when they are equal.
     std::string unified_diff_of(std::string const& label, std::string const& text,

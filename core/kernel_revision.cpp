@@ -10,6 +10,9 @@
 #include "engine/change_record_store.h"
 #include "engine/change_records.h"
 #include "engine/console_checker.h"
+#include "engine/file_collection.h"
+#include "engine/read_from.h"
+#include "engine/revision_run.h"
 #include "engine/tarnel.h"
 #include "engine/text_revision.h"
 #include "engine/unified_diff.h"
@@ -17,6 +20,9 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <mutex>
+
+#include "lines_left_as_they_are.h"
 
 namespace {
 
@@ -112,6 +118,55 @@ text_outcome_status kernel::revise_text(revision_task const& task, std::string c
         break;
     }
     return text_outcome_status::not_started;
+}
+
+QStringList kernel::files_of(revision_task const& task) const {
+    revision_request const request = request_for(task);
+    return obtain_full_file_paths_from(request.paths)
+        .following(request.ignoring)
+        .with(QString::fromStdString(request.extensions));
+}
+
+changes_under_style kernel::changes_under_style_of(revision_task const& task,
+                                                   std::function<void(unsigned long, int)> const& progress,
+                                                   std::atomic<bool> const& stop) const {
+    changes_under_style changes;
+    revision_request request = request_for(task);
+    request.writes_nothing = true;
+    request.records_ignored = true;
+    request.quiet = true;
+    std::mutex lock;
+    request.would_change = [&](QString const& path, std::string const& text, std::string const& revised) {
+        unsigned long const changed = lines_changed_between(text, revised);
+        std::lock_guard<std::mutex> const hold(lock);
+        changes.changed_files.emplace_back(path, changed);
+    };
+    revision_run run(changes.report, request);
+    if (!run.prepare())
+        return changes;
+    changes.started = true;
+    changes.stopped = run.revise_all([&] { return stop.load(); }, progress);
+    run.finish();
+    // The lines of every file; of a count stopped early, of about as many as were done.
+    int const done = changes.stopped ? static_cast<int>(std::min<unsigned long>(run.revised(), static_cast<unsigned long>(run.found())))
+                                     : run.found();
+    for (int file = 0; file < done; ++file) {
+        std::string text;
+        if (read_from(run.files()[file]).to(text))
+            changes.lines += style_tarnel::lines_of(text);
+    }
+    changes.files = done;
+    changes.files_changed = static_cast<int>(changes.changed_files.size());
+    for (auto const& file : changes.changed_files)
+        changes.lines_changed += file.second;
+    std::sort(changes.changed_files.begin(), changes.changed_files.end(), [](auto const& one, auto const& other) {
+        return one.second != other.second ? one.second > other.second : one.first < other.first;
+    });
+    return changes;
+}
+
+unsigned long kernel::lines_changed_between(std::string const& text, std::string const& revised) const {
+    return style_tarnel::lines_of(text) - style_tarnel::lines_left_between(text, revised);
 }
 
 std::string kernel::unified_diff_of(std::string const& label, std::string const& text,

@@ -13,6 +13,8 @@ constexpr char main_window_geometry[] = "main_window_geometry";
 // Integer: size of pane N (0 to 3) of the style group's splitter, under the key + N in decimal.
 constexpr char splitter_size_prefix[] = "splitter_size";
 inline QString splitter_size(int pane) { return splitter_size_prefix + QString::number(pane); }
+// Byte array: the saved state of the splitter between the style group's panes and the preview.
+constexpr char preview_splitter_state[] = "preview_splitter_state";
 // String list: the texts of all task tabs, left to right.
 constexpr char tabs[] = "tabs";
 // String: the text of the current task tab.

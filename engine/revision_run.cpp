@@ -17,6 +17,9 @@
 #include <QThread>
 
 #include <algorithm>
+#include <map>
+#include <memory>
+#include <mutex>
 
 namespace {
 
@@ -31,6 +34,20 @@ int workers_for(QPluginLoader const& loader) {
     if (given && wished > 0)
         return wished;
     return std::max(1, QThread::idealThreadCount());
+}
+
+// The lock of the calls into the plugin of that file, for the whole process: a plugin that does
+// not say that revise() may run on several threads at once is called from one thread at a time,
+// also when several runs call it at once (the window previews a file, counts the task's changes
+// and revises at the same time).
+std::mutex& calls_into_plugin(QString const& plugin_file) {
+    static std::mutex guard;
+    static std::map<QString, std::unique_ptr<std::mutex>> locks;
+    std::lock_guard<std::mutex> const hold(guard);
+    std::unique_ptr<std::mutex>& lock = locks[plugin_file];
+    if (!lock)
+        lock = std::make_unique<std::mutex>();
+    return *lock;
 }
 
 }  // namespace
@@ -319,6 +336,9 @@ plugin_answer revision_run::revise_text(std::string const& text, std::string& re
 
 plugin_answer revision_run::asked(std::string const& text, std::vector<line_range> const& ranges,
                                   std::string& result) const {
+    std::unique_lock<std::mutex> one_at_a_time;
+    if (worker_count == 1)
+        one_at_a_time = std::unique_lock<std::mutex>(calls_into_plugin(loader.fileName()));
     if (lines_plugin != nullptr && !ranges.empty())
         return ask_for_lines(*lines_plugin, text, addon_text, ranges, result);
     return ask(*plugin, text, addon_text, result);

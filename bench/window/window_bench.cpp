@@ -1,10 +1,13 @@
 // Times the window's answers in the bundle it runs in (the script `run` makes one with the shipped
 // plugins and 50 more addons): opening until shown, then each selector action, the form editor's
 // check of a key release on a form of a few kilobytes, the paths, the start of a revision and the
-// task tabs, each repeated and reported as median and worst in milliseconds.
+// task tabs, and the preview of the user's code (a 2,000-line file after a saved edit, the count of
+// a 400-file task, key presses while the count runs), each repeated and reported as median and
+// worst in milliseconds.
 #include "GUI/list_of_paths.h"
 #include "GUI/look_n_feel_editor.h"
 #include "GUI/main_window.h"
+#include "GUI/preview_of_code.h"
 #include "GUI/show_revise.h"
 #include "GUI/view_n_edit_language_structure.h"
 #include "GUI/select_formatting_style.h"
@@ -21,6 +24,7 @@
 #include <QLineEdit>
 #include <QLabel>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QTabBar>
 #include <QTest>
@@ -187,6 +191,74 @@ int main(int argc, char** argv) {
         window->findChild<QAction*>("tab_menu_close")->trigger();
     }
 
+    // The preview: a 2,000-line file, then a task of 400 files, under the "Big form" style.
+    QString const code = outside + "/code";
+    QDir().mkpath(code + "/one");
+    QByteArray function_text;
+    for (int i = 0; i < 200; ++i)
+        function_text += "int f" + QByteArray::number(i) +
+                         "(int a,int b){\n  int c=a+b;\n  if(c>0){\n    return c;\n  }\n  else{\n    return -c;\n  }\n}\n\n";
+    {
+        QFile file(code + "/one/big.cpp");  // 2,000 lines
+        file.open(QIODevice::WriteOnly);
+        file.write(function_text);
+    }
+    QDir().mkpath(code + "/many");
+    for (int i = 0; i < 400; ++i) {
+        QFile file(code + QString("/many/file%1.cpp").arg(i));
+        file.open(QIODevice::WriteOnly);
+        file.write(function_text.left(function_text.indexOf("int f20(")));  // 20 whole functions, 200 lines
+    }
+    auto* preview = window->findChild<GUI::preview_of_code*>();
+    // The task as the typing above left it: C++ (its own extensions), "Big form", its big form.
+    languages->setCurrentRow(0);
+    languages->setCurrentRow(1);
+    styles->setCurrentItem(styles->findItems("Big form", Qt::MatchExactly).value(0));
+    structures->setCurrentRow(array_initializer);
+    paths->show(QStringList{code + "/one"});
+    std::vector<double> previewed, counted, keys_while_counting;
+    for (int waited = 0; waited < 6000 && !preview->status()->text().startsWith("The style"); ++waited)
+        QTest::qWait(10);
+    for (int run = 0; run < 10; ++run) {
+        QTextCursor cursor = form_editor->textCursor();
+        cursor.setPosition(4 + run % 50);
+        form_editor->setTextCursor(cursor);
+        QSignalSpy shown(preview, &GUI::preview_of_code::preview_was_shown);
+        QElapsedTimer timer;
+        timer.start();
+        QTest::keyClick(form_editor, Qt::Key_Space);
+        // Until the preview of the edited style is shown (up to 30 s).
+        while (timer.elapsed() < 30000 && (preview->status()->text().startsWith("Revising") || shown.isEmpty()))
+            shown.wait(1);
+        previewed.push_back(timer.nsecsElapsed() / 1e6);
+        failures += preview->status()->text().startsWith("The style") ? 0 : 1;
+        if (run == 0)
+            std::printf("preview: %s\n", qPrintable(preview->status()->text()));
+    }
+    for (int run = 0; run < 3; ++run) {
+        paths->delete_all();
+        QSignalSpy done(preview, &GUI::preview_of_code::changes_were_counted);
+        QElapsedTimer timer;
+        timer.start();
+        paths->show(QStringList{code + "/many"});
+        preview->update_now();  // as the change's own timer does on the next pass of the event loop
+        // Key presses in the form editor while the count runs (each saves the form, which starts
+        // the count again: typed only in the first run, so the others time the count alone).
+        if (run == 0)
+            for (int key = 0; key < 10; ++key) {
+                QTextCursor cursor = form_editor->textCursor();
+                cursor.setPosition(4 + key);
+                form_editor->setTextCursor(cursor);
+                keys_while_counting.push_back(milliseconds_of([&] { QTest::keyClick(form_editor, Qt::Key_Right); }));
+            }
+        // Until the figure of this task is shown (a count of the task before may end first).
+        while (timer.elapsed() < 60000 && !preview->figure()->text().endsWith(" of 400 files"))
+            done.wait(1);
+        counted.push_back(timer.nsecsElapsed() / 1e6);
+        failures += preview->figure()->text().endsWith(" of 400 files") ? 0 : 1;
+        std::printf("count: %s\n", qPrintable(preview->figure()->text()));
+    }
+
     report("select a language", language);
     report("select a style", style);
     report("import a style", import);
@@ -203,6 +275,9 @@ int main(int argc, char** argv) {
     report("start a forced revision (Go)", starting);
     report("new tab", new_tab);
     report("switch tabs (save and load a task)", switching);
+    report("preview of 2,000 lines after a saved edit", previewed);
+    report("count of a 400-file task", counted);
+    report("key presses while the count runs", keys_while_counting);
     std::printf("actions that failed: %d\n", failures);
     window.reset();
     QDir(outside).removeRecursively();

@@ -140,7 +140,7 @@ style_menu 1
 xdotool type --delay 20 "$work/home/Copied[C++].style"; xdotool key Return
 expect_file "Copied[C++].style" "the copied style is not in the styles directory"
 pause 1
-structures_x=400; editor_x=700; editor_y=80
+structures_x=400; editor_x=588; editor_y=80  # the preview of the code takes the right
 # The first click after a dialog only brings the window back; the selected style takes it.
 xdotool mousemove $style_x $row_y click 1; pause
 xdotool mousemove $structures_x $row_y click 1; pause   # "array initializer"
