@@ -406,7 +406,8 @@ std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
 // table that every line of every form fits in, or none when the longest line passes them all.
 std::string column_limit_read_from(std::vector<form_case> const& forms) {
     // A short call written over two lines is joined under any limit; kept, there is none.
-    if (std::string const* kept = forms_by_name(forms).find("kept line break"))
+    forms_by_name const by_name(forms);
+    if (std::string const* kept = by_name.find("kept line break"))
         if (kept->find('\n') != std::string::npos)
             return "{ColumnLimit: 0}";
     int const tab_width = tab_width_read_from(forms);
