@@ -118,7 +118,16 @@ code_group::code_group(QWidget* parent, revise_menu_it_forcibly* it_forcibly, re
             &list_of_paths::obtain_selected_raw_paths_to_revising_files);
 }
 
-code_group::~code_group() = default;
+// The children outlive this part of the object while QWidget's destructor deletes them, and a
+// list emptied on the way out still signals: nothing of theirs may reach this object any more.
+code_group::~code_group() {
+    QAbstractItemModel* const rows = pimpl->paths->list_ptr()->model();
+    rows->disconnect(this);
+    pimpl->paths->disconnect(this);
+    pimpl->extensions->disconnect(this);
+    for (QLineEdit* field : pimpl->extensions->findChildren<QLineEdit*>())
+        field->disconnect(this);
+}
 
 QWidget* code_group::widget_ptr() { return this; }
 
