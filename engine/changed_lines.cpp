@@ -1,5 +1,7 @@
 #include "engine/changed_lines.h"
 
+#include "engine/libgit2_runtime.h"
+
 #include <QFileInfo>
 
 #include <git2.h>
@@ -53,12 +55,9 @@ int on_hunk(git_diff_delta const* delta, git_diff_hunk const* hunk, void* payloa
 
 }  // namespace
 
-changed_lines::changed_lines(std::string revision) : revision(std::move(revision)) { git_libgit2_init(); }
+changed_lines::changed_lines(std::string revision) : revision(std::move(revision)) { make_libgit2_ready(); }
 
-changed_lines::~changed_lines() {
-    work_trees.clear();
-    git_libgit2_shutdown();
-}
+changed_lines::~changed_lines() { work_trees.clear(); }
 
 changed_lines_fault changed_lines::prepared_for(QString const& path) {
     QByteArray const directory = real_directory_of(path);

@@ -1,13 +1,14 @@
 #include "engine/git_ignores.h"
 
+#include "engine/libgit2_runtime.h"
+
 #include <git2.h>
 
-git_ignores::git_ignores() { git_libgit2_init(); }
+git_ignores::git_ignores() { make_libgit2_ready(); }
 
 git_ignores::~git_ignores() {
     for (auto& opened : repositories)
         git_repository_free(opened.second);
-    git_libgit2_shutdown();
 }
 
 QByteArray git_ignores::work_tree_of(QByteArray const& directory) {
