@@ -10,9 +10,10 @@
 
 namespace tarnel_engine {
 
-// The options inferred from the addon, in the engine's configuration syntax: first those a style
-// decides, then, under a comment saying so, those the plugin forces so that only white space
-// changes. Empty when the addon cannot be read.
+// The options inferred from the addon that the engine reads for C and C++, in its configuration
+// syntax: first those a style decides, then, under a comment saying so, those the plugin forces so
+// that only white space changes; once for C and C++ and once more for the headers the engine takes
+// for Objective-C. Empty when the addon cannot be read.
 std::string engine_configuration_of(std::string const& addon, language_description const& language);
 
 // The addon whose forms the engine writes under the configuration, and the options it sets that
