@@ -123,6 +123,12 @@ bool of_other_languages_only(std::string const& option) {
     return std::find(std::begin(names), std::end(names), option) != std::end(names);
 }
 
+// An option that tells only how includes are sorted and grouped: with the sorting left out, it
+// is left out with it (no form could show it).
+bool serves_include_sorting(std::string const& option) {
+    return option == "IncludeCategories" || option == "IncludeIsMainRegex" || option == "IncludeIsMainSourceRegex";
+}
+
 bool forced(std::string const& option) {
     std::vector<std::string> const& names = names_of_token_safe_settings();
     return std::find(names.begin(), names.end(), option) != names.end();
@@ -139,7 +145,7 @@ std::string engine_configuration_of(std::string const& addon, language_descripti
     }
     std::string decided, forced_ones;
     for (auto const& [key, entry] : entries_of(text))
-        if (key != "Language" && !of_other_languages_only(key))
+        if (key != "Language" && !of_other_languages_only(key) && !serves_include_sorting(key))
             (forced(key) ? forced_ones : decided) += entry;
     std::string const options =
         decided + "# Forced by Style Tarnel whatever the style, so that only white space changes:\n" + forced_ones;
@@ -176,9 +182,9 @@ configured_addon addon_from_configuration(std::string const& configuration, std:
                                                      inference_cache::shared().style_for(made.addon, language));
         for (std::string const& option : options_named_in(configuration)) {
             auto const was = kept.find(option);
-            if (was == kept.end())
+            if (was == kept.end() || of_other_languages_only(option))
                 continue;
-            if (given.at(option) != was->second)
+            if (given.at(option) != was->second || serves_include_sorting(option))
                 made.left_out.push_back(option);
             else if (!same_option(kept, read_back, option))
                 made.not_shown.push_back(option);

@@ -10,8 +10,8 @@
 
 namespace tarnel_engine {
 
-// The options inferred from the addon that the engine reads for C and C++, in its configuration
-// syntax: first those a style decides, then, under a comment saying so, those the plugin forces so
+// The options inferred from the addon that the engine reads for C and C++ (those of include
+// sorting aside: the sorting is off), in its configuration syntax: first those a style decides, then, under a comment saying so, those the plugin forces so
 // that only white space changes; once for C and C++ and once more for the headers the engine takes
 // for Objective-C. Empty when the addon cannot be read.
 std::string engine_configuration_of(std::string const& addon, language_description const& language);
