@@ -180,13 +180,23 @@ configured_addon addon_from_configuration(std::string const& configuration, std:
         std::map<std::string, std::string> const given = options_in(as_given), kept = options_in(safe),
                                                  read_back = options_in(
                                                      inference_cache::shared().style_for(made.addon, language));
-        for (std::string const& option : options_named_in(configuration)) {
+        std::vector<std::string> const named = options_named_in(configuration);
+        for (std::string const& option : named) {
             auto const was = kept.find(option);
             if (was == kept.end() || of_other_languages_only(option))
                 continue;
             if (given.at(option) != was->second || serves_include_sorting(option))
                 made.left_out.push_back(option);
             else if (!same_option(kept, read_back, option))
+                made.not_shown.push_back(option);
+        }
+        // Then those it takes from the style it is based on (or from the engine's defaults): the
+        // editors that read it use them as much as those it names.
+        for (auto const& entry : kept) {
+            std::string const& option = entry.first;
+            if (option != "Language" && std::find(named.begin(), named.end(), option) == named.end() &&
+                !forced(option) && !of_other_languages_only(option) && !serves_include_sorting(option) &&
+                !same_option(kept, read_back, option))
                 made.not_shown.push_back(option);
         }
     } catch (...) {

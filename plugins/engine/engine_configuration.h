@@ -18,7 +18,7 @@ std::string engine_configuration_of(std::string const& addon, language_descripti
 
 // The addon whose forms the engine writes under the configuration, and the options it sets that
 // are left out (they change more than white space) or that no form shows (read back from the
-// addon, they come out otherwise); a refusal with its reason when the configuration cannot be read
+// addon, they come out otherwise: first those it names, then those of the style it is based on); a refusal with its reason when the configuration cannot be read
 // or the engine cannot work under it.
 configured_addon addon_from_configuration(std::string const& configuration, std::string const& style_name,
                                           language_description const& language);
