@@ -11,11 +11,6 @@ import difflib
 import os
 import sys
 
-original, ours, theirs, listing = sys.argv[1:5]
-files = sorted(os.path.relpath(os.path.join(d, f), original)
-               for d, _, names in os.walk(original) for f in names)
-
-
 def read(root, path):
     with open(os.path.join(root, path), "rb") as f:
         return f.read()
@@ -51,28 +46,36 @@ def only_comment_lines_moved(la, lb):
     return all(x == y or (i in continuing and x.lstrip() == y.lstrip()) for i, (x, y) in enumerate(zip(la, lb)))
 
 
-same = left = comment_lines = 0
-with open(listing, "w") as out:
-    for path in files:
-        a, b = read(ours, path), read(theirs, path)
-        if a == b:
-            same += 1
-            continue
-        before = read(original, path)
-        untouched = a == before
-        left += untouched
-        how = "left as it was" if untouched else "clang-format left it" if b == before else "revised"
-        la = a.decode("utf-8", "replace").splitlines()
-        lb = b.decode("utf-8", "replace").splitlines()
-        changed = [op for op in difflib.SequenceMatcher(None, la, lb, autojunk=False).get_opcodes() if op[0] != "equal"]
-        if how == "revised" and only_comment_lines_moved(la, lb):
-            how = "block comment lines"
-            comment_lines += 1
-        lines = sum(max(i2 - i1, j2 - j1) for _, i1, i2, j1, j2 in changed)
-        first = changed[0] if changed else None
-        where = ""
-        if first:
-            _, i1, i2, j1, j2 = first
-            where = "line %d: %r -> %r" % (i1 + 1, la[i1] if i1 < len(la) else "", lb[j1] if j1 < len(lb) else "")
-        out.write("%s\t%s\t%d lines\t%s\n" % (path, how, lines, where[:300]))
-print(len(files), same, left, comment_lines)
+def main():
+    original, ours, theirs, listing = sys.argv[1:5]
+    files = sorted(os.path.relpath(os.path.join(d, f), original)
+                   for d, _, names in os.walk(original) for f in names)
+    same = left = comment_lines = 0
+    with open(listing, "w") as out:
+        for path in files:
+            a, b = read(ours, path), read(theirs, path)
+            if a == b:
+                same += 1
+                continue
+            before = read(original, path)
+            untouched = a == before
+            left += untouched
+            how = "left as it was" if untouched else "clang-format left it" if b == before else "revised"
+            la = a.decode("utf-8", "replace").splitlines()
+            lb = b.decode("utf-8", "replace").splitlines()
+            changed = [op for op in difflib.SequenceMatcher(None, la, lb, autojunk=False).get_opcodes() if op[0] != "equal"]
+            if how == "revised" and only_comment_lines_moved(la, lb):
+                how = "block comment lines"
+                comment_lines += 1
+            lines = sum(max(i2 - i1, j2 - j1) for _, i1, i2, j1, j2 in changed)
+            first = changed[0] if changed else None
+            where = ""
+            if first:
+                _, i1, i2, j1, j2 = first
+                where = "line %d: %r -> %r" % (i1 + 1, la[i1] if i1 < len(la) else "", lb[j1] if j1 < len(lb) else "")
+            out.write("%s\t%s\t%d lines\t%s\n" % (path, how, lines, where[:300]))
+    print(len(files), same, left, comment_lines)
+
+
+if __name__ == "__main__":
+    main()

@@ -7,13 +7,16 @@ the revision's. A file that no single option explains but all of them together d
 the options each of which, set back as the project has it among all the others, undoes the match
 ("together: ..."); one that not even all of them explain is the revision's own doing (the plugin
 moves the lines of a block comment with its first line, formats preprocessor branches in passes
-of its own, or leaves a file as it was).
+of its own, or leaves a file as it was when the engine's result is not stable or changes more than
+white space).
   explain.py <original tree> <revision> <project's configuration, dumped> <style's, dumped> <diffs list>
 Prints one line per file: path, then the explanation."""
 import os
 import subprocess
 import sys
 import tempfile
+
+from compare import only_comment_lines_moved
 
 original, ours, project_config, style_config, listing = sys.argv[1:6]
 
@@ -56,9 +59,6 @@ def formatted(path, config):
 
 for line in open(listing):
     path, how = line.split("\t")[:2]
-    if how != "revised" and how != "clang-format left it":
-        print("%s\t%s" % (path, how))
-        continue
     wanted = open(os.path.join(ours, path), "rb").read()
     alone = [k for k in differing if formatted(path, config_with({k})) == wanted]
     if alone:
@@ -66,5 +66,12 @@ for line in open(listing):
     elif formatted(path, config_with(set(differing))) == wanted:
         needed = [k for k in differing if formatted(path, config_with(set(differing) - {k})) != wanted]
         print("%s\ttogether: %s" % (path, ", ".join(needed) or "any of several"))
+    elif how == "left as it was":
+        print("%s\tleft as it was by the revision (the engine's result not stable, or not white space alone)" % path)
+    elif how == "block comment lines":
+        print("%s\tblock comment lines" % path)
+    elif only_comment_lines_moved(wanted.decode("utf-8", "replace").splitlines(),
+                                  formatted(path, config_with(set(differing))).decode("utf-8", "replace").splitlines()):
+        print("%s\tblock comment lines, and options" % path)
     else:
         print("%s\tthe revision's own" % path)
