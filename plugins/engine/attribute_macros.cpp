@@ -18,8 +18,10 @@ namespace {
 bool is_word_character(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; }
 
 bool is_type_of_the_language(std::string const& word) {
-    static std::set<std::string> const types = {"void",  "int",    "char",  "short", "long", "signed",
-                                                "unsigned", "float", "double", "bool",  "_Bool", "auto"};
+    static std::set<std::string> const types = {
+        "void",    "int",   "char",    "short",   "long",    "signed",   "unsigned", "float",    "double",  "bool",
+        "_Bool",   "auto",  "wchar_t", "char8_t", "char16_t", "char32_t", "__int8",  "__int16", "__int32", "__int64",
+        "__int128", "_Complex"};
     return types.count(word) != 0;
 }
 
@@ -67,7 +69,7 @@ opening_run opening_run_of(std::string const& text) {
 }
 
 bool could_be_attribute(std::string const& word) {
-    return is_name(word) && !is_keyword(word);
+    return is_name(word) && !is_keyword(word) && !is_type_of_the_language(word);
 }
 
 // The attributes among a declaration's specifiers: every other word before its name when the

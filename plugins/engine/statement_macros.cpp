@@ -61,15 +61,19 @@ std::vector<std::string> statement_macros_used_in(std::vector<std::string> const
             previous = line;
             if (line[0] != ' ' && line[0] != '\t')
                 continue;
+            // A label or an access specifier ends with `:`, a qualifier before a function's name with `::`.
+            bool const after_label = !last.empty() && last.back() == ':' && last[0] != '#' &&
+                                     (last.size() < 2 || last[last.size() - 2] != ':');
             bool const after_statement = last.empty() || last.back() == ';' || last.back() == '{' ||
-                                         last.back() == '}' || last.back() == '/' || (last.back() == ':' && last[0] != '#');
+                                         last.back() == '}' || last.back() == '/' || after_label;
             if (!after_statement)
                 continue;
             std::string const name = name_opening(text, std::string());
             if (name.empty())
                 continue;
+            // The next line of code, preprocessor lines passed over.
             std::size_t next = i + 1;
-            while (next < lines.size() && trimmed(lines[next]).empty())
+            while (next < lines.size() && (trimmed(lines[next]).empty() || trimmed(lines[next])[0] == '#'))
                 ++next;
             // A loop's body stands further in; a statement after the macro's use does not.
             bool const further = next < lines.size() && indent_of(lines[next]) > indent_of(line);

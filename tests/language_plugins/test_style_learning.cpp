@@ -148,6 +148,44 @@ private slots:
         QVERIFY2(left * 1000 >= lines * 995, qPrintable(QString("%1 of %2 lines left").arg(left).arg(lines)));
     }
 
+    // Each kind of macro is read from code of its own shape only, in two files: a loop without
+    // braces is no statement, a function's name after its class's qualifier no statement, a
+    // structure's tag no attribute, a return type on its own line no attribute, an annotation after
+    // a function's head no loop.
+    void finds_the_macros_a_project_uses_data() {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QStringList>("found");
+        QTest::newRow("a statement macro") << 1 << "int f(int x) {\n  Q_UNUSED(x)\n  return 0;\n}\n"
+                                           << QStringList{"Q_UNUSED"};
+        QTest::newRow("a loop without braces is no statement macro")
+            << 1 << "void f(struct list_head *h) {\n  struct list_head *p;\n  list_for_each(p, h)\n    g(p);\n}\n"
+            << QStringList();
+        QTest::newRow("a function's name under its class is no statement macro")
+            << 1 << "  template <typename T>\n    void\n    vector<T>::\n    insert_aux(int at)\n#if X\n  {\n  }\n"
+            << QStringList();
+        QTest::newRow("attributes among the specifiers and after a variable's name")
+            << 2 << "static int __init setup(void) {\n  return 0;\n}\nint counter __read_mostly;\n"
+            << QStringList{"__init", "__read_mostly"};
+        QTest::newRow("a structure's tag is no attribute")
+            << 2 << "struct item {\n  struct list_head node;\n  const struct item *next;\n};\n" << QStringList();
+        QTest::newRow("an attribute on a line of its own, a return type on its own line none")
+            << 2 << "static __always_inline\nvoid f(void)\n{\n}\n\nstatic __poll_t\npoll_it(void)\n{\n}\n"
+            << QStringList{"__always_inline"};
+        QTest::newRow("an annotation after a function's head is no loop")
+            << 0 << "static void f(void)\n\t__acquires(lock)\n{\n\tg();\n}\n" << QStringList();
+    }
+    void finds_the_macros_a_project_uses() {
+        QFETCH(int, kind);
+        QFETCH(QString, code);
+        QFETCH(QStringList, found);
+        std::vector<std::string> const sources(2, code.toStdString());
+        QStringList names;
+        for (std::string const& name : tarnel_engine::macro_kinds()[static_cast<std::size_t>(kind)].used_in(sources))
+            names << QString::fromStdString(name);
+        QCOMPARE(names, found);
+    }
+
     // The width of a tab comes from where tabs and blanks line up, never from the indent step:
     // tabs alone show no width (8), continuation lines under an open parenthesis and a tab-indented
     // line one step in from a blank-indented one do.
