@@ -100,7 +100,7 @@ macro_kind const& statement_macros() {
 }
 
 macro_kind const& attribute_macros() {
-    static macro_kind const kind = {"attribute macro", "AttributeMacros", "", "static ", " type *name(void);\n", "",
+    static macro_kind const kind = {"attribute macro", "AttributeMacros", "", "static ", " type *name;\n", "",
                                     &attribute_macros_used_in};
     return kind;
 }

@@ -297,7 +297,7 @@ private slots:
             << "{StatementMacros: [QT_REQUIRE_VERSION]}";
         QTest::newRow("an attribute macro added")
             << "LLVM[C++].style" << "attribute macro" << "static __capability"
-            << "static __item_init type *name(void);\nstatic __capability"
+            << "static __item_init type *name;\nstatic __capability"
             << "{AttributeMacros: [__item_init, __capability]}";
     }
     void edited_forms_give_the_value_back() {
