@@ -94,8 +94,8 @@ bool same_option(std::map<std::string, std::string> const& one, std::map<std::st
 
 // Why the engine's parser cannot read the configuration, in its own words and without printing
 // them; empty when it reads it.
-std::string why_unreadable(std::string const& configuration) {
-    clang::format::FormatStyle style = clang::format::getLLVMStyle();
+std::string why_unreadable(std::string const& configuration, lexed_as language) {
+    clang::format::FormatStyle style = clang::format::getLLVMStyle(engine_kind_of(language));
     std::string reason;
     auto const told = [](llvm::SMDiagnostic const& diagnostic, void* context) {
         std::string& said = *static_cast<std::string*>(context);
@@ -137,8 +137,8 @@ configured_addon addon_from_configuration(std::string const& configuration, std:
                                           language_description const& language) {
     configured_addon made;
     try {
-        made.refusal = why_unreadable(configuration);
-        clang::format::FormatStyle as_given = clang::format::getLLVMStyle();
+        made.refusal = why_unreadable(configuration, language.lexing);
+        clang::format::FormatStyle as_given = clang::format::getLLVMStyle(engine_kind_of(language.lexing));
         if (!made.refusal.empty() || !read_configuration(configuration, as_given)) {
             if (made.refusal.empty())
                 made.refusal = "the engine cannot read it";
