@@ -27,6 +27,14 @@ void make_token_safe(clang::format::FormatStyle& style) {
     // separators, encoding prefixes, digraphs. The latest standard reads every older program alike
     // (a few old names that became keywords aside).
     style.Standard = FormatStyle::LS_Latest;
+    // Java has no pointers or references, yet the engine takes a `*` or `&` in the rules of a
+    // switch expression for one (`case A -> a* b;`): there it is an operator, with a blank on each
+    // side.
+    if (style.Language == FormatStyle::LK_Java) {
+        style.PointerAlignment = FormatStyle::PAS_Middle;
+        style.ReferenceAlignment = FormatStyle::RAS_Pointer;
+        style.DerivePointerAlignment = false;
+    }
 }
 
 std::vector<std::string> const& names_of_token_safe_settings() {

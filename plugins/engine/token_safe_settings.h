@@ -16,7 +16,8 @@ namespace tarnel_engine {
 // comments, comment reflow, qualifier reordering, semicolon and parenthesis removal, literal
 // separators, trailing commas, quote rewriting, string splitting and using-declaration sorting,
 // keeps the end of the file as it is, and reads code in the latest language standard: whatever the
-// style says, only white space may change.
+// style says, only white space may change. In Java, lays out as operators the `*` and `&` that the
+// engine takes for a pointer or a reference.
 void make_token_safe(clang::format::FormatStyle& style);
 
 // The names of the options make_token_safe sets, as the engine's configuration text names them.
