@@ -1,4 +1,4 @@
-// The Protocol Buffers language as our Protocol Buffers plugin describes it to the engine and the host.
+// The Protocol Buffers language as our plugin describes it to the engine and the host.
 #ifndef TARNEL_PLUGINS_PROTO_LANGUAGE_H
 #define TARNEL_PLUGINS_PROTO_LANGUAGE_H
 
