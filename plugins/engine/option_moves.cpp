@@ -163,14 +163,13 @@ std::vector<option_group> make_groups() {
 std::vector<option_group> make_java_groups() {
     static std::set<std::string> const c_family_only = {
         "PointerAlignment", "DerivePointerAlignment", "ReferenceAlignment", "NamespaceIndentation",
-        "AccessModifierOffset", "IndentAccessModifiers", "EmptyLineBeforeAccessModifier", "BreakAfterReturnType",
+        "AccessModifierOffset", "IndentAccessModifiers", "EmptyLineBeforeAccessModifier",
         "BreakConstructorInitializers", "PackConstructorInitializers", "ConstructorInitializerIndentWidth",
         "BreakInheritanceList", "SpaceBeforeCtorInitializerColon", "SpaceBeforeInheritanceColon",
         "SpaceAfterTemplateKeyword", "BreakTemplateDeclarations", "BraceWrapping.AfterStruct",
         "BraceWrapping.AfterUnion", "BraceWrapping.AfterNamespace", "BraceWrapping.AfterExternBlock",
         "AlignConsecutiveMacros", "AlignConsecutiveBitFields", "BitFieldColonSpacing", "IndentExternBlock",
-        "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth", "PenaltyReturnTypeOnItsOwnLine",
-        "IndentGotoLabels", "AlignArrayOfStructures"};
+        "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth", "IndentGotoLabels", "AlignArrayOfStructures"};
     std::vector<option_group> groups = make_groups();
     groups.erase(std::remove_if(groups.begin(), groups.end(),
                                 [](option_group const& group) { return c_family_only.count(group.name) > 0; }),
