@@ -1,12 +1,14 @@
-// Our C or C++ plugin's revise() (built once for each, FUZZED_LANGUAGE "C" or "C++") on any
-// source, in the style of a shipped addon of that language chosen by the input's first byte.
+// One of our plugins' revise() (built once for each, FUZZED_LANGUAGE "C", "C++", "Java" or
+// "Protocol Buffers") on any source, in the style of a shipped addon of that language chosen by the input's first byte.
 // Promises: the result is the syntax-error text or has the source's non-white-space bytes and its
-// tokens (read by the plugins' own lexer, in the language's latest standard), and revising the
+// tokens (read by the plugins' own lexer, as the language's compiler reads them), and revising the
 // result again changes nothing.
 #include "fuzz_support.h"
 
 #include "c_language.h"
 #include "cpp_language.h"
+#include "java_language.h"
+#include "proto_language.h"
 #include "language_plugin_base.h"
 #include "token_sequence.h"
 
@@ -22,9 +24,16 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv) {
     return 0;
 }
 
+tarnel_engine::language_description const& fuzzed_language() {
+    if (std::strcmp(FUZZED_LANGUAGE, "Java") == 0)
+        return java_language();
+    if (std::strcmp(FUZZED_LANGUAGE, "Protocol Buffers") == 0)
+        return proto_language();
+    return std::strcmp(FUZZED_LANGUAGE, "C") == 0 ? c_language() : cpp_language();
+}
+
 extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size) {
-    static tarnel_engine::language_description const& language =
-        std::strcmp(FUZZED_LANGUAGE, "C") == 0 ? c_language() : cpp_language();
+    static tarnel_engine::language_description const& language = fuzzed_language();
     static tarnel_engine::language_plugin_base plugin(language);
     if (size == 0 || addons.empty())
         return 0;

@@ -122,8 +122,8 @@ bool moved(FormatStyle const& style, std::string const& candidate, FormatStyle& 
 // the table's, with equal chances.
 FormatStyle drawn_from(std::mt19937& random) {
     auto const& groups = tarnel_engine::option_groups();
-    auto const& bases = tarnel_engine::names_of_predefined_styles();
-    FormatStyle style = tarnel_engine::token_safe_predefined_style(bases[random() % bases.size()]);
+    auto const& bases = tarnel_engine::names_of_predefined_styles(tarnel_engine::lexed_as::latest_cpp);
+    FormatStyle style = tarnel_engine::token_safe_predefined_style(bases[random() % bases.size()], tarnel_engine::lexed_as::latest_cpp);
     for (std::size_t group = 0; group < groups.size(); ++group) {
         std::size_t const pick = random() % (groups[group].candidates.size() + 1);
         if (pick < groups[group].candidates.size())

@@ -10,6 +10,8 @@
 #include "addon_forms.h"
 #include "c_language.h"
 #include "cpp_language.h"
+#include "java_language.h"
+#include "proto_language.h"
 #include "revision.h"
 
 #include <QDirIterator>
@@ -28,7 +30,10 @@ std::string contents_of(QString const& path) {
 }
 
 tarnel_engine::language_description const& language_of(std::string const& addon) {
-    return addon.find("LANGUAGE=C++") != std::string::npos ? cpp_language() : c_language();
+    for (tarnel_engine::language_description const* language : {&cpp_language(), &java_language(), &proto_language()})
+        if (addon.find("\nLANGUAGE=" + language->name + "\n") != std::string::npos)
+            return *language;
+    return c_language();
 }
 
 std::string non_white_space_of(std::string const& text) {

@@ -95,8 +95,8 @@ bool same_option(std::map<std::string, std::string> const& one, std::map<std::st
 
 // Why the engine's parser cannot read the configuration, in its own words and without printing
 // them; empty when it reads it.
-std::string why_unreadable(std::string const& configuration) {
-    clang::format::FormatStyle style = clang::format::getLLVMStyle();
+std::string why_unreadable(std::string const& configuration, lexed_as language) {
+    clang::format::FormatStyle style = clang::format::getLLVMStyle(engine_kind_of(language));
     std::string reason;
     auto const told = [](llvm::SMDiagnostic const& diagnostic, void* context) {
         std::string& said = *static_cast<std::string*>(context);
@@ -110,16 +110,31 @@ std::string why_unreadable(std::string const& configuration) {
     return reason.empty() ? error.message() : reason;
 }
 
-// An option the engine reads only when it formats another language than C or C++ (Java,
-// JavaScript, JSON, Objective-C, TableGen, Verilog): our plugins' code is formatted as C++, so in an
-// exported configuration such an option would say nothing of the style.
-bool of_other_languages_only(std::string const& option) {
+// The name the engine's configuration gives the kind of source a language is formatted as.
+char const* configuration_name_of(lexed_as language) {
+    switch (engine_kind_of(language)) {
+    case clang::format::FormatStyle::LK_Java:
+        return "Java";
+    case clang::format::FormatStyle::LK_Proto:
+        return "Proto";
+    default:
+        return "Cpp";
+    }
+}
+
+// An option the engine reads only when it formats another kind of source than the language's
+// (Java, JavaScript, JSON, Objective-C, TableGen, Verilog for C and C++): in an exported
+// configuration such an option would say nothing of the style.
+bool of_other_languages_only(std::string const& option, lexed_as language) {
     static char const* const prefixes[] = {"Java", "ObjC", "TableGen", "AlignConsecutiveTableGen", "Verilog"};
-    static char const* const names[] = {"BreakAfterJavaFieldAnnotations", "SortJavaStaticImport", "BreakArrays",
-                                        "SpaceBeforeJsonColon", "InsertTrailingCommas"};
+    static char const* const java_names[] = {"BreakAfterJavaFieldAnnotations", "SortJavaStaticImport"};
+    static char const* const names[] = {"SpaceBeforeJsonColon", "BreakArrays", "InsertTrailingCommas"};
+    bool const java = engine_kind_of(language) == clang::format::FormatStyle::LK_Java;
+    if (std::find(std::begin(java_names), std::end(java_names), option) != std::end(java_names))
+        return !java;
     for (char const* prefix : prefixes)
         if (option.rfind(prefix, 0) == 0)
-            return true;
+            return !(java && std::string(prefix) == "Java");
     return std::find(std::begin(names), std::end(names), option) != std::end(names);
 }
 
@@ -145,15 +160,19 @@ std::string engine_configuration_of(std::string const& addon, language_descripti
     }
     std::string decided, forced_ones;
     for (auto const& [key, entry] : entries_of(text))
-        if (key != "Language" && !of_other_languages_only(key) && !serves_include_sorting(key))
+        if (key != "Language" && !of_other_languages_only(key, language.lexing) && !serves_include_sorting(key))
             (forced(key) ? forced_ones : decided) += entry;
     std::string const options =
         decided + "# Forced by Style Tarnel whatever the style, so that only white space changes:\n" + forced_ones;
+    std::string const heading =
+        "# The options of a Style Tarnel style: the engine formats code under them as a revision\n"
+        "# in the style does.\n---\nLanguage:        " +
+        std::string(configuration_name_of(language.lexing)) + "\n" + options;
+    if (engine_kind_of(language.lexing) != clang::format::FormatStyle::LK_Cpp)
+        return heading + "...\n";
     // The engine takes a header that names an Objective-C type or keyword for Objective-C, and
     // refuses to format it under a configuration for C++ alone; a revision formats it as any other.
-    return "# The options of a Style Tarnel style: the engine formats code under them as a revision\n"
-           "# in the style does.\n---\nLanguage:        Cpp\n" +
-           options +
+    return heading +
            "---\n# The same options for the headers that the engine takes for Objective-C.\n"
            "Language:        ObjC\n" +
            options + "...\n";
@@ -163,8 +182,8 @@ configured_addon addon_from_configuration(std::string const& configuration, std:
                                           language_description const& language) {
     configured_addon made;
     try {
-        made.refusal = why_unreadable(configuration);
-        clang::format::FormatStyle as_given = clang::format::getLLVMStyle();
+        made.refusal = why_unreadable(configuration, language.lexing);
+        clang::format::FormatStyle as_given = clang::format::getLLVMStyle(engine_kind_of(language.lexing));
         if (!made.refusal.empty() || !read_configuration(configuration, as_given)) {
             if (made.refusal.empty())
                 made.refusal = "the engine cannot read it";
@@ -183,7 +202,7 @@ configured_addon addon_from_configuration(std::string const& configuration, std:
         std::vector<std::string> const named = options_named_in(configuration);
         for (std::string const& option : named) {
             auto const was = kept.find(option);
-            if (was == kept.end() || of_other_languages_only(option))
+            if (was == kept.end() || of_other_languages_only(option, language.lexing))
                 continue;
             if (given.at(option) != was->second || serves_include_sorting(option))
                 made.left_out.push_back(option);
@@ -195,8 +214,8 @@ configured_addon addon_from_configuration(std::string const& configuration, std:
         for (auto const& entry : kept) {
             std::string const& option = entry.first;
             if (option != "Language" && std::find(named.begin(), named.end(), option) == named.end() &&
-                !forced(option) && !of_other_languages_only(option) && !serves_include_sorting(option) &&
-                !same_option(kept, read_back, option))
+                !forced(option) && !of_other_languages_only(option, language.lexing) &&
+                !serves_include_sorting(option) && !same_option(kept, read_back, option))
                 made.not_shown.push_back(option);
         }
     } catch (...) {

@@ -20,10 +20,10 @@ struct need {
 };
 
 need need_of(form_case const& failing, std::vector<form_case> const& forms, std::vector<unsigned long> const& now,
-             clang::format::FormatStyle const& style) {
+             clang::format::FormatStyle const& style, std::vector<option_group> const& groups) {
     need best;
     bool found = false;
-    for (option_group const& group : option_groups())
+    for (option_group const& group : groups)
         for (std::string const& candidate : group.candidates) {
             clang::format::FormatStyle trial = style;
             if (!apply_candidate(trial, candidate) || same_options(trial, style) || distances_of({failing}, trial).front() != 0)
@@ -57,7 +57,7 @@ std::vector<form_not_coming_back> forms_not_coming_back(std::string const& addon
         form_not_coming_back entry{each.name, form, result->second, std::string(), {}};
         for (form_case const& candidate : forms)
             if (candidate.structure == each.name) {
-                need const found = need_of(candidate, forms, now, style);
+                need const found = need_of(candidate, forms, now, style, option_groups(language.lexing));
                 entry.needs = found.candidate;
                 entry.conflicting = found.conflicting;
             }

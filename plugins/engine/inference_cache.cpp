@@ -72,7 +72,7 @@ bool verified_options_of(QByteArray const& entry, QByteArray& options) {
     return !options.isEmpty() && entry.left(end_of_first_line + 1) == checksum_line_of(options);
 }
 
-bool read_from_disk(std::string const& key, clang::format::FormatStyle& style) {
+bool read_from_disk(std::string const& key, lexed_as language, clang::format::FormatStyle& style) {
     QString const path = cache_file_for(key);
     QFile file(path);
     if (path.isEmpty() || !file.open(QIODevice::ReadOnly))
@@ -80,7 +80,7 @@ bool read_from_disk(std::string const& key, clang::format::FormatStyle& style) {
     QByteArray options;
     if (!verified_options_of(file.readAll(), options))
         return false;
-    clang::format::FormatStyle read = token_safe_predefined_style("LLVM");
+    clang::format::FormatStyle read = token_safe_predefined_style("LLVM", language);
     if (!read_configuration(options.toStdString(), read))
         return false;
     make_token_safe(read);
@@ -152,8 +152,8 @@ clang::format::FormatStyle inference_cache::style_for(std::string const& addon, 
     if (known != in_memory.end())
         return known->second;
     clang::format::FormatStyle style;
-    if (!read_from_disk(key, style)) {
-        style = infer_options().from(form_cases_in(addon, language));
+    if (!read_from_disk(key, language.lexing, style)) {
+        style = infer_options(language.lexing).from(form_cases_in(addon, language));
         write_to_disk(key, style);
     }
     in_memory.emplace(key, style);

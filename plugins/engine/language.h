@@ -1,4 +1,8 @@
-// What a language plugin tells the engine about its language.
+// What a language plugin tells the engine about its language. A language of the engine's kinds is
+// a plugin with such a description and a catalogue; the engine itself knows, per `lexed_as`, how
+// the language's compiler reads its tokens (lexing.cpp, token_sequence.cpp), the engine's kind
+// and the predefined styles that mean something for it (token_safe_settings.cpp), and the rows of
+// the option table that apply (option_moves.cpp).
 #ifndef TARNEL_ENGINE_LANGUAGE_H
 #define TARNEL_ENGINE_LANGUAGE_H
 

@@ -7,17 +7,30 @@ namespace tarnel_engine {
 
 clang::LangOptions lexer_options_for(lexed_as language) {
     clang::LangOptions options;
-    if (language == lexed_as::latest_cpp) {
+    switch (language) {
+    case lexed_as::latest_cpp:
         options.CPlusPlus = options.CPlusPlus11 = options.CPlusPlus14 = options.CPlusPlus17 = true;
         options.CPlusPlus20 = options.CPlusPlus23 = options.CPlusPlus26 = true;
         options.Char8 = true;
         options.CXXOperatorNames = true;
-    } else {
+        options.Digraphs = true;
+        options.RawStringLiterals = true;
+        break;
+    case lexed_as::latest_c:
         options.C99 = options.C11 = options.C17 = options.C23 = true;
+        options.Digraphs = true;
+        options.RawStringLiterals = true;
+        break;
+    case lexed_as::java:
+    case lexed_as::protocol_buffers:
+        // `::` and `->` are tokens of Java too; digraphs, raw strings and digit separators are
+        // not: `<:` and `%>` are two tokens there, `R"x"` a name and a string.
+        options.CPlusPlus = options.CPlusPlus11 = true;
+        options.Digraphs = false;
+        options.RawStringLiterals = false;
+        break;
     }
     options.LineComment = true;
-    options.Digraphs = true;
-    options.RawStringLiterals = true;
     options.Bool = true;
     return options;
 }

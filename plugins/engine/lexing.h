@@ -12,7 +12,7 @@
 
 namespace tarnel_engine {
 
-// The latest standard of the language, digraphs and raw strings on.
+// The lexer options for the language (token_sequence.h says what each reads as it does).
 clang::LangOptions lexer_options_for(lexed_as language);
 
 // Where a comment stands in a text: its first byte and its length.

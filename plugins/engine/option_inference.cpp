@@ -55,9 +55,10 @@ bool names(form_case const& form, std::string const& group) {
 
 class option_search {
 public:
-    option_search(std::vector<form_case> const& forms, std::vector<std::string> const& excluded, long budget,
-                  infer_options::going_on_check const& going_on, infer_options::distance_measure const& measure)
-        : forms(forms), excluded(excluded), budget(budget), going_on(going_on), measure(measure) {}
+    option_search(std::vector<option_group> const& groups, std::vector<form_case> const& forms,
+                  std::vector<std::string> const& excluded, long budget, infer_options::going_on_check const& going_on,
+                  infer_options::distance_measure const& measure)
+        : groups(groups), forms(forms), excluded(excluded), budget(budget), going_on(going_on), measure(measure) {}
 
     // Lets the search reach the values it kept away from so far.
     void exclude_nothing() { excluded.clear(); }
@@ -91,6 +92,8 @@ public:
     }
 
 private:
+    // The option table of the language.
+    std::vector<option_group> const& groups;
     std::vector<form_case> const& forms;
     // Values no move may reach.
     std::vector<std::string> excluded;
@@ -114,7 +117,7 @@ private:
         for (std::size_t i = 0; i < forms.size(); ++i) {
             bool named = current.distances[i] > 0;
             for (std::size_t group : groups)
-                named = named || names(forms[i], option_groups()[group].name);
+                named = named || names(forms[i], this->groups[group].name);
             if (named) {
                 judged.push_back(forms[i]);
                 distance += current.distances[i];
@@ -171,7 +174,7 @@ private:
 
     std::vector<clang::format::FormatStyle> moves_of(std::size_t group, clang::format::FormatStyle const& style) const {
         std::vector<clang::format::FormatStyle> moved;
-        for (std::string const& candidate : option_groups()[group].candidates) {
+        for (std::string const& candidate : groups[group].candidates) {
             clang::format::FormatStyle trial = style;
             if (!apply_candidate(trial, candidate) || same_options(trial, style))
                 continue;
@@ -192,7 +195,7 @@ private:
 
     bool single_moves(scored_style& current) {
         bool improved = false;
-        for (std::size_t group = 0; group < option_groups().size() && current.total > 0 && within_budget(); ++group)
+        for (std::size_t group = 0; group < groups.size() && current.total > 0 && within_budget(); ++group)
             improved = take_best_of(moves_of(group, current.style), {group}, current) || improved;
         return improved;
     }
@@ -206,8 +209,8 @@ private:
             if (current.distances[i] == 0)
                 continue;
             std::vector<std::size_t> named;
-            for (std::size_t group = 0; group < option_groups().size(); ++group)
-                if (std::find(forms[i].decides.begin(), forms[i].decides.end(), option_groups()[group].name) !=
+            for (std::size_t group = 0; group < groups.size(); ++group)
+                if (std::find(forms[i].decides.begin(), forms[i].decides.end(), groups[group].name) !=
                     forms[i].decides.end())
                     named.push_back(group);
             for (std::size_t a = 0; a < named.size(); ++a)
@@ -250,15 +253,15 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
 
 clang::format::FormatStyle infer_options::from(std::vector<form_case> const& forms, form_readings const& readings) const {
     if (forms.empty())
-        return token_safe_predefined_style(names_of_predefined_styles().front());
-    option_search search(forms, readings.ruled_out, formatting_budget, going_on, measure);
+        return token_safe_predefined_style(names_of_predefined_styles(language).front(), language);
+    option_search search(option_groups(language), forms, readings.ruled_out, formatting_budget, going_on, measure);
 
     // A style that is a predefined one keeps all its rules, Google's "the file's majority decides
     // where * leans" included; holding what the forms pass, as every style the search tries.
     std::vector<clang::format::FormatStyle> bases;
     scored_style best_base;
-    for (std::string const& name : names_of_predefined_styles()) {
-        bases.push_back(token_safe_predefined_style(name));
+    for (std::string const& name : names_of_predefined_styles(language)) {
+        bases.push_back(token_safe_predefined_style(name, language));
         for (std::string const& names : readings.passed)
             apply_candidate(bases.back(), names);
         scored_style base = search.scored(bases.back());

@@ -5,6 +5,7 @@
 
 #include "form_case.h"
 #include "form_readings.h"
+#include "token_sequence.h"
 
 #include <clang/Format/Format.h>
 
@@ -29,18 +30,21 @@ public:
     // How far a form (the code wanted) is from what the engine made of it; 0 for the same code.
     using distance_measure = std::function<unsigned long(std::string const& wanted, std::string const& made)>;
 
-    // The bound that the forms of an addon need.
-    infer_options() = default;
+    // For forms of the language (the engine formats them as its kind, from its predefined styles),
+    // with the bound that the forms of an addon need.
+    explicit infer_options(lexed_as language) : language(language) {}
     // Another bound (forms much longer than an addon's need a lower one), with a way to stop, and
     // another measure than the white-space distance.
-    infer_options(long formatting_budget, going_on_check going_on, distance_measure measure = {})
-        : formatting_budget(formatting_budget), going_on(std::move(going_on)), measure(std::move(measure)) {}
+    infer_options(lexed_as language, long formatting_budget, going_on_check going_on, distance_measure measure = {})
+        : language(language), formatting_budget(formatting_budget), going_on(std::move(going_on)),
+          measure(std::move(measure)) {}
 
     clang::format::FormatStyle from(std::vector<form_case> const& forms) const;
     // With readings taken otherwise than from the forms of an addon.
     clang::format::FormatStyle from(std::vector<form_case> const& forms, form_readings const& readings) const;
 
 private:
+    lexed_as language;
     long formatting_budget = 30000;
     going_on_check going_on;
     distance_measure measure;

@@ -4,7 +4,9 @@
 
 #include "engine_hazards.h"
 
+#include <algorithm>
 #include <cctype>
+#include <set>
 #include <utility>
 
 namespace tarnel_engine {
@@ -157,11 +159,66 @@ std::vector<option_group> make_groups() {
     return groups;
 }
 
+// Java has no pointers, references, namespaces, access labels of their own, templates,
+// constructor initializer lists, structures, unions, preprocessor or bit fields.
+std::vector<option_group> make_java_groups() {
+    static std::set<std::string> const c_family_only = {
+        "PointerAlignment", "DerivePointerAlignment", "ReferenceAlignment", "NamespaceIndentation",
+        "AccessModifierOffset", "IndentAccessModifiers", "EmptyLineBeforeAccessModifier",
+        "BreakConstructorInitializers", "PackConstructorInitializers", "ConstructorInitializerIndentWidth",
+        "BreakInheritanceList", "SpaceBeforeCtorInitializerColon", "SpaceBeforeInheritanceColon",
+        "SpaceAfterTemplateKeyword", "BreakTemplateDeclarations", "BraceWrapping.AfterStruct",
+        "BraceWrapping.AfterUnion", "BraceWrapping.AfterNamespace", "BraceWrapping.AfterExternBlock",
+        "AlignConsecutiveMacros", "AlignConsecutiveBitFields", "BitFieldColonSpacing", "IndentExternBlock",
+        "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth", "IndentGotoLabels", "AlignArrayOfStructures"};
+    std::vector<option_group> groups = make_groups();
+    groups.erase(std::remove_if(groups.begin(), groups.end(),
+                                [](option_group const& group) { return c_family_only.count(group.name) > 0; }),
+                 groups.end());
+    groups.push_back(flag("BreakAfterJavaFieldAnnotations"));
+    return groups;
+}
+
+// A .proto file has messages, enums and services, fields with options in brackets, and messages
+// written out as values of options.
+std::vector<option_group> make_protocol_buffers_groups() {
+    static std::set<std::string> const kept = {
+        "Indentation", "UseTab", "ContinuationIndentWidth", "ColumnLimit", "BreakBeforeBraces",
+        "BraceWrapping.AfterClass", "BraceWrapping.AfterEnum", "BraceWrapping.AfterFunction",
+        "BraceWrapping.SplitEmptyRecord", "SpaceBeforeParens", "SpacesInParens", "Cpp11BracedListStyle",
+        "SpaceBeforeAssignmentOperators", "SpaceBeforeSquareBrackets", "SpacesInSquareBrackets", "SpacesInAngles",
+        "SpaceInEmptyBlock", "SpacesBeforeTrailingComments", "AlignTrailingComments.OverEmptyLines",
+        "AlignTrailingComments", "AlignConsecutiveAssignments", "AlignConsecutiveDeclarations",
+        "AlignAfterOpenBracket", "BinPackArguments", "MaxEmptyLinesToKeep", "KeepEmptyLines.AtStartOfBlock",
+        "IndentWidth", "PenaltyBreakBeforeFirstCallParameter"};
+    std::vector<option_group> groups = make_groups();
+    groups.erase(std::remove_if(groups.begin(), groups.end(),
+                                [](option_group const& group) { return kept.count(group.name) == 0; }),
+                 groups.end());
+    groups.push_back(flag("SpacesInContainerLiterals"));
+    return groups;
+}
+
 }  // namespace
 
 std::vector<option_group> const& option_groups() {
     static std::vector<option_group> const groups = make_groups();
     return groups;
+}
+
+std::vector<option_group> const& option_groups(lexed_as language) {
+    static std::vector<option_group> const java = make_java_groups();
+    static std::vector<option_group> const protocol_buffers = make_protocol_buffers_groups();
+    switch (language) {
+    case lexed_as::java:
+        return java;
+    case lexed_as::protocol_buffers:
+        return protocol_buffers;
+    case lexed_as::latest_c:
+    case lexed_as::latest_cpp:
+        break;
+    }
+    return option_groups();
 }
 
 bool applies_to_every_structure(std::string const& group_name) {

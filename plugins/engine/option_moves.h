@@ -3,6 +3,8 @@
 #ifndef TARNEL_ENGINE_OPTION_MOVES_H
 #define TARNEL_ENGINE_OPTION_MOVES_H
 
+#include "token_sequence.h"
+
 #include <clang/Format/Format.h>
 
 #include <string>
@@ -20,6 +22,9 @@ struct option_group {
 
 // Every group, in the order the search visits them: broad options first.
 std::vector<option_group> const& option_groups();
+// The groups that apply to a language: C's and C++'s all of them; another language's without
+// those of constructs it lacks, with those of its own.
+std::vector<option_group> const& option_groups(lexed_as language);
 
 // The groups that apply to every structure, whatever its catalogue entry names.
 bool applies_to_every_structure(std::string const& group_name);

@@ -184,8 +184,8 @@ std::vector<std::string> const& macros_named_by(clang::format::FormatStyle const
 }  // namespace
 
 std::string addon_written_in(std::string const& options, std::string const& style_name, language_description const& language) {
-    clang::format::FormatStyle style = token_safe_predefined_style("LLVM");
-    bool const predefined = clang::format::getPredefinedStyle(options, clang::format::FormatStyle::LK_Cpp, &style);
+    clang::format::FormatStyle style = token_safe_predefined_style("LLVM", language.lexing);
+    bool const predefined = clang::format::getPredefinedStyle(options, engine_kind_of(language.lexing), &style);
     if (!predefined && !read_configuration(options, style))
         return std::string();
     make_token_safe(style);

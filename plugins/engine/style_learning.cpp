@@ -308,7 +308,7 @@ learned_style learn_style_of::from(std::vector<std::string> const& sources, std:
             return !stopped;
         };
         clang::format::FormatStyle const style =
-            infer_options(formatting_budget, searching, lines_changed_then_white_space)
+            infer_options(language.lexing, formatting_budget, searching, lines_changed_then_white_space)
                 .from(forms, readings_of_code(forms, pieces, texts));
         if (stopped)
             return learned;

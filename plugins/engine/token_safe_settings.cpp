@@ -27,6 +27,14 @@ void make_token_safe(clang::format::FormatStyle& style) {
     // separators, encoding prefixes, digraphs. The latest standard reads every older program alike
     // (a few old names that became keywords aside).
     style.Standard = FormatStyle::LS_Latest;
+    // Java has no pointers or references, yet the engine takes a `*` or `&` in the rules of a
+    // switch expression for one (`case A -> a* b;`): there it is an operator, with a blank on each
+    // side.
+    if (style.Language == FormatStyle::LK_Java) {
+        style.PointerAlignment = FormatStyle::PAS_Middle;
+        style.ReferenceAlignment = FormatStyle::RAS_Pointer;
+        style.DerivePointerAlignment = false;
+    }
 }
 
 std::vector<std::string> const& names_of_token_safe_settings() {
@@ -38,14 +46,40 @@ std::vector<std::string> const& names_of_token_safe_settings() {
     return names;
 }
 
-std::vector<std::string> const& names_of_predefined_styles() {
-    static std::vector<std::string> const names = {"LLVM", "Google", "Chromium", "Mozilla", "WebKit", "GNU", "Microsoft"};
-    return names;
+clang::format::FormatStyle::LanguageKind engine_kind_of(lexed_as language) {
+    switch (language) {
+    case lexed_as::java:
+        return clang::format::FormatStyle::LK_Java;
+    case lexed_as::protocol_buffers:
+        return clang::format::FormatStyle::LK_Proto;
+    case lexed_as::latest_c:
+    case lexed_as::latest_cpp:
+        break;
+    }
+    return clang::format::FormatStyle::LK_Cpp;
 }
 
-clang::format::FormatStyle token_safe_predefined_style(std::string const& name) {
-    clang::format::FormatStyle style = clang::format::getLLVMStyle();
-    clang::format::getPredefinedStyle(name, clang::format::FormatStyle::LK_Cpp, &style);
+std::vector<std::string> const& names_of_predefined_styles(lexed_as language) {
+    // GNU's and Microsoft's styles are those of C and C++ whatever the language: for the others they
+    // are only a further start of the search.
+    static std::vector<std::string> const c_family = {"LLVM", "Google", "Chromium", "Mozilla", "WebKit", "GNU", "Microsoft"};
+    static std::vector<std::string> const java = {"Google", "Chromium", "Mozilla", "LLVM", "WebKit"};
+    static std::vector<std::string> const protocol_buffers = {"Google", "LLVM", "Mozilla", "WebKit"};
+    switch (language) {
+    case lexed_as::java:
+        return java;
+    case lexed_as::protocol_buffers:
+        return protocol_buffers;
+    case lexed_as::latest_c:
+    case lexed_as::latest_cpp:
+        break;
+    }
+    return c_family;
+}
+
+clang::format::FormatStyle token_safe_predefined_style(std::string const& name, lexed_as language) {
+    clang::format::FormatStyle style = clang::format::getLLVMStyle(engine_kind_of(language));
+    clang::format::getPredefinedStyle(name, engine_kind_of(language), &style);
     make_token_safe(style);
     return style;
 }

@@ -3,6 +3,8 @@
 #ifndef TARNEL_ENGINE_TOKEN_SAFE_SETTINGS_H
 #define TARNEL_ENGINE_TOKEN_SAFE_SETTINGS_H
 
+#include "token_sequence.h"
+
 #include <clang/Format/Format.h>
 
 #include <string>
@@ -14,17 +16,22 @@ namespace tarnel_engine {
 // comments, comment reflow, qualifier reordering, semicolon and parenthesis removal, literal
 // separators, trailing commas, quote rewriting, string splitting and using-declaration sorting,
 // keeps the end of the file as it is, and reads code in the latest language standard: whatever the
-// style says, only white space may change.
+// style says, only white space may change. In Java, lays out as operators the `*` and `&` that the
+// engine takes for a pointer or a reference.
 void make_token_safe(clang::format::FormatStyle& style);
 
 // The names of the options make_token_safe sets, as the engine's configuration text names them.
 std::vector<std::string> const& names_of_token_safe_settings();
 
-// The engine's predefined styles, in the order the inference prefers them on a tie.
-std::vector<std::string> const& names_of_predefined_styles();
+// The kind of source the engine formats a language as: C and C++ alike as C++.
+clang::format::FormatStyle::LanguageKind engine_kind_of(lexed_as language);
 
-// A predefined style for C and C++ code, made token-safe.
-clang::format::FormatStyle token_safe_predefined_style(std::string const& name);
+// The engine's predefined styles that have a meaning for the language, in the order the inference
+// prefers them on a tie.
+std::vector<std::string> const& names_of_predefined_styles(lexed_as language);
+
+// A predefined style of the engine for code of the language, made token-safe.
+clang::format::FormatStyle token_safe_predefined_style(std::string const& name, lexed_as language);
 
 }  // namespace tarnel_engine
 

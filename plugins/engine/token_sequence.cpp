@@ -37,6 +37,32 @@ std::string without_line_continuations(std::string const& text) {
     return joined;
 }
 
+bool is_word_character(char c) {
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '_' || c == '$' ||
+           static_cast<unsigned char>(c) >= 0x80;
+}
+
+// Where a token of Java ends that clang's lexer reads as the first part of it (`spelling`, ending
+// at `end`): a text block after its `""`, `>>>` and `>>>=` after their `>>`, `non-sealed` after
+// its `non`; `end` itself for every other token. An unclosed text block takes the rest.
+std::size_t end_of_java_token(std::string_view code, std::string_view spelling, std::size_t end) {
+    auto const follows = [&](std::string_view text) { return code.substr(end, text.size()) == text; };
+    if (spelling == "\"\"" && follows("\"")) {
+        for (std::size_t at = end + 1; at < code.size(); ++at) {
+            if (code[at] == '\\')
+                ++at;
+            else if (code.substr(at, 3) == "\"\"\"")
+                return at + 3;
+        }
+        return code.size();
+    }
+    if (spelling == ">>" && follows(">"))
+        return end + (follows(">=") ? 2 : 1);
+    if (spelling == "non" && follows("-sealed") && (end + 7 == code.size() || !is_word_character(code[end + 7])))
+        return end + 7;
+    return end;
+}
+
 // Markers that no token's spelling can be: a line break leads them.
 std::string const directive_begins = "\n#";
 std::string const directive_ends = "\n";
@@ -46,7 +72,7 @@ std::string const directive_ends = "\n";
 class token_reader {
 public:
     token_reader(std::string const& code, lexed_as language)
-        : begin(code.data()), options(lexer_options_for(language)),
+        : begin(code.data()), size(code.size()), language(language), options(lexer_options_for(language)),
           lexer(clang::SourceLocation(), options, begin, begin, begin + code.size()) {
         lexer.SetCommentRetentionState(true);
     }
@@ -77,7 +103,7 @@ private:
         at = count = 0;
         clang::Token token;
         lexer.LexFromRawLexer(token);
-        std::size_t const end = static_cast<std::size_t>(lexer.getBufferLocation() - begin);
+        std::size_t end = static_cast<std::size_t>(lexer.getBufferLocation() - begin);
         if (token.isAtStartOfLine()) {
             line_start = true;
             if (in_directive)
@@ -90,8 +116,17 @@ private:
             done = true;
             return;
         }
+        std::size_t const start = end - token.getLength();
+        if (language == lexed_as::java) {
+            std::size_t const whole =
+                end_of_java_token(std::string_view(begin, size), std::string_view(begin + start, end - start), end);
+            if (whole != end) {
+                lexer.seek(static_cast<unsigned>(whole), false);
+                end = whole;
+            }
+        }
         std::string& text = queue(end);
-        text.assign(begin + end - token.getLength(), begin + end);
+        text.assign(begin + start, begin + end);
         if (token.needsCleaning())
             text = without_line_continuations(text);
         if (token.is(clang::tok::comment)) {
@@ -106,6 +141,8 @@ private:
     }
 
     char const* const begin;
+    std::size_t const size;
+    lexed_as const language;
     clang::LangOptions const options;  // the lexer keeps a reference
     clang::Lexer lexer;
     bool in_directive = false;

@@ -9,9 +9,14 @@
 
 namespace tarnel_engine {
 
-// The latest standard of a language, as its lexer reads it: digraphs, raw strings, digit
-// separators, encoding prefixes (and, in C++, user-defined literals) included.
-enum class lexed_as { latest_c, latest_cpp };
+// A language as its compiler reads its tokens, and as the engine formats it. C and C++ in their
+// latest standard: digraphs, raw strings, digit separators, encoding prefixes (and, in C++,
+// user-defined literals) included. Java: clang's lexer without what C++ alone has (digraphs, raw
+// strings, digit separators, encoding prefixes), and with Java's own tokens read whole: text
+// blocks ("""...""", their white space included), `>>>`, `>>>=` and `non-sealed`. Protocol
+// Buffers: clang's lexer without what C++ alone has, whose tokens are then protobuf's (names,
+// numbers, strings in either quote, comments, punctuation).
+enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers };
 
 // The spelling of each token, in order, with lines continued by a backslash joined. Comments are
 // tokens too, their white space left out (the engine indents the lines of a block comment again);

@@ -41,7 +41,9 @@ std::string placeholders_in(std::string const& tokens) {
 std::map<std::string, std::string> manual_pages_of(tarnel_engine::language_description const& language,
                                                    std::map<std::string, std::string> const& examples) {
     std::map<std::string, std::string> pages;
-    std::string const folder = lower_case(language.name) + "/";
+    // Blanks in a language name (Protocol Buffers) as in structure names.
+    std::string folder = lower_case(language.name) + "/";
+    std::replace(folder.begin(), folder.end(), ' ', '-');
     std::string index = "# Structures of " + language.name + "\n\nEvery style addon of " + language.name +
                         " holds one form for each of these structures.\n\n";
     for (tarnel_engine::structure const& each : language.structures) {

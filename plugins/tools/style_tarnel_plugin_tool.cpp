@@ -10,6 +10,8 @@
 #include "addon_forms.h"
 #include "c_language.h"
 #include "cpp_language.h"
+#include "java_language.h"
+#include "proto_language.h"
 #include "form_conflicts.h"
 #include "manual_pages.h"
 #include "revision.h"
@@ -29,11 +31,16 @@ std::string contents_of(std::string const& path) {
     return file.readAll().toStdString();
 }
 
+std::vector<tarnel_engine::language_description const*> const& our_languages() {
+    static std::vector<tarnel_engine::language_description const*> const languages = {
+        &c_language(), &cpp_language(), &java_language(), &proto_language()};
+    return languages;
+}
+
 tarnel_engine::language_description const* language_named(std::string const& name) {
-    if (name == c_language().name)
-        return &c_language();
-    if (name == cpp_language().name)
-        return &cpp_language();
+    for (tarnel_engine::language_description const* language : our_languages())
+        if (name == language->name)
+            return language;
     return nullptr;
 }
 
@@ -82,7 +89,7 @@ int check_forms(std::string const& addon) {
 }
 
 int write_pages(std::string const& directory, std::vector<std::string> const& addon_paths) {
-    for (tarnel_engine::language_description const* language : {&c_language(), &cpp_language()}) {
+    for (tarnel_engine::language_description const* language : our_languages()) {
         std::map<std::string, std::string> examples;
         for (std::string const& path : addon_paths) {
             std::string const addon = contents_of(path);

@@ -13,6 +13,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <map>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -195,6 +196,15 @@ void test_ci_and_editors::the_diff_applies_with_git_apply_data() {
         << "C++" << "Google"
         << "a.cpp=int f( int a ){\nif(a)\n{\nreturn 1;}\nreturn 0;}\nint g();\n\n\n\nint h() { return 2; }\n"
            " | b.h=struct S\n{\nint a; int b;\n};";
+    // The walk finds the files by the plugins' own extensions.
+    QTest::newRow("lines joined and split by Java")
+        << "Java" << "Google"
+        << "a/A.java=class A{\nint f( int a ){\nif(a>0)\n{\nreturn a>>>1;}\nreturn 0;}}\n"
+           " | b/B.java=@interface B\n{\nint a(); int b();\n}";
+    QTest::newRow("lines joined and split by Protocol Buffers")
+        << "Protocol Buffers" << "Google"
+        << "a.proto=syntax = \"proto3\";\nmessage A{\nint32 a=1; string b = 2;}\n"
+           " | b/b.proto=service B { rpc Get(A)\nreturns (A); }";
 }
 
 void test_ci_and_editors::the_diff_applies_with_git_apply() {
@@ -202,10 +212,13 @@ void test_ci_and_editors::the_diff_applies_with_git_apply() {
     QFETCH(QString, style);
     QFETCH(QString, files);
     installed_bundle bundle;
-    if (language == "C++") {
-        bundle.add_plugin(built::build_dir() + "/PlugIns/languages/libcpp-language-plugin.so");
-        bundle.add_addon("Google[C++].style",
-                         bundle.contents_of(built::build_dir() + "/PlugIns/styles/Google[C++].style"));
+    std::map<QString, QString> const our_plugins = {{"C++", "libcpp-language-plugin.so"},
+                                                    {"Java", "libjava-language-plugin.so"},
+                                                    {"Protocol Buffers", "libproto-language-plugin.so"}};
+    if (our_plugins.count(language)) {
+        bundle.add_plugin(built::build_dir() + "/PlugIns/languages/" + our_plugins.at(language));
+        QString const addon = style + "[" + language + "].style";
+        bundle.add_addon(addon, bundle.contents_of(built::build_dir() + "/PlugIns/styles/" + addon));
     }
     write_files(bundle, files, "src/");
     write_files(bundle, files, "revised/src/");

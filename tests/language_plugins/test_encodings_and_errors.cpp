@@ -6,6 +6,8 @@
 
 #include <QtTest>
 
+#include <map>
+
 using namespace our_plugins;
 
 namespace {
@@ -83,25 +85,40 @@ private slots:
     void answers_syntax_errors_data() {
         QTest::addColumn<QString>("code");
         QTest::addColumn<bool>("is_error");
-        QTest::newRow("missing closing brace") << "int f() {\n  if (x) {\n  }\n" << true;
-        QTest::newRow("extra closing brace") << "int f() { }\n}\n" << true;
-        QTest::newRow("unclosed parenthesis") << "int f(int a;\n" << true;
-        QTest::newRow("crossed brackets") << "int a[3) = {1];\n" << true;
+        QTest::addColumn<QStringList>("languages");
+        QStringList const c_family = {"C", "C++"};
+        QTest::newRow("missing closing brace") << "int f() {\n  if (x) {\n  }\n" << true << c_family;
+        QTest::newRow("extra closing brace") << "int f() { }\n}\n" << true << c_family;
+        QTest::newRow("unclosed parenthesis") << "int f(int a;\n" << true << c_family;
+        QTest::newRow("crossed brackets") << "int a[3) = {1];\n" << true << c_family;
         QTest::newRow("brackets in strings and comments")
-            << "char const* s = \"{(\"; // }\n/* ) */ int c = '{';\n" << false;
+            << "char const* s = \"{(\"; // }\n/* ) */ int c = '{';\n" << false << c_family;
         QTest::newRow("a block opened in each branch")
-            << "void f() {\n#ifdef A\n  if (a) {\n#else\n  if (b) {\n#endif\n    g();\n  }\n}\n" << false;
-        QTest::newRow("a brace inside a macro") << "#define BEGIN {\n#define END }\nint x;\n" << false;
+            << "void f() {\n#ifdef A\n  if (a) {\n#else\n  if (b) {\n#endif\n    g();\n  }\n}\n" << false << c_family;
+        QTest::newRow("a brace inside a macro") << "#define BEGIN {\n#define END }\nint x;\n" << false << c_family;
+        QTest::newRow("Java: a method without its closing brace")
+            << "class A {\n  void f() {\n    g(\"}\");\n}\n" << true << QStringList{"Java"};
+        QTest::newRow("Java: brackets in literals and comments")
+            << "class A {\n  char c = '{';\n  String s = \"(\"; // }\n}\n" << false << QStringList{"Java"};
+        QTest::newRow("Protocol Buffers: a message without its closing brace")
+            << "message A {\n  int32 a = 1;\n" << true << QStringList{"Protocol Buffers"};
+        QTest::newRow("Protocol Buffers: brackets in strings of either quote")
+            << "message A {\n  string a = 1 [default = '}'];\n  string b = 2 [default = \"]\"];\n}\n" << false
+            << QStringList{"Protocol Buffers"};
     }
     void answers_syntax_errors() {
         QFETCH(QString, code);
         QFETCH(bool, is_error);
+        QFETCH(QStringList, languages);
         std::string const source = code.toStdString();
-        for (QString const& file : {c_plugin_file(), cpp_plugin_file()}) {
-            loaded_plugin plugin(file);
-            std::string const addon = shipped_addon(file == c_plugin_file() ? "GNU[C].style" : "Google[C++].style");
-            std::string const result = plugin->revise(source, addon, traits_of(source));
-            QCOMPARE(result == STYLE_TARNEL_SYNTAX_ERROR_TEXT, is_error);
+        std::map<QString, QString> const styles = {
+            {"C", "GNU[C].style"}, {"C++", "Google[C++].style"}, {"Java", "Google[Java].style"},
+            {"Protocol Buffers", "Google[Protocol Buffers].style"}};
+        for (QString const& language : languages) {
+            loaded_plugin plugin(plugin_file_of(language.toStdString()));
+            QVERIFY(plugin.get());
+            std::string const result = plugin->revise(source, shipped_addon(styles.at(language)), traits_of(source));
+            QVERIFY2((result == STYLE_TARNEL_SYNTAX_ERROR_TEXT) == is_error, qPrintable(language));
         }
     }
 

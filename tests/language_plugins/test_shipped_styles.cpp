@@ -32,7 +32,7 @@ private slots:
     void every_form_is_a_fixed_point() {
         QFETCH(QString, addon_file);
         std::string const addon = shipped_addon(addon_file);
-        auto const& language = language_of_addon(addon) == "C" ? c_language() : cpp_language();
+        auto const& language = description_of(QString::fromStdString(language_of_addon(addon)));
         auto const formatted = tarnel_engine::forms_formatted_by_inferred_options(addon, language);
         QCOMPARE(formatted.size(), language.structures.size());
         for (auto const& [name, result] : formatted)

@@ -25,17 +25,16 @@ using namespace our_plugins;
 
 namespace {
 
-tarnel_engine::language_description const& description_of(QString const& language) {
-    return language == "C" ? c_language() : cpp_language();
-}
-
 // The golden inputs and the examples of the language: code written in many ways.
 std::vector<std::string> sources_of(QString const& language) {
     std::vector<std::string> sources;
     for (QString const& golden_case : golden_cases())
         if (golden_case.startsWith(language + "/"))
             sources.push_back(golden_file(golden_case, "input"));
-    QDir const examples(built::source_dir() + "/examples/" + (language == "C" ? "c" : "cpp"));
+    // Java: a few files of the JDK's own sources (Debian's openjdk-17-source).
+    QDir const examples(language == "C" || language == "C++"
+                            ? built::source_dir() + "/examples/" + (language == "C" ? "c" : "cpp")
+                            : built::source_dir() + "/tests/language_plugins/samples/" + language);
     for (QString const& file : examples.entryList(QDir::Files, QDir::Name))
         sources.push_back(contents_of(examples.filePath(file)));
     return sources;
@@ -80,6 +79,9 @@ private slots:
                       "IndentGotoLabels: false, ForEachMacros: [list_for_each_entry], StatementMacros: [DECLARE_ITEMS], "
                       "AttributeMacros: [__item_init]}"
             << QStringList{"list_for_each_entry", "DECLARE_ITEMS", "__item_init"};
+        QTest::newRow("Java Chromium, tabs of 4, no blank before the ( of control statements")
+            << "Java" << "{BasedOnStyle: Chromium, IndentWidth: 4, TabWidth: 4, UseTab: ForIndentation, "
+                         "SpaceBeforeParens: Never}" << QStringList();
     }
     void learns_back_a_known_style() {
         QFETCH(QString, language);

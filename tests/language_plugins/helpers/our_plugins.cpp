@@ -2,7 +2,11 @@
 // temporary directory.
 #include "our_plugins.h"
 
+#include "c_language.h"
+#include "cpp_language.h"
 #include "engine/traits_of.h"
+#include "java_language.h"
+#include "proto_language.h"
 #include "tests/harness/built_files.h"
 
 #include <QDir>
@@ -33,7 +37,23 @@ void use_private_cache() {
 QString plugin_path(QString const& file_name) { return built::build_dir() + "/PlugIns/languages/" + file_name; }
 QString c_plugin_file() { return "libc-language-plugin.so"; }
 QString cpp_plugin_file() { return "libcpp-language-plugin.so"; }
-QString plugin_file_of(std::string const& language) { return language == "C" ? c_plugin_file() : cpp_plugin_file(); }
+QString plugin_file_of(std::string const& language) {
+    if (language == "Java")
+        return "libjava-language-plugin.so";
+    if (language == "Protocol Buffers")
+        return "libproto-language-plugin.so";
+    return language == "C" ? c_plugin_file() : cpp_plugin_file();
+}
+
+QStringList our_languages() { return {"C", "C++", "Java", "Protocol Buffers"}; }
+
+tarnel_engine::language_description const& description_of(QString const& language) {
+    if (language == "Java")
+        return java_language();
+    if (language == "Protocol Buffers")
+        return proto_language();
+    return language == "C" ? c_language() : cpp_language();
+}
 
 loaded_plugin::loaded_plugin(QString const& file_name) : loader(std::make_unique<QPluginLoader>(plugin_path(file_name))) {
     if (QObject* root = loader->instance()) {

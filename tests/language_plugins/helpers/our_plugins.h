@@ -5,6 +5,7 @@
 #define STYLE_TARNEL_TESTS_LANGUAGE_PLUGINS_OUR_PLUGINS_H
 
 #include "interface_to_language_plugin.h"
+#include "language.h"
 
 #include <QPluginLoader>
 #include <QString>
@@ -23,6 +24,11 @@ QString plugin_path(QString const& file_name);
 QString c_plugin_file();    // libc-language-plugin.so
 QString cpp_plugin_file();  // libcpp-language-plugin.so
 QString plugin_file_of(std::string const& language);
+// Every plugin of ours, by language name, in the order the host lists them.
+QStringList our_languages();
+
+// The engine's description of one of our languages, by name.
+tarnel_engine::language_description const& description_of(QString const& language);
 
 // A plugin loaded with QPluginLoader from the build's plugins folder; unloaded with the object.
 class loaded_plugin {
