@@ -40,11 +40,13 @@ bool remove_addons_of(std::string const& language) {
 bool kernel::delete_language_by(std::string const& language) const {
     bool deleted = true;
     // Every plugin of that name goes, a twin reporting the same name too; the styles go with a
-    // plugin that could be removed and stay with one that could not.
+    // plugin that could be removed and stay with one that could not. A plugin the user cannot
+    // remove (the bundle's, installed by the system) stays.
     for (auto const& plugin : installed_plugins()) {
         if (plugin.language != language)
             continue;
-        if (!detail::remove::from<plugins_directory>(plugin.file_name))
+        QString const file = path_of_plugin(plugin.file_name);
+        if (!directory_is_writable(QFileInfo(file).absolutePath()) || !remove_plugin_at(file))
             deleted = false;
         else if (!remove_addons_of(language))
             deleted = false;
