@@ -235,11 +235,15 @@ void select_formatting_style::renaming_finished() {
     pimpl->renamer = nullptr;
     if (new_name == pimpl->renaming_style)
         return;
-    if (!kernel().rename_style(pimpl->renaming_style.toStdString(), pimpl->current_language().toStdString(),
-                               new_name.toStdString())) {
+    std::string const language = pimpl->current_language().toStdString();
+    // A style the user cannot change stays as it is beside the user's renamed copy.
+    bool const copied = kernel().style_is_read_only(pimpl->renaming_style.toStdString(), language);
+    if (!kernel().rename_style(pimpl->renaming_style.toStdString(), language, new_name.toStdString())) {
         // The store kept the old name: the list shows it again.
         pimpl->update_formatting_styles_list();
         set_this_formatting_style(pimpl->renaming_style);
+    } else if (copied) {
+        set_this_formatting_style(new_name);
     }
 }
 
