@@ -165,10 +165,10 @@ public:
         case end::not_installed:
             return QObject::tr(text::cannot_install_style) + style + QObject::tr(text::addons_directory_hint);
         default:
-            return QObject::tr(text::cannot_make_a_style_of) + path +
-                   (outcome.reason.empty()
-                        ? QObject::tr(text::quote_and_dot)
-                        : QObject::tr(text::reason_follows) + QString::fromStdString(outcome.reason) + QObject::tr(text::dot));
+            if (outcome.reason.empty())
+                return QObject::tr(text::cannot_make_a_style_of) + path + QObject::tr(text::quote_and_dot);
+            return QObject::tr(text::cannot_make_a_style_of) + path + QObject::tr(text::reason_follows) +
+                   QString::fromStdString(outcome.reason) + QObject::tr(text::dot);
         }
     }
 

@@ -14,16 +14,17 @@ namespace {
 
 // Removes every addon of the language that the user can remove, the user's and the bundle's (a
 // pass sees a bundled style only once the user's of the same name is gone, so passes repeat while
-// they remove something);
-// false when one of them stays, or the addons directory holds a file that is no addon (the pass
-// then stops there).
+// they remove something); false when one of them stays, or the addons directory holds a file that
+// is no addon (the pass then stops there). The bundle's styles in a directory the user cannot
+// write are the system's: they stay, and come back with the language.
 bool remove_addons_of(std::string const& language) {
     bool removed = true;
     for (bool again = true; again && removed;) {
         again = false;
         addons_pass const pass = first_addon_where([&](std::string const& file, style_description const& d) {
-            // The bundle's styles that the user cannot write are the system's: they stay.
-            if (d.language != language || !directory_is_writable(QFileInfo(QString::fromStdString(file)).absolutePath()))
+            if (d.language != language)
+                return false;
+            if (!directory_is_writable(QFileInfo(QString::fromStdString(file)).absolutePath()))
                 return false;
             if (remove_addon_at(file))
                 again = true;

@@ -53,8 +53,8 @@ std::string kernel::import_language_from(std::string const& path) const {
     if (!stored)
         return std::string();
     if (complete)
-        plugin_describer().remember(new_plugins_directory::path() + QDir::separator() + QFileInfo(from_utf8(path)).fileName(),
-                                    *description);
+        plugin_describer().remember(
+            new_plugins_directory::path() + QDir::separator() + QFileInfo(from_utf8(path)).fileName(), *description);
     return description->language;
 }
 

@@ -234,8 +234,10 @@ void test_window_editor_configuration::asks_a_name_the_store_takes() {
     window->findChild<GUI::select_formatting_style*>()->import_styles_factually({path});
     GUI::new_style_name* names = configurations()->name_dialog();
     QTRY_VERIFY(names->isVisible());
-    for (auto const& refused : {qMakePair(QString("GNU"), QString("Invalid name of style 'GNU', such style already exists.")),
-                                qMakePair(QString(), QString("Invalid name of style '', name cannot be empty."))}) {
+    QList<QPair<QString, QString>> const refusals{
+        {"GNU", "Invalid name of style 'GNU', such style already exists."},
+        {"", "Invalid name of style '', name cannot be empty."}};
+    for (auto const& refused : refusals) {
         names->field()->setText(refused.first);
         names->accept();
         QVERIFY(names->isVisible());
