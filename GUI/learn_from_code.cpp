@@ -16,25 +16,12 @@
 
 namespace GUI {
 
-namespace {
-
-// The refusals of a name, in the command line's words.
-QString refusal_of_a_bad(QString const& name) {
-    return name.isEmpty() ? QObject::tr(text::style_name_cannot_be_empty)
-                          : QObject::tr(text::style_name_prefix) + name + QObject::tr(text::style_name_must_be_in_English);
-}
-
-QString refusal_of_a_taken(QString const& name) {
-    return QObject::tr(text::style_name_prefix) + name + QObject::tr(text::style_name_is_taken);
-}
-
-}  // namespace
-
 class learn_from_code::implementation {
 public:
     implementation(learn_from_code* owner, QWidget* main_window, style_menu_learn* learn)
         : main_window(main_window), learn(learn),
-          names(new new_style_name(main_window, [owner](QString const& name) { return owner->refusal_of(name); })),
+          names(new new_style_name(main_window, QObject::tr(text::learn_a_style_title),
+                                   [owner](QString const& name) { return owner->refusal_of(name); })),
           dialog(new GUI::progress_dialog(main_window, QObject::tr(text::learning))) {
         dialog->setObjectName("learning_dialog");
     }
@@ -74,16 +61,9 @@ void learn_from_code::there_are_paths() { pimpl->learn->enable(); }
 void learn_from_code::no_paths_anymore() { pimpl->learn->disable(); }
 
 QString learn_from_code::refusal_of(QString const& name) {
-    if (name.isEmpty() || !this_is_a_style_name(name.toStdString()))
-        return refusal_of_a_bad(name);
     QString language;
     emit obtain_programming_language(language);
-    auto const styles = kernel().supported_formatting_styles_for(language.toStdString());
-    if (styles)
-        for (style_description const& style : *styles)
-            if (QString::fromStdString(style.style) == name)
-                return refusal_of_a_taken(name);
-    return QString();
+    return refusal_of_new_style_name(name, language);
 }
 
 void learn_from_code::ask_for_a_name() { pimpl->names->ask(); }
@@ -150,10 +130,10 @@ void learn_from_code::learning_ended(QString const& style, QString const& langua
         message = tr(text::language_prefix) + language + tr(text::cannot_learn_styles);
         break;
     case end::bad_style_name:
-        message = refusal_of_a_bad(style);
+        message = refusal_of_bad_style_name(style);
         break;
     case end::style_exists:
-        message = refusal_of_a_taken(style);
+        message = refusal_of_taken_style_name(style);
         break;
     case end::no_files:
         message = tr(text::no_files_to_learn_from);

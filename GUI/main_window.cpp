@@ -2,6 +2,7 @@
 
 #include "GUI/app_menu_actions.h"
 #include "GUI/code_group.h"
+#include "GUI/editor_configuration.h"
 #include "GUI/learn_from_code.h"
 #include "GUI/menu_actions.h"
 #include "GUI/revise_group.h"
@@ -28,6 +29,7 @@ public:
     explicit implementation(main_window* window)
         : language_import(window), language_delete(window),
           style_import(window), style_export(window), style_delete(window), style_rename(window), style_learn(window),
+          style_export_configuration(window),
           about_this_structure(window), undo(window), redo(window), copy(window), select_all(window),
           increase_font(window), decrease_font(window), non_print(window),
           online(window), about(window),
@@ -42,7 +44,8 @@ public:
           revise(new revise_group(window, &revise_all, &revise_changed_lines)),
           agreement(kernel().this_is_first_start_of_app() ? new agreement_dialog(window) : nullptr),
           tabs(new task_tabs(window, &tab_new, &tab_close, &tab_rename)),
-          learning(new learn_from_code(window, window, &style_learn)) {}
+          learning(new learn_from_code(window, window, &style_learn)),
+          configuration(new editor_configuration(window, window, &style_export_configuration)) {}
 
     language_menu_import language_import;
     language_menu_delete language_delete;
@@ -51,6 +54,7 @@ public:
     style_menu_delete style_delete;
     style_menu_rename style_rename;
     style_menu_learn style_learn;
+    style_menu_export_configuration style_export_configuration;
     lnf_menu_about_this_structure about_this_structure;
     lnf_menu_undo undo;
     lnf_menu_redo redo;
@@ -76,6 +80,7 @@ public:
     agreement_dialog* agreement;
     task_tabs* tabs;
     learn_from_code* learning;
+    editor_configuration* configuration;
 };
 
 main_window::main_window(QWidget* parent) : QMainWindow(parent) {
@@ -130,6 +135,7 @@ main_window::~main_window() {
     settings.sync();
     // The groups go before the actions they use (a renaming still open refills its list as it
     // closes); each saves its own state as it goes.
+    delete pimpl->configuration;
     delete pimpl->learning;
     delete pimpl->tabs;
     delete pimpl->revise;
@@ -156,7 +162,8 @@ void main_window::build_menus() {
     add_menu(tr("&Tab"), "tab_menu", {&p.tab_new, &p.tab_close, &p.tab_rename});
     add_menu(tr("&Language"), "language_menu", {&p.language_import, &p.language_delete});
     add_menu(tr("&Style"), "style_menu",
-             {&p.style_import, &p.style_export, &p.style_delete, &p.style_rename, nullptr, &p.style_learn});
+             {&p.style_import, &p.style_export, &p.style_delete, &p.style_rename, nullptr, &p.style_learn,
+              &p.style_export_configuration});
     add_menu(tr("Look and f&eel"), "lnf_menu",
              {&p.about_this_structure, nullptr, &p.undo, &p.redo, nullptr, &p.copy, &p.select_all, nullptr,
               &p.increase_font, &p.decrease_font, nullptr, &p.non_print});
@@ -217,6 +224,14 @@ void main_window::connect_groups() {
     connect(C, &code_group::at_least_one_path_was_added, L, &learn_from_code::there_are_paths);
     connect(C, &code_group::no_paths_anymore, L, &learn_from_code::no_paths_anymore);
     connect(L, &learn_from_code::style_was_learned, S, &style_group::set_this_formatting_style);
+    editor_configuration* E = pimpl->configuration;
+    connect(E, &editor_configuration::obtain_programming_language, S, &style_group::obtain_programming_language);
+    connect(E, &editor_configuration::obtain_formatting_style, S, &style_group::obtain_formatting_style);
+    connect(S, &style_group::editor_configurations_were_chosen, E, &editor_configuration::import_configurations);
+    connect(E, &editor_configuration::style_was_made, S, &style_group::set_this_formatting_style);
+    connect(S, &style_group::language_n_style_was_selected, E, &editor_configuration::there_is_a_style);
+    connect(S, &style_group::all_styles_have_been_deleted, E, &editor_configuration::there_is_no_style);
+    connect(S, &style_group::all_languages_have_been_deleted, E, &editor_configuration::there_is_no_style);
 }
 
 void main_window::obtain_geometry_of_main_window(QRect& geometry) { geometry = this->geometry(); }
@@ -229,6 +244,7 @@ void main_window::disable_style_menu() {
     pimpl->style_delete.disable();
     pimpl->style_rename.disable();
     pimpl->style_learn.disable();
+    pimpl->style_export_configuration.disable();
 }
 
 void main_window::disable_lnf_menu() {

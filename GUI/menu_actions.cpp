@@ -35,6 +35,12 @@ style_menu_rename::style_menu_rename(QWidget* parent)
 style_menu_learn::style_menu_learn(QWidget* parent)
     : one_action(parent, {tr(text::learn_from_code), QKeySequence(), false, false}) { name_as("style_menu_learn"); }
 
+style_menu_export_configuration::style_menu_export_configuration(QWidget* parent)
+    : one_action(parent, {tr(text::export_as_editor_configuration), QKeySequence(), false, false,
+                          tr(text::export_as_editor_configuration_tip)}) {
+    name_as("style_menu_export_configuration");
+}
+
 lnf_menu_undo::lnf_menu_undo(QWidget* parent)
     : one_action(parent, {tr("Undo"), QKeySequence(QKeySequence::Undo), true, false}) { name_as("lnf_menu_undo"); }
 

@@ -66,6 +66,12 @@ public:
     explicit style_menu_learn(QWidget* parent);
 };
 
+class style_menu_export_configuration : public one_action {
+    Q_OBJECT
+public:
+    explicit style_menu_export_configuration(QWidget* parent);
+};
+
 class lnf_menu_undo : public one_action {
     Q_OBJECT
 public:

@@ -145,6 +145,34 @@ constexpr char tab_already_exists[] = "Tab with such name already exists";
 // Where "Online help" leads.
 constexpr char user_guide_address[] = "https://style-tarnel.org/user-guide";
 
+// A style as the engine configuration that editors read, written into a directory, and a style
+// made from such a file; the refusals in the command line's words where it has them.
+constexpr char export_as_editor_configuration[] = "Export as editor configuration...";
+constexpr char export_as_editor_configuration_tip[] =
+    "Write the shown style as .clang-format into a directory, so that editors format as the style revises";
+constexpr char editor_configuration_directory[] = "Directory for the editor configuration";
+constexpr char editor_configuration_file[] = ".clang-format";
+constexpr char configuration_files[] = "Editor configuration (.clang-format _clang-format)";
+constexpr char addons_or_configuration_filter[] =
+    "Formatting style addon or editor configuration (*.style .clang-format _clang-format)";
+constexpr char make_a_style_title[] = "Make a style of an editor configuration";
+constexpr char there_is_already_a_file[] = "There is already a file '";
+constexpr char replace_it[] = "'. Replace it?";
+constexpr char cannot_export_to[] = "I cannot export style to '";
+constexpr char make_sure_you_can_write[] =
+    "'. Please make sure this directory exists and you have write permissions.";
+constexpr char cannot_write_file[] = "I cannot write file '";
+constexpr char plugin_of_language[] = "Sorry, the plugin of language '";
+constexpr char has_no_engine_configuration[] =
+    "' has no engine configuration, so its styles cannot be exported as one or imported from one.";
+constexpr char cannot_tell_configuration_of[] = "Sorry, I cannot tell the engine configuration of style '";
+constexpr char cannot_make_a_style_of[] = "I cannot make a style of '";
+constexpr char reason_follows[] = "': ";
+constexpr char left_out_options[] = "Left out, as they change more than white space: ";
+constexpr char options_not_shown[] = "Shown by no form of the style, so not kept: ";
+constexpr char options_separator[] = ", ";
+constexpr char dot[] = ".";
+
 }  // namespace text
 }  // namespace GUI
 

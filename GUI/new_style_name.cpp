@@ -1,6 +1,8 @@
 #include "GUI/new_style_name.h"
 
 #include "GUI/messages.h"
+#include "core/kernel.h"
+#include "core/style_addon.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
@@ -13,11 +15,11 @@ namespace GUI {
 
 class new_style_name::implementation {
 public:
-    implementation(new_style_name* dialog, std::function<QString(QString const&)> refusal_of)
+    implementation(new_style_name* dialog, QString const& title, std::function<QString(QString const&)> refusal_of)
         : refusal_of(std::move(refusal_of)), field(new QLineEdit(dialog)), refusal(new QLabel(dialog)) {
         dialog->setObjectName("new_style_name_dialog");
-        dialog->setWindowTitle(QObject::tr(text::learn_a_style_title));
-        dialog->setAccessibleName(QObject::tr(text::learn_a_style_title));
+        dialog->setWindowTitle(title);
+        dialog->setAccessibleName(title);
         dialog->setWindowModality(Qt::WindowModal);
         auto* label = new QLabel(QObject::tr(text::name_of_the_new_style), dialog);
         label->setBuddy(field);
@@ -44,8 +46,9 @@ public:
     QLabel* refusal;
 };
 
-new_style_name::new_style_name(QWidget* main_window, std::function<QString(QString const&)> refusal_of)
-    : QDialog(main_window), pimpl(std::make_unique<implementation>(this, std::move(refusal_of))) {}
+new_style_name::new_style_name(QWidget* main_window, QString const& title,
+                               std::function<QString(QString const&)> refusal_of)
+    : QDialog(main_window), pimpl(std::make_unique<implementation>(this, title, std::move(refusal_of))) {}
 
 new_style_name::~new_style_name() = default;
 
@@ -70,6 +73,26 @@ void new_style_name::accept() {
     }
     QDialog::accept();
     emit name_was_given(name);
+}
+
+QString refusal_of_bad_style_name(QString const& name) {
+    return name.isEmpty() ? QObject::tr(text::style_name_cannot_be_empty)
+                          : QObject::tr(text::style_name_prefix) + name + QObject::tr(text::style_name_must_be_in_English);
+}
+
+QString refusal_of_taken_style_name(QString const& name) {
+    return QObject::tr(text::style_name_prefix) + name + QObject::tr(text::style_name_is_taken);
+}
+
+QString refusal_of_new_style_name(QString const& name, QString const& language) {
+    if (name.isEmpty() || !this_is_a_style_name(name.toStdString()))
+        return refusal_of_bad_style_name(name);
+    auto const styles = kernel().supported_formatting_styles_for(language.toStdString());
+    if (styles)
+        for (style_description const& style : *styles)
+            if (QString::fromStdString(style.style) == name)
+                return refusal_of_taken_style_name(name);
+    return QString();
 }
 
 }  // namespace GUI

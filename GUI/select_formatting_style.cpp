@@ -2,6 +2,7 @@
 
 #include "GUI/bundle_directory_alert.h"
 #include "GUI/critical_alert.h"
+#include "GUI/editor_configuration.h"
 #include "GUI/top_window.h"
 #include "GUI/invitation.h"
 #include "GUI/list_of_styles_itself.h"
@@ -133,6 +134,10 @@ public:
         if (dialog != nullptr)
             return dialog;
         dialog = import_dialog_on(main_window, QObject::tr(text::addons_filter), "import_styles_dialog");
+        // Editors' configuration files are hidden files: the dialog shows them.
+        dialog->setFilter(dialog->filter() | QDir::Hidden);
+        dialog->setNameFilters({QObject::tr(text::addons_or_configuration_filter), QObject::tr(text::addons_filter),
+                                QObject::tr(text::configuration_files)});
         QObject::connect(dialog, &QFileDialog::filesSelected, owner, &select_formatting_style::import_styles_factually);
         QObject::connect(dialog, &QFileDialog::rejected, owner, &select_formatting_style::rejected);
         return dialog;
@@ -230,11 +235,15 @@ void select_formatting_style::renaming_finished() {
     pimpl->renamer = nullptr;
     if (new_name == pimpl->renaming_style)
         return;
-    if (!kernel().rename_style(pimpl->renaming_style.toStdString(), pimpl->current_language().toStdString(),
-                               new_name.toStdString())) {
+    std::string const language = pimpl->current_language().toStdString();
+    // A style the user cannot change stays as it is beside the user's renamed copy.
+    bool const copied = kernel().style_is_read_only(pimpl->renaming_style.toStdString(), language);
+    if (!kernel().rename_style(pimpl->renaming_style.toStdString(), language, new_name.toStdString())) {
         // The store kept the old name: the list shows it again.
         pimpl->update_formatting_styles_list();
         set_this_formatting_style(pimpl->renaming_style);
+    } else if (copied) {
+        set_this_formatting_style(new_name);
     }
 }
 
@@ -328,8 +337,15 @@ void select_formatting_style::import_styles_factually(QStringList const& paths) 
     QSettings settings;
     settings.setValue(settings_key::parent_directory_of_last_imported_addon, pimpl->last_imported_directory);
     settings.sync();
-    if (pimpl->addons_directory_is_usable())
-        pimpl->import(paths);
+    if (!pimpl->addons_directory_is_usable())
+        return;
+    QStringList addons, configurations;
+    for (QString const& path : paths)
+        (is_editor_configuration(path) ? configurations : addons) << path;
+    if (!addons.isEmpty())
+        pimpl->import(addons);
+    if (!configurations.isEmpty())
+        emit editor_configurations_were_chosen(configurations);
 }
 
 void select_formatting_style::rejected() {

@@ -40,6 +40,8 @@ signals:
     void obtain_programming_language(QString& language);
     void style_was_selected();
     void all_styles_have_been_deleted();
+    // Engine configuration files chosen in the import dialog: styles are to be made of them.
+    void editor_configurations_were_chosen(QStringList const& paths);
 
 public slots:
     void show();

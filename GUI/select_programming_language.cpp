@@ -10,6 +10,7 @@
 #include "core/kernel.h"
 #include "core/path_to.h"
 #include "core/settings_keys.h"
+#include "core/store_files.h"
 
 #include <QAction>
 #include <QFileDialog>
@@ -68,11 +69,13 @@ public:
         select_first_from(list, imported);
     }
 
+    // The directory that imported plugins go to: the bundle's, or the user's own where the
+    // bundle cannot be written.
     bool plugins_directory_is_usable() const {
-        if (this_directory_is_usable(path_to().plugins_directory()))
+        QString const directory = new_plugins_directory::path();
+        if (this_directory_is_usable(directory))
             return true;
-        show_report_about_problems_with(path_to().plugins_directory(), text::plugins_directory_is_wrong,
-                                        main_window);
+        show_report_about_problems_with(directory, text::plugins_directory_is_wrong, main_window);
         return false;
     }
 

@@ -92,6 +92,8 @@ style_group::style_group(QWidget* parent, QWidget* main_window, style_group_acti
             &style_group::obtain_filename_extensions);
     connect(L, &select_programming_language::obtain_raw_paths_to_revising_files, this,
             &style_group::obtain_raw_paths_to_revising_files);
+    connect(S, &select_formatting_style::editor_configurations_were_chosen, this,
+            &style_group::editor_configurations_were_chosen);
 
     // Selection chain.
     connect(L, &select_programming_language::language_was_selected, S, &select_formatting_style::show);

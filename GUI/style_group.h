@@ -67,6 +67,7 @@ signals:
     void all_styles_have_been_deleted();
     void delete_all_raw_paths();
     void show_default_filename_extensions();
+    void editor_configurations_were_chosen(QStringList const& paths);
 
 public slots:
     void set_this_programming_language(QString const& language);

@@ -19,6 +19,16 @@ std::vector<std::string> list_of_names_of_plugins() {
     return plain_files_in(path_to().plugins_directory());
 }
 
+std::vector<std::string> list_of_user_plugin_files() {
+    std::vector<std::string> files;
+    QString const user = QDir(path_to().user_plugins_directory()).absolutePath();
+    if (user == QDir(path_to().plugins_directory()).absolutePath())
+        return files;
+    for (auto const& name : plain_files_in(user))
+        files.push_back((user + QDir::separator()).toStdString() + name);
+    return files;
+}
+
 std::vector<std::string> list_of_addon_files() {
     std::vector<std::string> files;
     QStringList directories{path_to().user_addons_directory(), path_to().addons_directory()};

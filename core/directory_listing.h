@@ -9,6 +9,8 @@
 
 // File names (not paths) in the bundle's plugins directory.
 std::vector<std::string> list_of_names_of_plugins();
+// Absolute paths of the files in the user's own plugins directory (none when it is the bundle's).
+std::vector<std::string> list_of_user_plugin_files();
 // Absolute paths: the user's own addons directory first, then the bundle's.
 std::vector<std::string> list_of_addon_files();
 

@@ -52,7 +52,16 @@ describe_plugins plugin_describer() {
 }
 
 std::vector<plugin_description> installed_plugins() {
-    return plugin_describer().in(path_to().plugins_directory(), list_of_names_of_plugins());
+    describe_plugins const describe = plugin_describer();
+    std::vector<plugin_description> plugins =
+        describe.in(path_to().user_plugins_directory(), list_of_user_plugin_files());
+    std::set<std::string> users_languages;
+    for (auto const& plugin : plugins)
+        users_languages.insert(plugin.language);
+    for (auto& plugin : describe.in(path_to().plugins_directory(), list_of_names_of_plugins()))
+        if (users_languages.count(plugin.language) == 0)
+            plugins.push_back(std::move(plugin));
+    return plugins;
 }
 
 boost::optional<plugin_description> plugin_of(std::string const& language) {

@@ -16,15 +16,19 @@
 #include <string>
 #include <vector>
 
-// The path itself when absolute; otherwise the full path of the plugins directory's file of that
-// name.
+// The path itself when absolute (a plugin of the user's own); otherwise the full path of the
+// bundle's plugins directory's file of that name.
 QString path_of_plugin(std::string const& file_name);
 
 // What plugins say of themselves, kept in the user's cache directory.
 describe_plugins plugin_describer();
 
-// The language plugins installed, in the order of the listing, each as it describes itself. Only
-// plugins that changed since they were last described are loaded.
+// The language plugins installed, each as it describes itself: the user's own first (their
+// file_name an absolute path), in the order of their listing, then the bundle's (file_name a name
+// in the bundle's plugins directory). A language that a plugin of the user's reports is the
+// user's: the bundle's plugins of the same language name are passed over, so that the user's
+// takes precedence however its file is named. Only plugins that changed since they were last
+// described are loaded.
 std::vector<plugin_description> installed_plugins();
 
 // The first installed plugin that reports exactly that language name.

@@ -12,16 +12,19 @@
 
 namespace {
 
-// Removes every addon of the language, the user's and the bundle's (a pass sees a bundled style
-// only once the user's of the same name is gone, so passes repeat while they remove something);
-// false when one of them stays, or the addons directory holds a file that is no addon (the pass
-// then stops there).
+// Removes every addon of the language that the user can remove, the user's and the bundle's (a
+// pass sees a bundled style only once the user's of the same name is gone, so passes repeat while
+// they remove something); false when one of them stays, or the addons directory holds a file that
+// is no addon (the pass then stops there). The bundle's styles in a directory the user cannot
+// write are the system's: they stay, and come back with the language.
 bool remove_addons_of(std::string const& language) {
     bool removed = true;
     for (bool again = true; again && removed;) {
         again = false;
         addons_pass const pass = first_addon_where([&](std::string const& file, style_description const& d) {
             if (d.language != language)
+                return false;
+            if (!directory_is_writable(QFileInfo(QString::fromStdString(file)).absolutePath()))
                 return false;
             if (remove_addon_at(file))
                 again = true;
@@ -40,11 +43,13 @@ bool remove_addons_of(std::string const& language) {
 bool kernel::delete_language_by(std::string const& language) const {
     bool deleted = true;
     // Every plugin of that name goes, a twin reporting the same name too; the styles go with a
-    // plugin that could be removed and stay with one that could not.
+    // plugin that could be removed and stay with one that could not. A plugin the user cannot
+    // remove (the bundle's, installed by the system) stays.
     for (auto const& plugin : installed_plugins()) {
         if (plugin.language != language)
             continue;
-        if (!detail::remove::from<plugins_directory>(plugin.file_name))
+        QString const file = path_of_plugin(plugin.file_name);
+        if (!directory_is_writable(QFileInfo(file).absolutePath()) || !remove_plugin_at(file))
             deleted = false;
         else if (!remove_addons_of(language))
             deleted = false;

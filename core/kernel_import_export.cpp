@@ -1,4 +1,5 @@
-// kernel: installing a language plugin or a style addon by copying it into the bundle, and
+// kernel: installing a language plugin or a style addon by copying it into the bundle (or the
+// user's own directories where the bundle cannot be written), and
 // copying an installed addon out to where the user wants it.
 #include "core/kernel.h"
 
@@ -9,6 +10,7 @@
 #include "engine/read_from.h"
 #include "engine/write_to.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -42,15 +44,17 @@ std::string kernel::import_language_from(std::string const& path) const {
     // hold the replaced plugin loaded under that name, and would describe that one.
     std::optional<plugin_description> description;
     bool complete = false;
-    bool const stored = store::in<plugins_directory>(from_utf8(path), [&](QString const& copy) {
-        description = plugin_describer().asking(path_of_plugin(copy.toStdString()), complete);
+    // It goes into the bundle while the user can write there, into the user's own plugins
+    // otherwise.
+    bool const stored = store::in<new_plugins_directory>(from_utf8(path), [&](QString const& copy) {
+        description = plugin_describer().asking(copy, complete);
         return description && !description->language.empty();
     });
     if (!stored)
         return std::string();
     if (complete)
-        plugin_describer().remember(path_of_plugin(QFileInfo(from_utf8(path)).fileName().toStdString()),
-                                    *description);
+        plugin_describer().remember(
+            new_plugins_directory::path() + QDir::separator() + QFileInfo(from_utf8(path)).fileName(), *description);
     return description->language;
 }
 

@@ -28,11 +28,20 @@ records_location where_change_records_live() {
     return {product::organisation_name, settings_key::change_records_store};
 }
 
-// The first plugin file in the listing whose plugin names the task's language. None found: the
-// language's own name, which no plugin file has, so the run says which plugin it missed.
-std::string plugin_file_for(std::string const& language) {
+// Puts into the request the directory and file name of the first plugin in the listing whose
+// plugin names the language (the user's own plugins come first). None found: the bundle's plugins
+// directory and the language's own name, which no plugin file has, so the run says which plugin
+// it missed.
+void find_plugin_for(std::string const& language, revision_request& request) {
     auto const plugin = plugin_of(language);
-    return plugin ? plugin->file_name : language;
+    if (!plugin) {
+        request.plugins_directory = path_to().plugins_directory();
+        request.plugin_file = language;
+        return;
+    }
+    QFileInfo const file(path_of_plugin(plugin->file_name));
+    request.plugins_directory = file.absolutePath();
+    request.plugin_file = file.fileName().toStdString();
 }
 
 // The addon file whose inside names the task's style and language, as an absolute path (the user's
@@ -49,8 +58,7 @@ revision_request request_for(revision_task const& task) {
     revision_request request;
     request.language = QString::fromStdString(task.language);
     request.style = QString::fromStdString(task.style);
-    request.plugins_directory = path_to().plugins_directory();
-    request.plugin_file = plugin_file_for(task.language);
+    find_plugin_for(task.language, request);
     QFileInfo const addon(addon_file_for(task.style, task.language));
     request.addons_directory = addon.absolutePath();
     request.addon_file = addon.fileName().toStdString();
@@ -60,7 +68,7 @@ revision_request request_for(revision_task const& task) {
         QFileInfo const addon(task.addon_path);
         request.language = QString::fromStdString(description.language);
         request.style = QString::fromStdString(description.style);
-        request.plugin_file = plugin_file_for(description.language);
+        find_plugin_for(description.language, request);
         request.addons_directory = addon.absolutePath();
         request.addon_file = addon.fileName().toStdString();
     }

@@ -44,6 +44,11 @@ QString path_to::addons_directory_for_new() const {
     return !QFileInfo(bundled).isDir() || directory_is_writable(bundled) ? bundled : user_addons_directory();
 }
 
+QString path_to::plugins_directory_for_new() const {
+    QString const bundled = plugins_directory();
+    return !QFileInfo(bundled).isDir() || directory_is_writable(bundled) ? bundled : user_plugins_directory();
+}
+
 bool directory_is_writable(QString const& directory) {
     return QFileInfo(directory).isDir() && ::access(QFile::encodeName(directory).constData(), W_OK | X_OK) == 0;
 }

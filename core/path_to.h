@@ -20,6 +20,8 @@ public:
     // The directory that new and changed addons go to: the bundle's while the user can write it
     // (or while it is missing: a broken bundle), the user's own otherwise.
     QString addons_directory_for_new() const;
+    // The directory that imported plugins go to, by the same rule.
+    QString plugins_directory_for_new() const;
 };
 
 // Whether the user may create and replace files in the directory (which must exist).

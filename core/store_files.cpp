@@ -42,6 +42,13 @@ QString new_addons_directory::path() {
     return directory;
 }
 
+QString new_plugins_directory::path() {
+    QString const directory = path_to().plugins_directory_for_new();
+    if (directory == path_to().user_plugins_directory())
+        QDir().mkpath(directory);
+    return directory;
+}
+
 QString where_to_write_addon(QString const& path) {
     QFileInfo const addon(path);
     if (directory_is_writable(addon.absolutePath()))
@@ -54,6 +61,11 @@ QString where_to_write_addon(QString const& path) {
 bool remove_addon_at(std::string const& file) {
     QFileInfo const addon(QString::fromStdString(file));
     return detail::remove_from(addon.absolutePath(), addon.fileName().toStdString());
+}
+
+bool remove_plugin_at(QString const& file) {
+    QFileInfo const plugin(file);
+    return detail::remove_from(plugin.absolutePath(), plugin.fileName().toStdString());
 }
 
 bool is_plain_file_name(std::string const& name) {

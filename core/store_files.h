@@ -24,6 +24,12 @@ struct new_addons_directory {
     static QString path();
 };
 
+// Where imported plugins go: the bundle's plugins directory while the user can write it, the
+// user's own (created when needed) otherwise.
+struct new_plugins_directory {
+    static QString path();
+};
+
 // Where a changed addon at `path` is written: the path itself when the user can write its
 // directory; otherwise the file of the same name in the user's addons directory (created when
 // needed), which then hides the original.
@@ -32,6 +38,8 @@ QString where_to_write_addon(QString const& path);
 // Removes the addon file that a listing of the addons directories gave (an absolute path); false
 // when it is not removed.
 bool remove_addon_at(std::string const& file);
+// Removes the plugin file at that absolute path; false when it is not removed.
+bool remove_plugin_at(QString const& file);
 
 // Whether `name` can only name a file inside a directory: not empty, no directory separator, no
 // NUL byte, and neither "." nor "..". Names read from addons and reported by plugins are checked

@@ -193,7 +193,7 @@ void test_main_window::menus_hold_their_entries_in_order_data() {
     QTest::newRow("Language") << "&Language" << QStringList{entry("Import..."), entry("Delete")};
     QTest::newRow("Style") << "&Style"
                            << QStringList{entry("Import..."), entry("Export..."), entry("Delete"), entry("Rename"),
-                                          "|", entry("Learn from code...")};
+                                          "|", entry("Learn from code..."), entry("Export as editor configuration...")};
     QTest::newRow("Look and feel")
         << "Look and f&eel"
         << QStringList{entry("How to change this structure"), "|",
@@ -240,11 +240,11 @@ void test_main_window::actions_follow_the_languages_and_styles_data() {
     QTest::newRow("one language, one style")
         << one_language_one_style << ""
         << QStringList({"language_menu_import", "style_menu_import", "style_menu_export", "style_menu_rename"}) +
-               lnf_entries + forced_entries;
+               lnf_entries + QStringList({"style_menu_export_configuration"}) + forced_entries;
     QTest::newRow("two languages, two styles")
         << two_languages_two_styles << ""
         << QStringList({"language_menu_import", "language_menu_delete"}) + style_entries + lnf_entries +
-               forced_entries;
+               QStringList({"style_menu_export_configuration"}) + forced_entries;
     QTest::newRow("last language deleted")
         << one_language_one_style << "delete the language" << QStringList({"language_menu_import"}) + forced_entries;
     QTest::newRow("last style deleted")
@@ -272,7 +272,8 @@ void test_main_window::actions_follow_the_languages_and_styles() {
     QStringList const all{"language_menu_import", "language_menu_delete", "style_menu_import", "style_menu_export",
                           "style_menu_delete", "style_menu_rename", "lnf_menu_about_this_structure",
                           "lnf_menu_select_all", "lnf_menu_increase_font", "lnf_menu_decrease_font",
-                          "lnf_menu_non_print", "style_menu_learn", "revise_menu_all", "revise_menu_changed_lines",
+                          "lnf_menu_non_print", "style_menu_learn", "style_menu_export_configuration",
+                          "revise_menu_all", "revise_menu_changed_lines",
                           "revise_menu_it_forcibly", "revise_menu_all_forcibly"};
     QCOMPARE(enabled_actions(all), enabled);
 }
