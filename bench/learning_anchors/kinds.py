@@ -6,8 +6,9 @@
 # changed, "aligned" when a line's text stays but white space inside it changed and one side lines
 # something up (a run of blanks or a tab inside the text: columns of declarations, assignments,
 # macro values, trailing comments), "inner" for other changes inside a line (spaces around
-# operators, after casts), "both" when a line changed its indent and inside. Prints the counts and,
-# with a third argument N, N example hunks of each kind.
+# operators, after casts), "both" when a line changed its indent and inside, "trailing" when only
+# white space at a line's end changed. Prints the counts and, with a third argument N, N example
+# hunks of each kind.
 import collections, difflib, os, re, sys
 
 original, revised = sys.argv[1], sys.argv[2]
