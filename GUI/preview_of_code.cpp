@@ -208,6 +208,8 @@ public:
         text->setObjectName("previewed_file");
         text->setAccessibleName(QObject::tr(text::previewed_file));
         text->setReadOnly(true);
+        // Selected and copied with the keyboard too.
+        text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         text->setLineWrapMode(QPlainTextEdit::NoWrap);
         text->setMinimumWidth(180);
         QFont font("Courier");

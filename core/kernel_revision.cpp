@@ -11,6 +11,7 @@
 #include "engine/change_records.h"
 #include "engine/console_checker.h"
 #include "engine/file_collection.h"
+#include "engine/lines_changed_in_run.h"
 #include "engine/read_from.h"
 #include "engine/revision_run.h"
 #include "engine/tarnel.h"
@@ -20,9 +21,6 @@
 #include <QFileInfo>
 
 #include <algorithm>
-#include <mutex>
-
-#include "lines_left_as_they_are.h"
 
 namespace {
 
@@ -135,11 +133,9 @@ changes_under_style kernel::changes_under_style_of(revision_task const& task,
     request.writes_nothing = true;
     request.records_ignored = true;
     request.quiet = true;
-    std::mutex lock;
+    lines_changed_in_run count;
     request.would_change = [&](QString const& path, std::string const& text, std::string const& revised) {
-        unsigned long const changed = lines_changed_between(text, revised);
-        std::lock_guard<std::mutex> const hold(lock);
-        changes.changed_files.emplace_back(path, changed);
+        count.take(path, text, revised);
     };
     revision_run run(changes.report, request);
     if (!run.prepare())
@@ -147,26 +143,20 @@ changes_under_style kernel::changes_under_style_of(revision_task const& task,
     changes.started = true;
     changes.stopped = run.revise_all([&] { return stop.load(); }, progress);
     run.finish();
-    // The lines of every file; of a count stopped early, of about as many as were done.
+    // Of a count stopped early, the lines of about as many files as were done.
     int const done = changes.stopped ? static_cast<int>(std::min<unsigned long>(run.revised(), static_cast<unsigned long>(run.found())))
                                      : run.found();
-    for (int file = 0; file < done; ++file) {
-        std::string text;
-        if (read_from(run.files()[file]).to(text))
-            changes.lines += style_tarnel::lines_of(text);
-    }
-    changes.files = done;
-    changes.files_changed = static_cast<int>(changes.changed_files.size());
-    for (auto const& file : changes.changed_files)
-        changes.lines_changed += file.second;
-    std::sort(changes.changed_files.begin(), changes.changed_files.end(), [](auto const& one, auto const& other) {
-        return one.second != other.second ? one.second > other.second : one.first < other.first;
-    });
+    count.add_lines_of(run.files(), done);
+    changes.lines = count.lines;
+    changes.lines_changed = count.lines_changed;
+    changes.files = count.files;
+    changes.files_changed = count.files_changed;
+    changes.changed_files = std::move(count.changed_files);
     return changes;
 }
 
 unsigned long kernel::lines_changed_between(std::string const& text, std::string const& revised) const {
-    return style_tarnel::lines_of(text) - style_tarnel::lines_left_between(text, revised);
+    return ::lines_changed_between(text, revised);
 }
 
 std::string kernel::unified_diff_of(std::string const& label, std::string const& text,

@@ -1,6 +1,7 @@
 #include "engine/console_checker.h"
 
 #include "engine/interruption_by_signal.h"
+#include "engine/lines_changed_in_run.h"
 #include "engine/revision_run.h"
 #include "engine/unified_diff.h"
 #include "engine/write_in.h"
@@ -36,6 +37,14 @@ int console_checker::operator()(revision_request request, check_output output) {
             }
             diffs[path] = unified_diff_of(label).between(text, revised);
         };
+    // The report of a check of whole files ends with how much of the code the style changes; that
+    // of a diff is left as it was, for the scripts that read it.
+    bool const with_figure = output == check_output::report && request.lines.all();
+    lines_changed_in_run count;
+    if (with_figure)
+        request.would_change = [&](QString const& path, std::string const& text, std::string const& revised) {
+            count.take(path, text, revised);
+        };
     std::ostream& report_stream = output == check_output::diff ? err : out;
     if (request.quiet)
         progress_shown = false;
@@ -59,6 +68,11 @@ int console_checker::operator()(revision_request request, check_output output) {
                                             });
     run.finish();
     write_in(report).about_files_left_out_by_ignore_rules(ignored);
+    if (with_figure && !interrupted && run.found() > 0) {
+        count.add_lines_of(run.files(), run.found());
+        write_in(report).about_lines_the_style_changes(count.lines_changed, count.lines, count.files_changed,
+                                                       count.files);
+    }
     if (progress_shown)
         err << '\r' << std::flush;
     for (auto const& diff : diffs)

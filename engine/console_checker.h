@@ -1,7 +1,8 @@
 // The command-line check: a revision run that writes no file and no change record, for CI and
 // commit hooks. Progress goes to standard error as in a revision, when it is a terminal; the files
 // that would change and the counts go to standard output, or, when a diff is asked for, to
-// standard error, so that standard output holds only the diff.
+// standard error, so that standard output holds only the diff. Without a diff the counts end with
+// how many of the files' lines the style changes, in the window's words.
 #ifndef STYLE_TARNEL_ENGINE_CONSOLE_CHECKER_H
 #define STYLE_TARNEL_ENGINE_CONSOLE_CHECKER_H
 

@@ -146,6 +146,12 @@ void write_in::about_file_left_out_of_diff(QString const& path) const {
               "' is left out of the diff: git cannot read its name there (a tab, a line break, or a date at its end).\n";
 }
 
+void write_in::about_lines_the_style_changes(unsigned long changed, unsigned long lines, int files_changed,
+                                             int files) const {
+    report += "\nThis style changes " + std::to_string(changed) + " of " + std::to_string(lines) + " lines in " +
+              std::to_string(files_changed) + " of " + std::to_string(files) + " files";
+}
+
 void write_in::finish_info_of_check(int found, unsigned long checked, unsigned long would_change) const {
     append_counts(report, found, checked, would_change,
                   {"No files was found, nothing was checked.", "checked", "would be changed"});

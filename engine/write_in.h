@@ -46,6 +46,9 @@ public:
     // A file that would change, left out of a diff because git could not read its name there.
     void about_file_left_out_of_diff(QString const& path) const;
     void finish_info_of_check(int found, unsigned long checked, unsigned long would_change) const;
+    // A check's last line: how much of the code its style changes, the window's figure.
+    void about_lines_the_style_changes(unsigned long changed, unsigned long lines, int files_changed,
+                                       int files) const;
 
 private:
     std::string& report;

@@ -2,13 +2,21 @@
 // it shows a reader, and the option groups of the inference its form decides.
 #include "c_family_structures.h"
 
-#include "loop_macros.h"
+#include "project_macros.h"
 
 tarnel_engine::structure_catalogue c_family_structures() {
     return {
         {"array initializer", "type name[] = {SOME, SOME, SOME};",
          "How a braced list of values is spaced inside its braces and before them.",
          {"Cpp11BracedListStyle", "SpaceBeforeCpp11BracedList", "SpacesInSquareBrackets", "SpaceBeforeSquareBrackets"}},
+        {tarnel_engine::attribute_macros().structure,
+         tarnel_engine::macros_form_for(tarnel_engine::attribute_macros(), {"__item_attribute"}),
+         "The macros the project uses as attributes among a declaration's specifiers, one declaration each: their "
+         "names, and how the declarations around them are laid out.",
+         {"AttributeMacros", "PointerAlignment"}, tarnel_engine::macros_expression(tarnel_engine::attribute_macros()),
+         "Its form holds one declaration for each macro the project uses as an attribute; the name after `static` "
+         "is the macro's. Add a declaration to add a macro, take one out to remove it, and keep the tokens around "
+         "the names as they are:"},
         {"binary operators", "name = SOME + SOME * SOME;\nname += SOME << SOME;",
          "The blanks around assignments and arithmetic operators.",
          {"SpaceBeforeAssignmentOperators"}},
@@ -55,10 +63,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"for", "for (name = SOME; name < SOME; ++name) {\n  SOME;\n}",
          "A for loop: the blanks in its head and where its braces go.",
          {"BraceWrapping.AfterControlStatement", "SpaceBeforeParens", "SpacesInParens", "AllowShortBlocksOnASingleLine"}},
-        {tarnel_engine::loop_macros_structure, tarnel_engine::loop_macros_form_for({"for_each_item"}),
+        {tarnel_engine::loop_macros().structure, tarnel_engine::macros_form_for(tarnel_engine::loop_macros(), {"for_each_item"}),
          "The macros the project uses as loops, one loop each: their names, and how their heads and braces are laid out.",
          {"ForEachMacros", "SpaceBeforeParens", "BraceWrapping.AfterControlStatement", "AllowShortBlocksOnASingleLine"},
-         tarnel_engine::loop_macros_expression(),
+         tarnel_engine::macros_expression(tarnel_engine::loop_macros()),
          "Its form is a function whose body holds one loop for each macro the project uses as a loop; "
          "the name that opens each loop is the macro's. Add a loop to add a macro, take one out to remove it, "
          "and keep the tokens around the names as they are:"},
@@ -82,6 +90,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "A short call its author wrote over two lines: kept so where the style has no column limit and keeps the "
          "author's breaks, joined otherwise.",
          {"ColumnLimit", "AlignAfterOpenBracket", "ContinuationIndentWidth", "SpaceBeforeParens"}},
+        {"label in a block", "type name(void) {\n  if (SOME) {\n    SOME;\n    goto label;\n  label:\n    SOME;\n  }\n}",
+         "How far a label inside a nested block is indented: one step out from the block's statements, or at the "
+         "start of the line.",
+         {"IndentGotoLabels", "BraceWrapping.AfterFunction", "BraceWrapping.AfterControlStatement"}},
         {"long assignment", "name = SOME_LONG + SOME_LONG * SOME_LONG - SOME_LONG;",
          "How an expression too long for one line breaks: before or after its operators, and how far the rest is indented.",
          {"BreakBeforeBinaryOperators", "AlignOperands", "ContinuationIndentWidth", "ColumnLimit"}},
@@ -144,6 +156,14 @@ tarnel_engine::structure_catalogue c_family_structures() {
          {"AllowShortIfStatementsOnASingleLine"}},
         {"short loop", "while (SOME)\n  SOME;", "A loop without braces: whether its statement may share its line.",
          {"AllowShortLoopsOnASingleLine"}},
+        {tarnel_engine::statement_macros().structure,
+         tarnel_engine::macros_form_for(tarnel_engine::statement_macros(), {"DECLARE_ITEM"}),
+         "The macros the project uses as whole statements, without a semicolon after them, one each: their names, "
+         "and that the statement after each stays on a line of its own.",
+         {"StatementMacros", "SpaceBeforeParens"}, tarnel_engine::macros_expression(tarnel_engine::statement_macros()),
+         "Its form is a function whose body holds one use of each macro the project uses as a statement, each "
+         "followed by a statement; the name that opens each use is the macro's. Add a use to add a macro, take one "
+         "out to remove it, and keep the tokens around the names as they are:"},
         {"struct", "struct name {\n  type name;\n  type *name_part;\n};", "A structure: where its brace goes.",
          {"BraceWrapping.AfterStruct", "PointerAlignment"}},
         {"switch",

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <iterator>
 #include <map>
 #include <sstream>
 
@@ -109,6 +110,25 @@ std::string why_unreadable(std::string const& configuration) {
     return reason.empty() ? error.message() : reason;
 }
 
+// An option the engine reads only when it formats another language than C or C++ (Java,
+// JavaScript, JSON, Objective-C, TableGen, Verilog): our plugins' code is formatted as C++, so in an
+// exported configuration such an option would say nothing of the style.
+bool of_other_languages_only(std::string const& option) {
+    static char const* const prefixes[] = {"Java", "ObjC", "TableGen", "AlignConsecutiveTableGen", "Verilog"};
+    static char const* const names[] = {"BreakAfterJavaFieldAnnotations", "SortJavaStaticImport", "BreakArrays",
+                                        "SpaceBeforeJsonColon", "InsertTrailingCommas"};
+    for (char const* prefix : prefixes)
+        if (option.rfind(prefix, 0) == 0)
+            return true;
+    return std::find(std::begin(names), std::end(names), option) != std::end(names);
+}
+
+// An option that tells only how includes are sorted and grouped: with the sorting left out, it
+// is left out with it (no form could show it).
+bool serves_include_sorting(std::string const& option) {
+    return option == "IncludeCategories" || option == "IncludeIsMainRegex" || option == "IncludeIsMainSourceRegex";
+}
+
 bool forced(std::string const& option) {
     std::vector<std::string> const& names = names_of_token_safe_settings();
     return std::find(names.begin(), names.end(), option) != names.end();
@@ -125,12 +145,18 @@ std::string engine_configuration_of(std::string const& addon, language_descripti
     }
     std::string decided, forced_ones;
     for (auto const& [key, entry] : entries_of(text))
-        (forced(key) ? forced_ones : decided) += entry;
+        if (key != "Language" && !of_other_languages_only(key) && !serves_include_sorting(key))
+            (forced(key) ? forced_ones : decided) += entry;
+    std::string const options =
+        decided + "# Forced by Style Tarnel whatever the style, so that only white space changes:\n" + forced_ones;
+    // The engine takes a header that names an Objective-C type or keyword for Objective-C, and
+    // refuses to format it under a configuration for C++ alone; a revision formats it as any other.
     return "# The options of a Style Tarnel style: the engine formats code under them as a revision\n"
-           "# in the style does.\n---\n" +
-           decided +
-           "# Forced by Style Tarnel whatever the style, so that only white space changes:\n" + forced_ones +
-           "...\n";
+           "# in the style does.\n---\nLanguage:        Cpp\n" +
+           options +
+           "---\n# The same options for the headers that the engine takes for Objective-C.\n"
+           "Language:        ObjC\n" +
+           options + "...\n";
 }
 
 configured_addon addon_from_configuration(std::string const& configuration, std::string const& style_name,
@@ -154,13 +180,23 @@ configured_addon addon_from_configuration(std::string const& configuration, std:
         std::map<std::string, std::string> const given = options_in(as_given), kept = options_in(safe),
                                                  read_back = options_in(
                                                      inference_cache::shared().style_for(made.addon, language));
-        for (std::string const& option : options_named_in(configuration)) {
+        std::vector<std::string> const named = options_named_in(configuration);
+        for (std::string const& option : named) {
             auto const was = kept.find(option);
-            if (was == kept.end())
+            if (was == kept.end() || of_other_languages_only(option))
                 continue;
-            if (given.at(option) != was->second)
+            if (given.at(option) != was->second || serves_include_sorting(option))
                 made.left_out.push_back(option);
             else if (!same_option(kept, read_back, option))
+                made.not_shown.push_back(option);
+        }
+        // Then those it takes from the style it is based on (or from the engine's defaults): the
+        // editors that read it use them as much as those it names.
+        for (auto const& entry : kept) {
+            std::string const& option = entry.first;
+            if (option != "Language" && std::find(named.begin(), named.end(), option) == named.end() &&
+                !forced(option) && !of_other_languages_only(option) && !serves_include_sorting(option) &&
+                !same_option(kept, read_back, option))
                 made.not_shown.push_back(option);
         }
     } catch (...) {

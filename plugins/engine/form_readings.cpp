@@ -2,7 +2,7 @@
 // addon leaves its reading out, and the search settles it.
 #include "form_readings.h"
 
-#include "loop_macros.h"
+#include "project_macros.h"
 
 #include <algorithm>
 #include <map>
@@ -541,8 +541,9 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     std::string const blank_lines = blank_lines_read_from(named);
     if (!blank_lines.empty())
         readings.passed.push_back(blank_lines);
-    if (std::string const* loops = named.find(loop_macros_structure))
-        readings.passed.push_back(loop_macros_option_for(loop_macros_named_in(*loops)));
+    for (macro_kind const& kind : macro_kinds())
+        if (std::string const* macros = named.find(kind.structure))
+            readings.passed.push_back(macros_option_for(kind, macros_named_in(kind, *macros)));
     return readings;
 }
 

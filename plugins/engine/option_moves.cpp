@@ -5,6 +5,7 @@
 #include "engine_hazards.h"
 
 #include <cctype>
+#include <utility>
 
 namespace tarnel_engine {
 
@@ -174,10 +175,15 @@ bool same_options(clang::format::FormatStyle const& one, clang::format::FormatSt
 
 bool read_configuration(std::string const& text, clang::format::FormatStyle& style) {
     clang::format::FormatStyle read = style;
-    // The key itself, not the value ControlStatementsExceptForEachMacros of another option.
-    std::size_t const key = text.find("ForEachMacros:");
-    if (key != std::string::npos && (key == 0 || !std::isalnum(static_cast<unsigned char>(text[key - 1]))))
-        read.ForEachMacros.clear();
+    // A list the text sets replaces the base style's (the engine would overwrite it element by
+    // element); the key itself, not the value ControlStatementsExceptForEachMacros of another option.
+    for (auto const& [name, list] : {std::make_pair("ForEachMacros:", &read.ForEachMacros),
+                                     std::make_pair("StatementMacros:", &read.StatementMacros),
+                                     std::make_pair("AttributeMacros:", &read.AttributeMacros)}) {
+        std::size_t const key = text.find(name);
+        if (key != std::string::npos && (key == 0 || !std::isalnum(static_cast<unsigned char>(text[key - 1]))))
+            list->clear();
+    }
     if (clang::format::parseConfiguration(text, &read))
         return false;
     style = read;

@@ -11,9 +11,9 @@
 #include "engine_limits.h"
 #include "inference_cache.h"
 #include "kept_regions.h"
-#include "loop_macros.h"
 #include "option_moves.h"
 #include "placeholder_instances.h"
+#include "project_macros.h"
 #include "text_encoding.h"
 #include "token_safe_settings.h"
 #include "token_sequence.h"
@@ -170,6 +170,19 @@ std::map<std::string, std::string> forms_formatted_by_inferred_options(std::stri
     return formatted;
 }
 
+namespace {
+
+// The macros of a kind the style names.
+std::vector<std::string> const& macros_named_by(clang::format::FormatStyle const& style, macro_kind const& kind) {
+    if (kind.option == "StatementMacros")
+        return style.StatementMacros;
+    if (kind.option == "AttributeMacros")
+        return style.AttributeMacros;
+    return style.ForEachMacros;
+}
+
+}  // namespace
+
 std::string addon_written_in(std::string const& options, std::string const& style_name, language_description const& language) {
     clang::format::FormatStyle style = token_safe_predefined_style("LLVM");
     bool const predefined = clang::format::getPredefinedStyle(options, clang::format::FormatStyle::LK_Cpp, &style);
@@ -180,11 +193,11 @@ std::string addon_written_in(std::string const& options, std::string const& styl
         return std::string();
     std::map<std::string, std::string> forms;
     for (structure const& each : language.structures) {
-        // The loops of the macros the style names; no form when it names none a form can hold.
-        bool const loops = each.name == loop_macros_structure;
-        std::string const code =
-            with_instances(form_as_code(loops ? loop_macros_form_for(style.ForEachMacros) : each.tokens));
-        if (loops && loop_macros_named_in(code).empty())
+        // The uses of the macros the style names; no form when it names none a form can hold.
+        macro_kind const* const macros = macro_kind_of(each.name);
+        std::string const code = with_instances(
+            form_as_code(macros ? macros_form_for(*macros, macros_named_by(style, *macros)) : each.tokens));
+        if (macros && macros_named_in(*macros, code).empty())
             continue;
         forms[each.name] = form_as_code(without_instances(format_with(style).the_code(code + "\n").text));
     }

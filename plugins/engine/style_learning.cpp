@@ -8,7 +8,7 @@
 #include "form_readings.h"
 #include "engine_limits.h"
 #include "form_conflicts.h"
-#include "loop_macros.h"
+#include "project_macros.h"
 #include "option_inference.h"
 #include "revision.h"
 #include "white_space.h"
@@ -215,8 +215,8 @@ std::string namespace_indentation_read_from(std::vector<std::string> const& piec
     return std::string();
 }
 
-// `sources` are the whole sources the sample was taken from: the macros used as loops are found
-// in all of them, since a sample may hold few loops.
+// `sources` are the whole sources the sample was taken from: the macros used as loops, statements
+// and attributes are found in all of them, since a sample may hold few uses.
 form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<std::string> const& pieces,
                                std::vector<std::string> const& sources) {
     form_readings readings = readings_of(forms);
@@ -240,9 +240,11 @@ form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<
         if (!reading.empty())
             readings.layout.push_back(reading);
     readings.braces = braces_read_from(pieces);
-    std::vector<std::string> const loops = loop_macros_used_in(sources);
-    if (!loops.empty())
-        readings.passed.push_back(loop_macros_option_for(loops));
+    for (macro_kind const& kind : macro_kinds()) {
+        std::vector<std::string> const macros = kind.used_in(sources);
+        if (!macros.empty())
+            readings.passed.push_back(macros_option_for(kind, macros));
+    }
     return readings;
 }
 

@@ -10,6 +10,7 @@
 #include "tests/harness/built_files.h"
 #include "tests/harness/temporary_bundle.h"
 #include "tests/harness/test_main.h"
+#include "helpers/window_fixture.h"
 #include "helpers/window_test_helpers.h"
 
 #include <QAccessible>
@@ -30,13 +31,6 @@
 
 namespace {
 
-void write(QString const& path, QByteArray const& content) {
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(content);
-}
-
 // Git's words in `directory`, under a name of its own for the commits; its exit status.
 int git(QString const& directory, QStringList const& arguments) {
     QProcess process;
@@ -54,25 +48,9 @@ void install_the_INI_language() {
 
 }  // namespace
 
-class test_window_changed_lines : public QObject {
+class test_window_changed_lines : public QObject, window_fixture {
     Q_OBJECT
 
-    std::unique_ptr<GUI::main_window> window;
-    std::unique_ptr<QTemporaryDir> work;
-
-    void open_window() {
-        window = std::make_unique<GUI::main_window>();
-        window->resize(1100, 700);
-        window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    }
-    void choose(QString const& language, QString const& style) {
-        auto* tabs = window->findChild<GUI::task_tabs*>();
-        emit tabs->set_this_programming_language(language);
-        emit tabs->set_this_formatting_style(style);
-    }
-    QString path(QString const& relative) const { return work->path() + "/" + relative; }
-    void add(QString const& relative_path) { window->findChild<GUI::list_of_paths*>()->show(QStringList{path(relative_path)}); }
     QAction* entry() const { return window->findChild<QAction*>("revise_menu_changed_lines"); }
     GUI::show_revise* starter() const { return window->findChild<GUI::show_revise*>(); }
 
@@ -87,16 +65,12 @@ private slots:
 };
 
 void test_window_changed_lines::init() {
-    start_from_an_empty_bundle();
+    begin_case();
     install_test_languages(path_to().plugins_directory(), path_to().addons_directory());
     install_the_INI_language();
-    work = std::make_unique<QTemporaryDir>();
 }
 
-void test_window_changed_lines::cleanup() {
-    window.reset();
-    work.reset();
-}
+void test_window_changed_lines::cleanup() { end_case(); }
 
 void test_window_changed_lines::the_entry_follows_the_paths_data() {
     QTest::addColumn<QStringList>("steps");
@@ -113,7 +87,7 @@ void test_window_changed_lines::the_entry_follows_the_paths_data() {
 void test_window_changed_lines::the_entry_follows_the_paths() {
     QFETCH(QStringList, steps);
     QFETCH(bool, enabled);
-    write(path("proj/c.ini"), "a=1\n");
+    write_file(path("proj/c.ini"), "a=1\n");
     open_window();
     choose("INI", "Spaced");
     QMenu* menu = window->menuBar()->findChild<QMenu*>("revise_menu");
@@ -125,7 +99,7 @@ void test_window_changed_lines::the_entry_follows_the_paths() {
     QVERIFY(entry()->statusTip().contains("git"));
     for (QString const& step : steps) {
         if (step == "add") {
-            add("proj");
+            add({"proj"});
         } else if (step == "remove") {
             window->findChild<QListWidget*>("paths")->selectAll();
             QTest::mouseClick(window->findChild<QPushButton*>("remove_paths"), Qt::LeftButton);
@@ -183,16 +157,16 @@ void test_window_changed_lines::revises_only_the_changed_lines() {
     QFETCH(bool, refused);
     QString const revised = path("proj/" + file);
     if (!committed.isEmpty()) {
-        write(revised, committed);
+        write_file(revised, committed);
         QCOMPARE(git(path("proj"), {"init", "-q"}), 0);
         QCOMPARE(git(path("proj"), {"add", "-A"}), 0);
         QCOMPARE(git(path("proj"), {"commit", "-qm", "base"}), 0);
     }
-    write(revised, before);
+    write_file(revised, before);
     QDateTime const written = QFileInfo(revised).lastModified();
     open_window();
     choose(language, style);
-    add("proj");
+    add({"proj"});
     QVERIFY(entry()->isEnabled());
 
     QSignalSpy finished(starter(), &GUI::show_revise::revision_is_finished);

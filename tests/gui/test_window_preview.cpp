@@ -11,6 +11,7 @@
 #include "tests/harness/built_files.h"
 #include "tests/harness/temporary_bundle.h"
 #include "tests/harness/test_main.h"
+#include "helpers/window_fixture.h"
 #include "helpers/window_test_helpers.h"
 
 #include <QAction>
@@ -29,20 +30,13 @@
 
 namespace {
 
-void write(QString const& path, QByteArray const& content) {
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(content);
-}
-
 // The test language in its build that reads its addon: under a style whose "block" form is
 // "begin  SOME  end" (style Wide) it makes every single blank two; under any other (style Plain,
 // "begin SOME end") it makes double blanks single, so a text of single blanks stays as it is.
 void install_a_language_whose_styles_differ() {
     QFile::copy(built::learning_language_plugin(), path_to().plugins_directory() + "/libtest-language-plugin.so");
-    write(path_to().addons_directory() + "/Plain[Test].style", addon_text("Plain", "Test"));
-    write(path_to().addons_directory() + "/Wide[Test].style", addon_text("Wide", "Test", "begin  SOME  end"));
+    write_file(path_to().addons_directory() + "/Plain[Test].style", addon_text("Plain", "Test"));
+    write_file(path_to().addons_directory() + "/Wide[Test].style", addon_text("Wide", "Test", "begin  SOME  end"));
 }
 
 QString const stays = "The style leaves this file as it is.";
@@ -50,25 +44,11 @@ QString const one_line_changes = "The style changes 1 of 2 lines of this file (m
 
 }  // namespace
 
-class test_window_preview : public QObject {
+class test_window_preview : public QObject, window_fixture {
     Q_OBJECT
 
-    std::unique_ptr<GUI::main_window> window;
-    std::unique_ptr<QTemporaryDir> work;
-
-    void open_window() {
-        window = std::make_unique<GUI::main_window>();
-        window->resize(1300, 760);
-        window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    }
-    void choose(QString const& style) {
-        auto* tabs = window->findChild<GUI::task_tabs*>();
-        emit tabs->set_this_programming_language("Test");
-        emit tabs->set_this_formatting_style(style);
-    }
-    QString path(QString const& relative) const { return work->path() + "/" + relative; }
-    void add(QString const& relative_path) { window->findChild<GUI::list_of_paths*>()->show(QStringList{path(relative_path)}); }
+    void open_window() { window_fixture::open_window(QSize(1300, 760)); }
+    void choose(QString const& style) { window_fixture::choose("Test", style); }
     GUI::preview_of_code* preview() const { return window->findChild<GUI::preview_of_code*>(); }
     QString shown_file() const { return preview()->chooser()->currentData().toString(); }
     QString shown_text() const { return preview()->view()->toPlainText(); }
@@ -100,22 +80,20 @@ private slots:
     void marks_the_changed_lines_and_goes_from_one_to_the_next();
     void counts_what_the_style_changes_in_the_task();
     void drops_a_count_a_newer_change_overtook();
+    void counts_as_a_check_of_the_same_task_data();
+    void counts_as_a_check_of_the_same_task();
     void calls_a_plugin_from_one_thread_at_a_time();
 };
 
 void test_window_preview::init() {
-    start_from_an_empty_bundle();
+    begin_case();
     install_a_language_whose_styles_differ();
-    work = std::make_unique<QTemporaryDir>();
-    write(path("tree/a.tst"), "one two\nthree\n");
-    write(path("tree/c.test"), "four five\nsix\n");
-    write(path("other/b.tst"), "x y\nz\n");
+    write_file(path("tree/a.tst"), "one two\nthree\n");
+    write_file(path("tree/c.test"), "four five\nsix\n");
+    write_file(path("other/b.tst"), "x y\nz\n");
 }
 
-void test_window_preview::cleanup() {
-    window.reset();
-    work.reset();
-}
+void test_window_preview::cleanup() { end_case(); }
 
 void test_window_preview::follows_what_takes_effect_data() {
     QTest::addColumn<QString>("step");
@@ -144,7 +122,7 @@ void test_window_preview::follows_what_takes_effect() {
     QFETCH(QString, said);
     open_window();
     choose("Plain");
-    add("tree");
+    add({"tree"});
     QTRY_COMPARE(shown_file(), path("tree/a.tst"));
     QTRY_COMPARE(status(), stays);
     QCOMPARE(shown_text(), QString("one two\nthree\n"));
@@ -158,7 +136,7 @@ void test_window_preview::follows_what_takes_effect() {
         action("tab_menu_new")->trigger();
         tab_bar()->setCurrentIndex(1);
         choose("Wide");
-        add("other/b.tst");
+        add({"other/b.tst"});
         if (step == "tab and back") {
             QTRY_COMPARE(shown_text(), QString("x  y\nz\n"));
             tab_bar()->setCurrentIndex(0);
@@ -175,8 +153,8 @@ void test_window_preview::follows_what_takes_effect() {
         QTest::keyClicks(field, "test");
     } else if (step == "path") {
         window->findChild<GUI::list_of_paths*>()->delete_all();
-        add("other/b.tst");
-        add("tree");
+        add({"other/b.tst"});
+        add({"tree"});
     } else if (step == "remove") {
         QListWidget* paths = window->findChild<QListWidget*>("paths");
         paths->setCurrentRow(0);
@@ -192,7 +170,7 @@ void test_window_preview::follows_what_takes_effect() {
 void test_window_preview::drops_a_result_a_newer_change_overtook() {
     open_window();
     choose("Plain");
-    add("tree");
+    add({"tree"});
     QTRY_COMPARE(status(), stays);
     GUI::preview_outcome late;
     late.how = GUI::preview_outcome::end::revised;
@@ -214,10 +192,10 @@ void test_window_preview::drops_a_result_a_newer_change_overtook() {
 
 // Faults: a refused file shown as one the style leaves alone, or nothing said at all.
 void test_window_preview::says_when_the_plugin_refuses_the_file() {
-    write(path("broken/d.tst"), "a  b\nSYNTAX_ERROR\n");
+    write_file(path("broken/d.tst"), "a  b\nSYNTAX_ERROR\n");
     open_window();
     choose("Plain");
-    add("broken");
+    add({"broken"});
     QTRY_COMPARE(status(),
                  QString("The language plugin cannot revise this file: a revision would leave it as it is."));
     QCOMPARE(shown_text(), QString("a  b\nSYNTAX_ERROR\n"));
@@ -228,10 +206,10 @@ void test_window_preview::says_when_the_plugin_refuses_the_file() {
 // Faults: the marks on other lines than those that change, the buttons skipping a change or not
 // coming round; a control of the pane without a name for assistive technology.
 void test_window_preview::marks_the_changed_lines_and_goes_from_one_to_the_next() {
-    write(path("many/e.tst"), "a b\nc\nd\ne f\ng\nh i\n");
+    write_file(path("many/e.tst"), "a b\nc\nd\ne f\ng\nh i\n");
     open_window();
     choose("Wide");
-    add("many");
+    add({"many"});
     QTRY_COMPARE(status(), QString("The style changes 3 of 6 lines of this file (marked)."));
     QList<int> marked;
     for (auto const& mark : preview()->view()->extraSelections())
@@ -260,10 +238,10 @@ void test_window_preview::marks_the_changed_lines_and_goes_from_one_to_the_next(
 // Faults: the figure missing, counting other lines or files than the style changes, not
 // following another style; the most changed files out of order, or a click on one not previewing it.
 void test_window_preview::counts_what_the_style_changes_in_the_task() {
-    write(path("tree/sub/d.tst"), "p q r\ns t\nu\n");
+    write_file(path("tree/sub/d.tst"), "p q r\ns t\nu\n");
     open_window();
     choose("Plain");
-    add("tree");
+    add({"tree"});
     QTRY_COMPARE(preview()->figure()->text(), QString("This style changes 0 of 7 lines in 0 of 3 files"));
     QVERIFY(preview()->most_changed_files()->isHidden());
     emit window->findChild<GUI::task_tabs*>()->set_this_formatting_style("Wide");
@@ -280,12 +258,43 @@ void test_window_preview::counts_what_the_style_changes_in_the_task() {
     QVERIFY(!most->accessibleName().isEmpty());
 }
 
+void test_window_preview::counts_as_a_check_of_the_same_task_data() {
+    QTest::addColumn<QString>("style");
+    QTest::addColumn<QString>("tree");
+    QTest::addColumn<QString>("figure");
+    QTest::newRow("nothing changes") << "Plain" << "tree" << "This style changes 0 of 4 lines in 0 of 2 files";
+    QTest::newRow("every file changes") << "Wide" << "tree" << "This style changes 2 of 4 lines in 2 of 2 files";
+    QTest::newRow("some lines of some files, in subdirectories")
+        << "Plain" << "mixed" << "This style changes 3 of 7 lines in 2 of 3 files";
+    QTest::newRow("a file the plugin refuses") << "Plain" << "broken" << "This style changes 1 of 3 lines in 1 of 2 files";
+}
+
+// Faults: the window and the command line's check counting a task differently (lines of other
+// files, of files not revised, changed lines counted otherwise, the refused file left out).
+void test_window_preview::counts_as_a_check_of_the_same_task() {
+    QFETCH(QString, style);
+    QFETCH(QString, tree);
+    QFETCH(QString, figure);
+    write_file(path("mixed/a.tst"), "one  two\nthree\n");
+    write_file(path("mixed/deep/er/c.test"), "four  five\nsix  seven\neight\n");
+    write_file(path("mixed/deep/b.tst"), "nine\nten\n");
+    write_file(path("broken/d.tst"), "a b\nSYNTAX_ERROR\n");
+    write_file(path("broken/e.tst"), "c  d\n");
+    open_window();
+    choose(style);
+    add({tree});
+    QTRY_COMPARE_WITH_TIMEOUT(preview()->figure()->text(), figure, 20000);
+    QStringList const check = output_of_the_command_line({"--lang=Test", "--style=" + style, "--path=" + path(tree),
+                                                          "--check"}).trimmed().split('\n');
+    QCOMPARE(check.last(), preview()->figure()->text());
+}
+
 // Fault: a count that a newer change overtook (it was stopped, or it was slower) showing over the
 // newer one's.
 void test_window_preview::drops_a_count_a_newer_change_overtook() {
     open_window();
     choose("Plain");
-    add("tree");
+    add({"tree"});
     QString const newest = "This style changes 0 of 4 lines in 0 of 2 files";
     QTRY_COMPARE(preview()->figure()->text(), newest);
     changes_under_style late;
@@ -310,7 +319,7 @@ void test_window_preview::calls_a_plugin_from_one_thread_at_a_time() {
     qputenv("TEST_PLUGIN_DELAY_MS", "100");
     open_window();
     choose("Plain");
-    add("tree");
+    add({"tree"});
     QTRY_COMPARE_WITH_TIMEOUT(preview()->figure()->text(), QString("This style changes 0 of 4 lines in 0 of 2 files"), 20000);
     QTRY_COMPARE_WITH_TIMEOUT(status(), stays, 20000);
     window.reset();

@@ -14,6 +14,7 @@
 #include "tests/harness/built_files.h"
 #include "tests/harness/temporary_bundle.h"
 #include "tests/harness/test_main.h"
+#include "helpers/window_fixture.h"
 #include "helpers/window_test_helpers.h"
 
 #include <QAccessible>
@@ -43,19 +44,12 @@
 
 namespace {
 
-void write(QString const& path, QByteArray const& content) {
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile file(path);
-    file.open(QIODevice::WriteOnly);
-    file.write(content);
-}
-
 // What every revision test revises: a file to change (double spaces), one already right, and one
 // that the extensions do not choose.
 void write_tree_in(QString const& directory) {
-    write(directory + "/a.tst", "begin  SOME  end\n");
-    write(directory + "/b.tst", "begin SOME end\n");
-    write(directory + "/notes.txt", "left  alone\n");
+    write_file(directory + "/a.tst", "begin  SOME  end\n");
+    write_file(directory + "/b.tst", "begin SOME end\n");
+    write_file(directory + "/notes.txt", "left  alone\n");
 }
 
 QString plain_addon() { return path_to().addons_directory() + "/Plain[Test].style"; }
@@ -68,32 +62,11 @@ bool plain_addon_has_the_block_form(QByteArray const& block_form) {
 
 }  // namespace
 
-class test_window_tasks : public QObject {
+class test_window_tasks : public QObject, window_fixture {
     Q_OBJECT
 
-    std::unique_ptr<GUI::main_window> window;
-    std::unique_ptr<QTemporaryDir> work;
-
-    void open_window() {
-        window = std::make_unique<GUI::main_window>();
-        window->resize(1100, 700);
-        window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
-    }
     // The test language and its style "Plain", as a user picks them.
-    void choose_test_language() {
-        auto* tabs = window->findChild<GUI::task_tabs*>();
-        emit tabs->set_this_programming_language("Test");
-        emit tabs->set_this_formatting_style("Plain");
-    }
-    // Paths as the dialogs and drops hand them over.
-    void add(QStringList const& relative_paths) {
-        QStringList paths;
-        for (QString const& path : relative_paths)
-            paths << work->path() + "/" + path;
-        window->findChild<GUI::list_of_paths*>()->show(paths);
-    }
-    QString path(QString const& relative) const { return work->path() + "/" + relative; }
+    void choose_test_language() { choose("Test", "Plain"); }
     QStringList listed() const {
         return texts_of(window->findChild<QListWidget*>("paths")).replaceInStrings(work->path() + "/", "");
     }
@@ -114,14 +87,7 @@ class test_window_tasks : public QObject {
     }
     // What the command-line program reports for the same request on a tree of its own.
     QString report_of_the_command_line_for(QString const& tree) {
-        // Beside this test's own copy, which the bundle names as the program.
-        QString const executable = QCoreApplication::applicationDirPath() + "/command line";
-        if (!QFileInfo::exists(executable))
-            QFile::copy(built::executable(), executable);
-        QProcess program;
-        program.start(executable, {"--lang=Test", "--style=Plain", "--path=" + tree});
-        program.waitForFinished(60000);
-        QStringList lines = QString::fromUtf8(program.readAllStandardOutput()).split('\n');
+        QStringList lines = output_of_the_command_line({"--lang=Test", "--style=Plain", "--path=" + tree}).split('\n');
         lines.removeFirst();  // "It's done." with the blanks over the progress line
         return lines.join('\n').trimmed();
     }
@@ -163,17 +129,13 @@ private slots:
 };
 
 void test_window_tasks::init() {
-    start_from_an_empty_bundle();
+    begin_case();
     install_test_languages(path_to().plugins_directory(), path_to().addons_directory());
-    work = std::make_unique<QTemporaryDir>();
     qunsetenv("TEST_PLUGIN_DELAY_MS");
     qunsetenv("TEST_PLUGIN_LOG");
 }
 
-void test_window_tasks::cleanup() {
-    window.reset();
-    work.reset();
-}
+void test_window_tasks::cleanup() { end_case(); }
 
 void test_window_tasks::takes_each_existing_path_once_data() {
     QTest::addColumn<QStringList>("added");
@@ -212,7 +174,7 @@ void test_window_tasks::takes_only_paths_it_revises_by_dropping() {
     QFETCH(QString, dropped);
     QFETCH(bool, accepted);
     write_tree_in(path("tree"));
-    write(path("x.tar.tst"), "begin SOME end\n");
+    write_file(path("x.tar.tst"), "begin SOME end\n");
     open_window();
     choose_test_language();
     QCOMPARE(dropped_on(window->findChild<QListWidget*>("paths")->viewport(), path(dropped)), accepted);
@@ -242,9 +204,9 @@ void test_window_tasks::adds_what_is_chosen_in_its_dialogs() {
     QFETCH(QStringList, listed);
     QDir().mkpath(path("in/one"));
     QDir().mkpath(path("in/two"));
-    write(path("in/x.tst"), "begin SOME end\n");
-    write(path("in/y.tst"), "begin SOME end\n");
-    write(path("in/z.txt"), "left  alone\n");
+    write_file(path("in/x.tst"), "begin SOME end\n");
+    write_file(path("in/y.tst"), "begin SOME end\n");
+    write_file(path("in/z.txt"), "left  alone\n");
     QSettings settings;
     settings.setValue(settings_key::parent_directory_of_last_chosen_directory, path("in"));
     settings.setValue(settings_key::parent_directory_of_last_chosen_file, path("in"));
@@ -309,8 +271,8 @@ void test_window_tasks::files_leave_when_their_extension_does() {
     QFETCH(QString, extensions);
     QFETCH(QStringList, kept);
     write_tree_in(path("tree"));
-    write(path("c.test"), "begin SOME end\n");
-    write(path("d.foo"), "begin SOME end\n");
+    write_file(path("c.test"), "begin SOME end\n");
+    write_file(path("d.foo"), "begin SOME end\n");
     open_window();
     choose_test_language();
     QCOMPARE(this->extensions()->text(), QString("tst test"));
@@ -391,7 +353,7 @@ void test_window_tasks::stops_after_the_file_at_hand() {
     // Of a length no form of the test styles has, so that the plugin's log tells the files apart.
     QByteArray const text = "begin  SOME end, a file of the tree under revision\n";
     for (QString const name : {"1.tst", "2.tst", "3.tst"})
-        write(path("tree/" + name), text);
+        write_file(path("tree/" + name), text);
     qputenv("TEST_PLUGIN_DELAY_MS", "400");
     // The plugin notes the length of each text it is given: the Stop comes once the first file is
     // in its hands (the form editor's own check of a form is logged there too).
@@ -492,7 +454,7 @@ void test_window_tasks::saves_a_matching_form_and_reverts_another() {
     QTRY_COMPARE(editor()->toPlainText(), QString("begin SOME end"));
     QByteArray const without_the_section = "NAME=Plain\nLANGUAGE=Test\n\n";
     if (section_gone)
-        write(plain_addon(), without_the_section);
+        write_file(plain_addon(), without_the_section);
     editor()->setFocus();
     QTextCursor cursor = editor()->textCursor();
     cursor.setPosition(at);
@@ -766,9 +728,9 @@ void test_window_tasks::learns_a_style_from_the_task() {
         for (QString const& file : examples.entryList(QDir::Files, QDir::Name)) {
             QFile source(examples.filePath(file));
             QVERIFY(source.open(QIODevice::ReadOnly));
-            write(path(QString("proj/%1/%2").arg(copy).arg(file)), source.readAll());
+            write_file(path(QString("proj/%1/%2").arg(copy).arg(file)), source.readAll());
         }
-    write(path("proj/notes.txt"), "no code\n");
+    write_file(path("proj/notes.txt"), "no code\n");
     open_window();
     auto* tabs = window->findChild<GUI::task_tabs*>();
     emit tabs->set_this_programming_language("C++");

@@ -2,8 +2,10 @@
 # The built window on a real X server (Xvfb), driven by xdotool as a user drives it: select a
 # language and a style, import an addon through the dialog, rename it in place and delete it,
 # checking the bundle's styles directory after each step; then add the examples directory, revise
-# it, read the report, edit one form of a copied style and revise again, checking the files and the
-# report against the command line's on a copy of the same tree; open a second task tab and rename
+# it, read the report, edit one form of a copied style, seeing the preview of a file of the examples
+# follow the edit (its text copied from the preview with the keyboard and compared with the command
+# line's revision of the file), and revise again, checking the files and the report against the
+# command line's on a copy of the same tree; open a second task tab and rename
 # the first in place; learn a style from the examples. Runs on a copy of the bundle with
 # its own settings, and stops its Xvfb whatever happens.
 #   window_on_x_server.sh <build directory> <clipboard_text helper> <examples directory>
@@ -144,6 +146,30 @@ structures_x=400; editor_x=588; editor_y=80  # the preview of the code takes the
 # The first click after a dialog only brings the window back; the selected style takes it.
 xdotool mousemove $style_x $row_y click 1; pause
 xdotool mousemove $structures_x $row_y click 1; pause   # "array initializer"
+# The preview shows examples/cpp/main.cpp, chosen by typing its name in the file chooser's list.
+preview_x=787; chooser_y=188
+xdotool mousemove $preview_x $chooser_y click 1; pause
+xdotool type --delay 20 "examples/cpp/main"; xdotool key Return; pause
+# The previewed file's text, reached from the chooser by Tab, selected with the cursor keys and
+# copied with Ctrl+Insert: Ctrl+A and Ctrl+C are the menu's, which act on the form editor.
+preview_text() {
+  xdotool mousemove $preview_x $chooser_y click 1; pause 0.3; xdotool key Escape Tab; pause 0.3
+  xdotool key ctrl+Home ctrl+shift+End ctrl+Insert; pause 0.3
+  "$clipboard_text" 2>/dev/null || true
+}
+preview_shows() {  # waits until the preview holds the command line's revision of main.cpp
+  local expected shown=""
+  expected=$("$app" --lang=C++ --style=Copied --path=- --assume-filename=main.cpp \
+               <"$work/home/examples/cpp/main.cpp" 2>/dev/null)
+  for _ in $(seq $((20 * ${STYLE_TARNEL_SLOWER:-1}))); do
+    shown=$(preview_text)
+    [ "$shown" = "$expected" ] && return 0
+    pause 0.5
+  done
+  fail "$1: the preview shows '$shown', the command line revises main.cpp as '$expected'"
+}
+preview_shows "before the form is edited"
+before_edit=$(preview_text)
 xdotool mousemove $editor_x $editor_y click 1; pause
 shot form-before
 xdotool key ctrl+Home; for _ in $(seq 15); do xdotool key Right; done
@@ -151,6 +177,21 @@ xdotool key Delete End Left Left BackSpace; pause
 shot form-edited
 grep -qxF 'type name[] = {SOME, SOME, SOME};' "$styles/Copied[C++].style" ||
   fail "the edited form is not in the copied style: $(grep -F 'type name[]' "$styles/Copied[C++].style")"
+# In this style "initializer list" decides the braces of main.cpp's lists: its two lines edited
+# the same way, chosen in the structures' list by typing its name.
+xdotool mousemove $structures_x $row_y click 1; pause
+xdotool type --delay 20 "initializer l"; pause
+xdotool mousemove $editor_x $editor_y click 1; pause
+xdotool key ctrl+Home; for _ in $(seq 10); do xdotool key Right; done
+xdotool key Delete End Left Left BackSpace Down Home; pause 0.3
+for _ in $(seq 12); do xdotool key Right; done
+xdotool key Delete End Left Left BackSpace; pause
+shot initializer-list-edited
+grep -qxF 'name = type{SOME};' "$styles/Copied[C++].style" ||
+  fail "the edited form is not in the copied style: $(grep -F 'type{' "$styles/Copied[C++].style")"
+preview_shows "after the form is edited"
+shot preview-edited
+[ "$(preview_text)" != "$before_edit" ] || fail "the form's edit did not change the preview of main.cpp"
 revise_and_compare Copied
 
 # A second task tab, each tab entered with a click (which saves the task left), then the first

@@ -141,6 +141,15 @@ private slots:
         QTest::newRow("tabs of 4 for indentation, indent width 2")
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 2, TabWidth: 4, UseTab: ForIndentation}"
             << QStringList{"IndentWidth: 2", "TabWidth: 4", "UseTab: ForIndentation"};
+        // Labels in a function's own block look alike under either value: one in a nested block tells.
+        QTest::newRow("labels in nested blocks at the start of the line")
+            << "C" << "{BasedOnStyle: LLVM, IndentGotoLabels: false}" << QStringList{"IndentGotoLabels: false"};
+        QTest::newRow("macros used as statements, the base's list replaced")
+            << "C++" << "{BasedOnStyle: LLVM, StatementMacros: [DECLARE_ITEMS, Q_UNUSED]}"
+            << QStringList{"StatementMacros:\n - DECLARE_ITEMS\n - Q_UNUSED", "! - QT_REQUIRE_VERSION"};
+        QTest::newRow("macros used as attributes")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, UseTab: Always, AttributeMacros: [__rcu, __init, notrace]}"
+            << QStringList{"AttributeMacros:\n - __rcu\n - __init\n - notrace", "! - __capability"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -171,7 +180,8 @@ private slots:
         std::string const shipped = shipped_addon(addon_file);
         std::string older = shipped;
         for (char const* structure :
-             {"kept line break", "long call assignment", "long comment", "long return type", "long string", "nested blocks"}) {
+             {"kept line break", "long call assignment", "long comment", "long return type", "long string", "nested blocks",
+              "statement macro", "attribute macro", "label in a block"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
@@ -215,7 +225,9 @@ private slots:
             {{"function definition", "type name(type argument, type argument) {", "type name(type argument, type argument)\n{"},
              {"goto", "type name(void) {", "type name(void)\n{"},
              {"blank lines", "type name(void) {", "type name(void)\n{"},
-             {"for each macro", "type name(void) {", "type name(void)\n{"}},
+             {"for each macro", "type name(void) {", "type name(void)\n{"},
+             {"statement macro", "type name(void) {", "type name(void)\n{"},
+             {"label in a block", "type name(void) {", "type name(void)\n{"}},
             {{"cast", "(type *)", "(type*)"},
              {"function declaration", "type *argument", "type* argument"},
              {"pointer", "type *name", "type* name"},
@@ -277,6 +289,16 @@ private slots:
         QTest::newRow("a loop macro taken out")
             << "LLVM[C++].style" << "for each macro" << "  Q_FOREACH (name, SOME) {\n    SOME;\n  }\n" << ""
             << "{ForEachMacros: [foreach, BOOST_FOREACH]}";
+        QTest::newRow("a statement macro added") << "LLVM[C++].style" << "statement macro" << "  QT_REQUIRE_VERSION"
+                                                 << "  DECLARE_ITEMS(name)\n  SOME;\n  QT_REQUIRE_VERSION"
+                                                 << "{StatementMacros: [Q_UNUSED, DECLARE_ITEMS, QT_REQUIRE_VERSION]}";
+        QTest::newRow("a statement macro taken out")
+            << "LLVM[C++].style" << "statement macro" << "  Q_UNUSED(name)\n  SOME;\n" << ""
+            << "{StatementMacros: [QT_REQUIRE_VERSION]}";
+        QTest::newRow("an attribute macro added")
+            << "LLVM[C++].style" << "attribute macro" << "static __capability"
+            << "static __item_init type *name;\nstatic __capability"
+            << "{AttributeMacros: [__item_init, __capability]}";
     }
     void edited_forms_give_the_value_back() {
         QFETCH(QString, addon_file);

@@ -1,6 +1,6 @@
 // Learning a style through the plugins' learning interface: a small project written in a known
 // option set comes back as a style that leaves nearly all its lines as they are, with every form a
-// fixed point, the macros it uses as loops named and the figures the plugin reports true; no sources, text of another language and a
+// fixed point, the macros it uses as loops, statements and attributes named and the figures the plugin reports true; no sources, text of another language and a
 // stop give no style; the sample's pieces, and the sources counted, are code the engine can format
 // in bounded time.
 #include "helpers/our_plugins.h"
@@ -13,7 +13,7 @@
 #include "core/style_addon.h"
 #include "form_conflicts.h"
 #include "form_readings.h"
-#include "loop_macros.h"
+#include "project_macros.h"
 #include "revision.h"
 #include "style_learning.h"
 #include "tests/harness/built_files.h"
@@ -58,27 +58,33 @@ private slots:
     void learns_back_a_known_style_data() {
         QTest::addColumn<QString>("language");
         QTest::addColumn<QString>("options");
-        // A macro the project uses as a loop, in a few generated files of its own; empty for none.
-        QTest::addColumn<QString>("loop_macro");
+        // The macros the project uses as a loop, as a statement and as an attribute, in a few generated
+        // files of its own; empty for none.
+        QTest::addColumn<QStringList>("macros");
         QTest::newRow("C++ LLVM, indent 3, Allman braces, * on the type, limit 100")
             << "C++" << "{BasedOnStyle: LLVM, IndentWidth: 3, BreakBeforeBraces: Allman, PointerAlignment: Left, "
-                        "DerivePointerAlignment: false, ColumnLimit: 100}" << "";
+                        "DerivePointerAlignment: false, ColumnLimit: 100}" << QStringList();
         QTest::newRow("C++ Google, tabs of 4, blank before every (, access specifiers at the class")
             << "C++" << "{BasedOnStyle: Google, IndentWidth: 4, TabWidth: 4, UseTab: ForIndentation, "
-                        "SpaceBeforeParens: Always, AccessModifierOffset: -4}" << "";
-        QTest::newRow("C GNU") << "C" << "{BasedOnStyle: GNU}" << "";
+                        "SpaceBeforeParens: Always, AccessModifierOffset: -4}" << QStringList();
+        QTest::newRow("C GNU") << "C" << "{BasedOnStyle: GNU}" << QStringList();
         QTest::newRow("C indent 8 with tabs, Linux braces, limit 80")
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, BreakBeforeBraces: Linux, "
-                      "AllowShortIfStatementsOnASingleLine: Never, PointerAlignment: Right, ColumnLimit: 80}" << "";
+                      "AllowShortIfStatementsOnASingleLine: Never, PointerAlignment: Right, ColumnLimit: 80}" << QStringList();
         QTest::newRow("C Linux braces with tabs, a list macro used as a loop")
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, BreakBeforeBraces: Linux, "
                       "SpaceBeforeParens: ControlStatementsExceptForEachMacros, ForEachMacros: [list_for_each_entry]}"
-            << "list_for_each_entry";
+            << QStringList{"list_for_each_entry", "", ""};
+        QTest::newRow("C Linux braces with tabs, a loop, a statement and an attribute macro, labels at the start")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, BreakBeforeBraces: Linux, "
+                      "IndentGotoLabels: false, ForEachMacros: [list_for_each_entry], StatementMacros: [DECLARE_ITEMS], "
+                      "AttributeMacros: [__item_init]}"
+            << QStringList{"list_for_each_entry", "DECLARE_ITEMS", "__item_init"};
     }
     void learns_back_a_known_style() {
         QFETCH(QString, language);
         QFETCH(QString, options);
-        QFETCH(QString, loop_macro);
+        QFETCH(QStringList, macros);
         auto const& description = description_of(language);
         std::string const known = tarnel_engine::addon_written_in(options.toStdString(), "Known", description);
         QVERIFY(!known.empty());
@@ -86,8 +92,8 @@ private slots:
         QVERIFY(plugin.learning());
         std::vector<std::string> project;
         std::vector<std::string> sources = sources_of(language);
-        for (int file = 0; file < 4 && !loop_macro.isEmpty(); ++file) {
-            std::string const macro = loop_macro.toStdString();
+        for (int file = 0; file < 4 && !macros.isEmpty(); ++file) {
+            std::string const macro = macros[0].toStdString();
             std::string const n = std::to_string(file);
             sources.push_back("struct item_" + n + " {\n  struct list_head node;\n  int value;\n};\n\n"
                               "int total_" + n + "(struct list_head *items) {\n  struct item_" + n + " *item;\n"
@@ -95,20 +101,40 @@ private slots:
                               "      continue;\n    sum += item->value;\n  }\n  return sum;\n}\n\n"
                               "void clear_" + n + "(struct list_head *items) {\n  struct item_" + n + " *item;\n  " +
                               macro + "(item, items, node) {\n    item->value = 0;\n  }\n}\n");
+            if (!macros[1].isEmpty())
+                sources.push_back("int count_" + n + "(int limit) {\n  " + macros[1].toStdString() +
+                                  "(seen, limit)\n  int count = 0;\n  while (count < limit) {\n    if (count > 3)\n"
+                                  "      goto out;\n    count++;\n  out:\n    count++;\n  }\n  return count;\n}\n");
+            if (!macros[2].isEmpty())
+                sources.push_back("static int " + macros[2].toStdString() + " setup_" + n + "(void) {\n  return " + n +
+                                  ";\n}\n\nstatic unsigned long " + macros[2].toStdString() + " *table_" + n + ";\n");
         }
-        for (std::string const& source : sources) {
-            std::string const written = plugin->revise(source, known, traits_of(source));
+        std::size_t const generated = sources_of(language).size();
+        std::vector<std::string> project_own;
+        for (std::size_t i = 0; i < sources.size(); ++i) {
+            std::string const written = plugin->revise(sources[i], known, traits_of(sources[i]));
             if (written != STYLE_TARNEL_SYNTAX_ERROR_TEXT)
                 project.push_back(written);
+            if (written != STYLE_TARNEL_SYNTAX_ERROR_TEXT && i >= generated)
+                project_own.push_back(written);
         }
         QVERIFY(project.size() >= 5);
 
         learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
         QVERIFY(!learned.addon.empty());
         QVERIFY(tarnel_engine::forms_not_coming_back(learned.addon, description).empty());
-        if (!loop_macro.isEmpty())
-            QVERIFY(tarnel_engine::loop_macros_named_in(obtain_structure_form("for each macro").from_already_reading(
-                        learned.addon)) == std::vector<std::string>{loop_macro.toStdString()});
+        for (int kind = 0; kind < macros.size(); ++kind) {
+            tarnel_engine::macro_kind const& macro_kind = tarnel_engine::macro_kinds()[static_cast<std::size_t>(kind)];
+            std::vector<std::string> const named = tarnel_engine::macros_named_in(
+                macro_kind, obtain_structure_form(macro_kind.structure).from_already_reading(learned.addon));
+            QVERIFY2(macros[kind].isEmpty() ||
+                         std::find(named.begin(), named.end(), macros[kind].toStdString()) != named.end(),
+                     qPrintable(QString::fromStdString(macro_kind.structure) + " names not " + macros[kind]));
+        }
+        // The files that use the project's macros (and its labels) are left as they are.
+        for (std::string const& source : project_own)
+            QCOMPARE(QString::fromStdString(plugin->revise(source, learned.addon, traits_of(source))),
+                     QString::fromStdString(source));
         unsigned long lines = 0;
         unsigned long left = 0;
         for (std::string const& source : project) {
@@ -120,6 +146,44 @@ private slots:
         QCOMPARE(learned.lines, lines);
         QCOMPARE(learned.lines_left, left);
         QVERIFY2(left * 1000 >= lines * 995, qPrintable(QString("%1 of %2 lines left").arg(left).arg(lines)));
+    }
+
+    // Each kind of macro is read from code of its own shape only, in two files: a loop without
+    // braces is no statement, a function's name after its class's qualifier no statement, a
+    // structure's tag no attribute, a return type on its own line no attribute, an annotation after
+    // a function's head no loop.
+    void finds_the_macros_a_project_uses_data() {
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QStringList>("found");
+        QTest::newRow("a statement macro") << 1 << "int f(int x) {\n  Q_UNUSED(x)\n  return 0;\n}\n"
+                                           << QStringList{"Q_UNUSED"};
+        QTest::newRow("a loop without braces is no statement macro")
+            << 1 << "void f(struct list_head *h) {\n  struct list_head *p;\n  list_for_each(p, h)\n    g(p);\n}\n"
+            << QStringList();
+        QTest::newRow("a function's name under its class is no statement macro")
+            << 1 << "  template <typename T>\n    void\n    vector<T>::\n    insert_aux(int at)\n#if X\n  {\n  }\n"
+            << QStringList();
+        QTest::newRow("attributes among the specifiers and after a variable's name")
+            << 2 << "static int __init setup(void) {\n  return 0;\n}\nint counter __read_mostly;\n"
+            << QStringList{"__init", "__read_mostly"};
+        QTest::newRow("a structure's tag is no attribute")
+            << 2 << "struct item {\n  struct list_head node;\n  const struct item *next;\n};\n" << QStringList();
+        QTest::newRow("an attribute on a line of its own, a return type on its own line none")
+            << 2 << "static __always_inline\nvoid f(void)\n{\n}\n\nstatic __poll_t\npoll_it(void)\n{\n}\n"
+            << QStringList{"__always_inline"};
+        QTest::newRow("an annotation after a function's head is no loop")
+            << 0 << "static void f(void)\n\t__acquires(lock)\n{\n\tg();\n}\n" << QStringList();
+    }
+    void finds_the_macros_a_project_uses() {
+        QFETCH(int, kind);
+        QFETCH(QString, code);
+        QFETCH(QStringList, found);
+        std::vector<std::string> const sources(2, code.toStdString());
+        QStringList names;
+        for (std::string const& name : tarnel_engine::macro_kinds()[static_cast<std::size_t>(kind)].used_in(sources))
+            names << QString::fromStdString(name);
+        QCOMPARE(names, found);
     }
 
     // The width of a tab comes from where tabs and blanks line up, never from the indent step:
