@@ -197,11 +197,14 @@ private:
         return improved;
     }
 
-    // The groups that the structure of a form still differing names; for each pair of them, every
-    // combination of their values. The first pair (in table order, form by form) that improves is
+    // The groups that the structure of a form still differing names (and tab use, where tabs
+    // indent); for each pair of them, every combination of their values. The first pair (in table order, form by form) that improves is
     // taken.
     bool coupled_move(scored_style& current) {
         std::set<std::pair<std::size_t, std::size_t>> tried;
+        // Where tabs indent, which lines take them moves with the options that shift those lines
+        // (a continuation indent, an alignment): tab use pairs with every group a form names.
+        bool const uses_tabs = current.style.UseTab != clang::format::FormatStyle::UT_Never;
         for (std::size_t i = 0; i < forms.size() && within_budget(); ++i) {
             if (current.distances[i] == 0)
                 continue;
@@ -209,6 +212,10 @@ private:
             for (std::size_t group = 0; group < option_groups().size(); ++group)
                 if (std::find(forms[i].decides.begin(), forms[i].decides.end(), option_groups()[group].name) !=
                     forms[i].decides.end())
+                    named.push_back(group);
+            for (std::size_t group = 0; group < option_groups().size() && uses_tabs; ++group)
+                if (option_groups()[group].name == "UseTab" &&
+                    std::find(named.begin(), named.end(), group) == named.end())
                     named.push_back(group);
             for (std::size_t a = 0; a < named.size(); ++a)
                 for (std::size_t b = a + 1; b < named.size(); ++b) {

@@ -141,6 +141,17 @@ private slots:
         QTest::newRow("tabs of 4 for indentation, indent width 2")
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 2, TabWidth: 4, UseTab: ForIndentation}"
             << QStringList{"IndentWidth: 2", "TabWidth: 4", "UseTab: ForIndentation"};
+        // Braces indented on the line of their statement put the statement a step in and its body
+        // two (read as an indent of 8 without indented braces, and 22 forms lost).
+        QTest::newRow("braces indented on the line of their statement, indent width 4")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: {IndentBraces: true}}"
+            << QStringList{"IndentWidth: 4", " IndentBraces: true"};
+        // A wrapped function name 8 blanks in under tabs of 4: the continuation indent and the tab use
+        // move together (one at a time, the search settled on 4 and tabs for alignment).
+        QTest::newRow("tabs of 4 for indentation, wrapped names a continuation of 8 in")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 2, TabWidth: 4, UseTab: ForIndentation, ContinuationIndentWidth: 8, "
+                      "IndentWrappedFunctionNames: true, BreakAfterReturnType: TopLevel}"
+            << QStringList{"ContinuationIndentWidth: 8", "UseTab: ForIndentation"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
