@@ -269,8 +269,37 @@ int tab_width_read_from(std::vector<form_case> const& forms) {
     return shown ? shown : 8;
 }
 
+// The arguments of a long call continued on its next line, not under its parenthesis: how far in
+// they stand is the continuation indent, and a tab there (no block indents them) is a tab used for
+// continuation. A width of 0 when the form does not show it.
+struct continuation {
+    int width = 0;
+    bool with_tab = false;
+};
+
+continuation continuation_read_from(forms_by_name const& forms, int tab_width) {
+    std::string const* code = forms.find("long function call");
+    std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
+    continuation read;
+    if (lines.size() < 2 || width_of_indent(lines[0], tab_width) > 0)
+        return read;
+    int const width = width_of_indent(lines[1], tab_width);
+    if (width > 0 && width <= 8 && width != column_after_open_parenthesis(lines[0], tab_width)) {
+        read.width = width;
+        read.with_tab = indented_with_tab(lines[1]);
+    }
+    return read;
+}
+
+std::string continuation_indent_read_from(std::vector<form_case> const& forms) {
+    int const tab_width = tab_width_read_from(forms);
+    continuation const read = continuation_read_from(forms_by_name(forms, tab_width), tab_width);
+    return read.width ? "{ContinuationIndentWidth: " + std::to_string(read.width) + "}" : std::string();
+}
+
 // The most common step after a line that ends with an opening brace, and tabs if any line starts
-// with one. Read together, because those options only work together.
+// with one (for continuation too where a continued call starts with one). Read together, because
+// those options only work together.
 std::string indentation_read_from(std::vector<form_case> const& forms) {
     int const tab_width = tab_width_read_from(forms);
     std::map<int, int> steps;
@@ -308,7 +337,9 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
         if (brace_step > 0 && brace_step < most_common->first)
             width = std::to_string(brace_step);
     }
-    return tabs ? "{IndentWidth: " + width + ", TabWidth: " + std::to_string(tab_width) + ", UseTab: ForIndentation}"
+    char const* const use = continuation_read_from(named, tab_width).with_tab ? "ForContinuationAndIndentation"
+                                                                              : "ForIndentation";
+    return tabs ? "{IndentWidth: " + width + ", TabWidth: " + std::to_string(tab_width) + ", UseTab: " + use + "}"
                 : "{IndentWidth: " + width + ", UseTab: Never}";
 }
 
@@ -573,7 +604,7 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     forms_by_name const named(forms, tab_width_read_from(forms));
     form_readings readings;
     for (std::string const& reading :
-         {indentation_read_from(forms), access_offset_read_from(named), return_type_read_from(named),
+         {indentation_read_from(forms), continuation_indent_read_from(forms), access_offset_read_from(named), return_type_read_from(named),
           case_labels_read_from(named), directives_read_from(named),
           namespace_indentation_read_from(named), parentheses_read_from(named), pointers_read_from(named),
           column_limit_read_from(forms)})

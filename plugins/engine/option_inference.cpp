@@ -26,6 +26,13 @@ std::string const boundary = "/* style tarnel: form boundary */";
 // benchmark, small enough for its time goals.
 std::size_t const beam_width = 3;
 
+// The groups that lay out a list too long for its line (a declaration's parameters, a call's
+// arguments, the parenthesis before them): the engine weighs them together, so a form that breaks
+// one kind of list may need another kind's option moved with its own.
+std::vector<std::string> const list_packing = {"AlignAfterOpenBracket", "BinPackArguments", "BinPackParameters",
+                                               "AllowAllArgumentsOnNextLine",
+                                               "AllowAllParametersOfDeclarationOnNextLine"};
+
 unsigned long total_of(std::vector<unsigned long> const& distances) {
     return std::accumulate(distances.begin(), distances.end(), 0UL);
 }
@@ -198,7 +205,8 @@ private:
     }
 
     // The groups that the structure of a form still differing names (and tab use, where tabs
-    // indent); for each pair of them, every combination of their values. The first pair (in table order, form by form) that improves is
+    // indent; and every group that packs lists, where it names one); for each pair of them, every
+    // combination of their values. The first pair (in table order, form by form) that improves is
     // taken.
     bool coupled_move(scored_style& current) {
         std::set<std::pair<std::size_t, std::size_t>> tried;
@@ -213,10 +221,17 @@ private:
                 if (std::find(forms[i].decides.begin(), forms[i].decides.end(), option_groups()[group].name) !=
                     forms[i].decides.end())
                     named.push_back(group);
-            for (std::size_t group = 0; group < option_groups().size() && uses_tabs; ++group)
-                if (option_groups()[group].name == "UseTab" &&
-                    std::find(named.begin(), named.end(), group) == named.end())
+            bool const lays_out_lists = std::any_of(forms[i].decides.begin(), forms[i].decides.end(), [](auto const& name) {
+                return std::find(list_packing.begin(), list_packing.end(), name) != list_packing.end();
+            });
+            for (std::size_t group = 0; group < option_groups().size(); ++group) {
+                std::string const& name = option_groups()[group].name;
+                bool const joins = (name == "UseTab" && uses_tabs) ||
+                                   (lays_out_lists &&
+                                    std::find(list_packing.begin(), list_packing.end(), name) != list_packing.end());
+                if (joins && std::find(named.begin(), named.end(), group) == named.end())
                     named.push_back(group);
+            }
             for (std::size_t a = 0; a < named.size(); ++a)
                 for (std::size_t b = a + 1; b < named.size(); ++b) {
                     if (!tried.insert({named[a], named[b]}).second || !within_budget())
