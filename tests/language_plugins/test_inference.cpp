@@ -152,6 +152,12 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 2, TabWidth: 4, UseTab: ForIndentation, ContinuationIndentWidth: 8, "
                       "IndentWrappedFunctionNames: true, BreakAfterReturnType: TopLevel}"
             << QStringList{"ContinuationIndentWidth: 8", "UseTab: ForIndentation"};
+        // A long call continued one tab of 4 in: a continuation indent of 4, tabs for continuation
+        // (read as 8 blanks, and six long forms lost).
+        QTest::newRow("tabs of 4 for continuation, arguments not aligned")
+            << "C" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: DontAlign, ColumnLimit: 100, PenaltyBreakAssignment: 100, "
+                      "TabWidth: 4, UseTab: AlignWithSpaces}"
+            << QStringList{"ContinuationIndentWidth: 4", "TabWidth: 4"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
