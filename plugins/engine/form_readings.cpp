@@ -86,15 +86,15 @@ public:
         std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
         return line < 0 || line >= static_cast<int>(lines.size()) ? -1 : width_of_indent(lines[line], tab_width);
     }
-    // How much further in than the first line that ends with an opening brace the line after it
-    // stands, or 0.
+    // How much further in than the form's first line the line after the first line that ends with
+    // an opening brace stands (a body, wherever its head was wrapped), or 0.
     int body_step(std::string const& structure) const {
         std::string const* code = find(structure);
         std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
         for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
             std::string const text = trimmed(lines[i]);
             if (!text.empty() && text.back() == '{')
-                return width_of_indent(lines[i + 1], tab_width) - width_of_indent(lines[i], tab_width);
+                return width_of_indent(lines[i + 1], tab_width) - width_of_indent(lines[0], tab_width);
         }
         return 0;
     }

@@ -146,6 +146,13 @@ private slots:
         QTest::newRow("braces indented on the line of their statement, indent width 4")
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: {IndentBraces: true}}"
             << QStringList{"IndentWidth: 4", " IndentBraces: true"};
+        // A function's name wrapped a continuation in: its body is measured from the function's first
+        // line, not from the name's (measured from the name, an `if` looked two steps in, and 21 forms
+        // were lost to braces read as indented).
+        QTest::newRow("function names wrapped and indented, braces not indented")
+            << "C++" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 4, UseTab: Always, IndentWrappedFunctionNames: true, "
+                        "BreakAfterReturnType: AllDefinitions}"
+            << QStringList{"IndentWidth: 8", " IndentBraces: false"};
         // A wrapped function name 8 blanks in under tabs of 4: the continuation indent and the tab use
         // move together (one at a time, the search settled on 4 and tabs for alignment).
         QTest::newRow("tabs of 4 for indentation, wrapped names a continuation of 8 in")
