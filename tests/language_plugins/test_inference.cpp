@@ -159,6 +159,12 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 2, TabWidth: 4, UseTab: ForIndentation, ContinuationIndentWidth: 8, "
                       "IndentWrappedFunctionNames: true, BreakAfterReturnType: TopLevel}"
             << QStringList{"ContinuationIndentWidth: 8", "UseTab: ForIndentation"};
+        // Members two steps in are one tab of 8 where a function's body is 4 blanks, which tabs of 4
+        // would have made a tab (read as tabs of 4, and 14 forms lost).
+        QTest::newRow("tabs of 8 under an indent of 4, access specifiers indented")
+            << "C++" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: DontAlign, AlignEscapedNewlines: DontAlign, "
+                        "IndentAccessModifiers: true, IndentWidth: 4, UseTab: ForContinuationAndIndentation}"
+            << QStringList{"IndentWidth: 4", "TabWidth: 8"};
         // A long call continued one tab of 4 in: a continuation indent of 4, tabs for continuation
         // (read as 8 blanks, and six long forms lost).
         QTest::newRow("tabs of 4 for continuation, arguments not aligned")
