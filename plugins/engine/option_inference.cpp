@@ -27,11 +27,12 @@ std::string const boundary = "/* style tarnel: form boundary */";
 std::size_t const beam_width = 3;
 
 // The groups that lay out a list too long for its line (a declaration's parameters, a call's
-// arguments, the parenthesis before them): the engine weighs them together, so a form that breaks
-// one kind of list may need another kind's option moved with its own.
+// arguments, the parenthesis before them, the cost of breaking after it): the engine weighs them
+// together, so a form that breaks one kind of list may need another kind's option moved with its own.
 std::vector<std::string> const list_packing = {"AlignAfterOpenBracket", "BinPackArguments", "BinPackParameters",
                                                "AllowAllArgumentsOnNextLine",
-                                               "AllowAllParametersOfDeclarationOnNextLine"};
+                                               "AllowAllParametersOfDeclarationOnNextLine",
+                                               "PenaltyBreakBeforeFirstCallParameter"};
 
 unsigned long total_of(std::vector<unsigned long> const& distances) {
     return std::accumulate(distances.begin(), distances.end(), 0UL);

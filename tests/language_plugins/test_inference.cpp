@@ -165,6 +165,13 @@ private slots:
             << "C++" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: DontAlign, AlignEscapedNewlines: DontAlign, "
                         "IndentAccessModifiers: true, IndentWidth: 4, UseTab: ForContinuationAndIndentation}"
             << QStringList{"IndentWidth: 4", "TabWidth: 8"};
+        // The parameters of a declaration on the line after its `(` although they are not packed: the
+        // penalty before a call's first argument, with the options that pack lists (one at a time,
+        // the search kept 19 and lost the long return type).
+        QTest::newRow("parameters on the next line together, not packed")
+            << "C" << "{BasedOnStyle: LLVM, BinPackParameters: false, PenaltyBreakBeforeFirstCallParameter: 100, "
+                      "PenaltyReturnTypeOnItsOwnLine: 200}"
+            << QStringList{"BinPackParameters: false", "PenaltyBreakBeforeFirstCallParameter: 100"};
         // A long call continued one tab of 4 in: a continuation indent of 4, tabs for continuation
         // (read as 8 blanks, and six long forms lost).
         QTest::newRow("tabs of 4 for continuation, arguments not aligned")
