@@ -604,8 +604,8 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     forms_by_name const named(forms, tab_width_read_from(forms));
     form_readings readings;
     for (std::string const& reading :
-         {indentation_read_from(forms), continuation_indent_read_from(forms), access_offset_read_from(named), return_type_read_from(named),
-          case_labels_read_from(named), directives_read_from(named),
+         {indentation_read_from(forms), continuation_indent_read_from(forms), access_offset_read_from(named),
+          return_type_read_from(named), case_labels_read_from(named), directives_read_from(named),
           namespace_indentation_read_from(named), parentheses_read_from(named), pointers_read_from(named),
           column_limit_read_from(forms)})
         if (!reading.empty())
