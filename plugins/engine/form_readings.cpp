@@ -57,7 +57,8 @@ std::string flag(bool value) { return value ? "true" : "false"; }
 
 class forms_by_name {
 public:
-    explicit forms_by_name(std::vector<form_case> const& forms) {
+    // Indentation measured with tabs of `tab_width` columns.
+    explicit forms_by_name(std::vector<form_case> const& forms, int tab_width = 8) : tab_width(tab_width) {
         for (form_case const& form : forms)
             codes[form.structure] = form.code;
     }
@@ -83,7 +84,19 @@ public:
     int indent_of_line(std::string const& structure, int line) const {
         std::string const* code = find(structure);
         std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
-        return line < 0 || line >= static_cast<int>(lines.size()) ? -1 : width_of_indent(lines[line]);
+        return line < 0 || line >= static_cast<int>(lines.size()) ? -1 : width_of_indent(lines[line], tab_width);
+    }
+    // How much further in than the form's first line the line after the first line that ends with
+    // an opening brace stands (a body, wherever its head was wrapped), or 0.
+    int body_step(std::string const& structure) const {
+        std::string const* code = find(structure);
+        std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
+        for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
+            std::string const text = trimmed(lines[i]);
+            if (!text.empty() && text.back() == '{')
+                return width_of_indent(lines[i + 1], tab_width) - width_of_indent(lines[0], tab_width);
+        }
+        return 0;
     }
     // Whether the brace found after the first occurrence of `after` (from the start when empty)
     // begins its line: -1 when the form or the brace is missing.
@@ -111,7 +124,18 @@ public:
 
 private:
     std::map<std::string, std::string> codes;
+    int tab_width;
 };
+
+// Braces indented while they stay on the line of their statement put the statements two steps in
+// (twice as far as a function's body, which indented braces leave alone), or the statement itself
+// one step in.
+bool attached_braces_indented(forms_by_name const& forms) {
+    int const function_step = forms.body_step("function definition");
+    int const statement = forms.line_starting("if", "if");
+    return forms.brace_on_own_line("if") == 0 && function_step > 0 && statement >= 0 &&
+           (forms.body_step("if") == 2 * function_step || forms.indent_of_line("if", statement) > 0);
+}
 
 // The tab width under which the backslashes that end the lines of the macro stand in one column
 // (the engine lines them up), or 0 when no tab precedes them or no width lines them up.
@@ -185,19 +209,43 @@ tab_width_fit fit_of(int tab_width, std::vector<std::string> const& codes) {
     return fit;
 }
 
-}  // namespace
+// Lines that a width rules out where the code was laid out by the engine: a line that opens a
+// block's body stands at least one indent step in, and the engine writes as many tabs as fit in
+// that indentation, so blanks alone there as wide as a tab cannot be its indentation.
+long lines_ruling_out(int tab_width, std::vector<std::string> const& codes) {
+    long ruled_out = 0;
+    for (std::string const& code : codes) {
+        std::string previous;
+        for (std::string const& line : lines_of(code)) {
+            if (trimmed(line).empty())
+                continue;
+            std::string const last = trimmed(previous);
+            bool const opens_body = !last.empty() && last.back() == '{' && last.find('\\') == std::string::npos &&
+                                    last.find('=') == std::string::npos && last.find('[') == std::string::npos;
+            if (opens_body && line[0] == ' ' && !indented_with_tab(line) && width_of_indent(line) >= tab_width)
+                ++ruled_out;
+            previous = line;
+        }
+    }
+    return ruled_out;
+}
 
-int tab_width_shown_by(std::vector<std::string> const& codes) {
-    // The first width of this order that fits better than every other, or 0.
+// The first width of this order that fits the code better than every other, or 0; widths that
+// some line of the code the engine laid out rules out fit worse than every other.
+int tab_width_fitting(std::vector<std::string> const& codes, std::vector<std::string> const& laid_out = {}) {
     std::vector<int> const widths = {8, 4, 2, 3};
     std::vector<long> scores;
     for (int tab_width : widths)
-        scores.push_back(fit_of(tab_width, codes).score);
+        scores.push_back(fit_of(tab_width, codes).score - 1000 * lines_ruling_out(tab_width, laid_out));
     auto const best = std::max_element(scores.begin(), scores.end());
     if (std::count(scores.begin(), scores.end(), *best) == static_cast<long>(scores.size()))
         return 0;
     return widths[static_cast<std::size_t>(best - scores.begin())];
 }
+
+}  // namespace
+
+int tab_width_shown_by(std::vector<std::string> const& codes) { return tab_width_fitting(codes); }
 
 int tab_width_read_from(std::vector<std::string> const& codes) {
     int const shown = tab_width_shown_by(codes);
@@ -209,15 +257,49 @@ namespace {
 int tab_width_read_from(std::vector<form_case> const& forms) {
     if (int const of_macro = tab_width_of_macro_in(forms))
         return of_macro;
-    std::vector<std::string> codes;
-    for (form_case const& form : forms)
+    std::vector<std::string> codes, all_codes;
+    for (form_case const& form : forms) {
+        all_codes.push_back(form.code);
         if (form.code.find('\t') != std::string::npos)
             codes.push_back(form.code);
-    return codes.empty() ? 8 : tarnel_engine::tab_width_read_from(codes);
+    }
+    if (codes.empty())
+        return 8;
+    int const shown = tab_width_fitting(codes, all_codes);
+    return shown ? shown : 8;
+}
+
+// The arguments of a long call continued on its next line, not under its parenthesis: how far in
+// they stand is the continuation indent, and a tab there (no block indents them) is a tab used for
+// continuation. A width of 0 when the form does not show it.
+struct continuation {
+    int width = 0;
+    bool with_tab = false;
+};
+
+continuation continuation_read_from(forms_by_name const& forms, int tab_width) {
+    std::string const* code = forms.find("long function call");
+    std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
+    continuation read;
+    if (lines.size() < 2 || width_of_indent(lines[0], tab_width) > 0)
+        return read;
+    int const width = width_of_indent(lines[1], tab_width);
+    if (width > 0 && width <= 8 && width != column_after_open_parenthesis(lines[0], tab_width)) {
+        read.width = width;
+        read.with_tab = indented_with_tab(lines[1]);
+    }
+    return read;
+}
+
+std::string continuation_indent_read_from(std::vector<form_case> const& forms) {
+    int const tab_width = tab_width_read_from(forms);
+    continuation const read = continuation_read_from(forms_by_name(forms, tab_width), tab_width);
+    return read.width ? "{ContinuationIndentWidth: " + std::to_string(read.width) + "}" : std::string();
 }
 
 // The most common step after a line that ends with an opening brace, and tabs if any line starts
-// with one. Read together, because those options only work together.
+// with one (for continuation too where a continued call starts with one). Read together, because
+// those options only work together.
 std::string indentation_read_from(std::vector<form_case> const& forms) {
     int const tab_width = tab_width_read_from(forms);
     std::map<int, int> steps;
@@ -242,6 +324,9 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
     auto const most_common =
         std::max_element(steps.begin(), steps.end(), [](auto const& a, auto const& b) { return a.second < b.second; });
     std::string width = std::to_string(most_common->first);
+    forms_by_name const named(forms, tab_width);
+    if (attached_braces_indented(named))
+        width = std::to_string(named.body_step("function definition"));
     // Braces indented by one step (the closing brace of an `if` further in than the `if`) put the
     // statements two steps in: the brace's own step is the indent.
     for (form_case const& form : forms) {
@@ -252,7 +337,9 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
         if (brace_step > 0 && brace_step < most_common->first)
             width = std::to_string(brace_step);
     }
-    return tabs ? "{IndentWidth: " + width + ", TabWidth: " + std::to_string(tab_width) + ", UseTab: ForIndentation}"
+    char const* const use = continuation_read_from(named, tab_width).with_tab ? "ForContinuationAndIndentation"
+                                                                              : "ForIndentation";
+    return tabs ? "{IndentWidth: " + width + ", TabWidth: " + std::to_string(tab_width) + ", UseTab: " + use + "}"
                 : "{IndentWidth: " + width + ", UseTab: Never}";
 }
 
@@ -506,18 +593,19 @@ std::string braces_read_from(forms_by_name const& forms) {
         brace = forms.line_starting("if", "}");
     if (statement >= 0 && brace >= 0)
         wrapping += std::string(wrapping.empty() ? "" : ", ") + "IndentBraces: " +
-                    flag(forms.indent_of_line("if", brace) > forms.indent_of_line("if", statement));
+                    flag(forms.indent_of_line("if", brace) > forms.indent_of_line("if", statement) ||
+                         attached_braces_indented(forms));
     return wrapping.empty() ? wrapping : "{BreakBeforeBraces: Custom, BraceWrapping: {" + wrapping + "}}";
 }
 
 }  // namespace
 
 form_readings readings_of(std::vector<form_case> const& forms) {
-    forms_by_name const named(forms);
+    forms_by_name const named(forms, tab_width_read_from(forms));
     form_readings readings;
     for (std::string const& reading :
-         {indentation_read_from(forms), access_offset_read_from(named), return_type_read_from(named),
-          case_labels_read_from(named), directives_read_from(named),
+         {indentation_read_from(forms), continuation_indent_read_from(forms), access_offset_read_from(named),
+          return_type_read_from(named), case_labels_read_from(named), directives_read_from(named),
           namespace_indentation_read_from(named), parentheses_read_from(named), pointers_read_from(named),
           column_limit_read_from(forms)})
         if (!reading.empty())

@@ -1,5 +1,5 @@
 // What the forms of an addon show directly, read from their text without the engine: the indent
-// step and tabs, the access-specifier offset, case-label and namespace indentation, brace
+// step and tabs, the continuation indent, the access-specifier offset, case-label and namespace indentation, brace
 // placement per construct, the blanks before and inside parentheses, where `*` and `&` lean, which
 // short statements share a line, how many blank lines are kept, the macros used as loops, the
 // narrowest column limit the forms allow or none where a short call keeps its author's line

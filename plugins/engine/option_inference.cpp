@@ -26,6 +26,14 @@ std::string const boundary = "/* style tarnel: form boundary */";
 // benchmark, small enough for its time goals.
 std::size_t const beam_width = 3;
 
+// The groups that lay out a list too long for its line (a declaration's parameters, a call's
+// arguments, the parenthesis before them, the cost of breaking after it): the engine weighs them
+// together, so a form that breaks one kind of list may need another kind's option moved with its own.
+std::vector<std::string> const list_packing = {"AlignAfterOpenBracket", "BinPackArguments", "BinPackParameters",
+                                               "AllowAllArgumentsOnNextLine",
+                                               "AllowAllParametersOfDeclarationOnNextLine",
+                                               "PenaltyBreakBeforeFirstCallParameter"};
+
 unsigned long total_of(std::vector<unsigned long> const& distances) {
     return std::accumulate(distances.begin(), distances.end(), 0UL);
 }
@@ -200,11 +208,15 @@ private:
         return improved;
     }
 
-    // The groups that the structure of a form still differing names; for each pair of them, every
+    // The groups that the structure of a form still differing names (and tab use, where tabs
+    // indent; and every group that packs lists, where it names one); for each pair of them, every
     // combination of their values. The first pair (in table order, form by form) that improves is
     // taken.
     bool coupled_move(scored_style& current) {
         std::set<std::pair<std::size_t, std::size_t>> tried;
+        // Where tabs indent, which lines take them moves with the options that shift those lines
+        // (a continuation indent, an alignment): tab use pairs with every group a form names.
+        bool const uses_tabs = current.style.UseTab != clang::format::FormatStyle::UT_Never;
         for (std::size_t i = 0; i < forms.size() && within_budget(); ++i) {
             if (current.distances[i] == 0)
                 continue;
@@ -213,6 +225,17 @@ private:
                 if (std::find(forms[i].decides.begin(), forms[i].decides.end(), groups[group].name) !=
                     forms[i].decides.end())
                     named.push_back(group);
+            bool const lays_out_lists = std::any_of(forms[i].decides.begin(), forms[i].decides.end(), [](auto const& name) {
+                return std::find(list_packing.begin(), list_packing.end(), name) != list_packing.end();
+            });
+            for (std::size_t group = 0; group < option_groups().size(); ++group) {
+                std::string const& name = option_groups()[group].name;
+                bool const joins = (name == "UseTab" && uses_tabs) ||
+                                   (lays_out_lists &&
+                                    std::find(list_packing.begin(), list_packing.end(), name) != list_packing.end());
+                if (joins && std::find(named.begin(), named.end(), group) == named.end())
+                    named.push_back(group);
+            }
             for (std::size_t a = 0; a < named.size(); ++a)
                 for (std::size_t b = a + 1; b < named.size(); ++b) {
                     if (!tried.insert({named[a], named[b]}).second || !within_budget())

@@ -20,7 +20,8 @@ namespace tarnel_engine {
 // the brace placement read from them; the best starts (a beam) each descend over the option table:
 // one option group at a time, judged first on the forms that name it or still differ, then two
 // groups that one structure names together where one alone cannot improve (brace placement with
-// short functions, operator breaks with alignment, ...). The result has the smallest total white-space distance found between the
+// short functions, operator breaks with alignment, ...; tab use with any of them where tabs indent,
+// and the groups that pack lists with each other). The result has the smallest total white-space distance found between the
 // forms and their formatted results. Deterministic: the same forms give the same options; the work
 // is bounded by a count of forms formatted, never by time.
 class infer_options {

@@ -161,6 +161,43 @@ private slots:
         QTest::newRow("macros used as attributes")
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, UseTab: Always, AttributeMacros: [__rcu, __init, notrace]}"
             << QStringList{"AttributeMacros:\n - __rcu\n - __init\n - notrace", "! - __capability"};
+        // Braces indented on the line of their statement put the statement a step in and its body
+        // two (read as an indent of 8 without indented braces, and 22 forms lost).
+        QTest::newRow("braces indented on the line of their statement, indent width 4")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: {IndentBraces: true}}"
+            << QStringList{"IndentWidth: 4", " IndentBraces: true"};
+        // A function's name wrapped a continuation in: its body is measured from the function's first
+        // line, not from the name's (measured from the name, an `if` looked two steps in, and 21 forms
+        // were lost to braces read as indented).
+        QTest::newRow("function names wrapped and indented, braces not indented")
+            << "C++" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 4, UseTab: Always, IndentWrappedFunctionNames: true, "
+                        "BreakAfterReturnType: AllDefinitions}"
+            << QStringList{"IndentWidth: 8", " IndentBraces: false"};
+        // A wrapped function name 8 blanks in under tabs of 4: the continuation indent and the tab use
+        // move together (one at a time, the search settled on 4 and tabs for alignment).
+        QTest::newRow("tabs of 4 for indentation, wrapped names a continuation of 8 in")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 2, TabWidth: 4, UseTab: ForIndentation, ContinuationIndentWidth: 8, "
+                      "IndentWrappedFunctionNames: true, BreakAfterReturnType: TopLevel}"
+            << QStringList{"ContinuationIndentWidth: 8", "UseTab: ForIndentation"};
+        // Members two steps in are one tab of 8 where a function's body is 4 blanks, which tabs of 4
+        // would have made a tab (read as tabs of 4, and 14 forms lost).
+        QTest::newRow("tabs of 8 under an indent of 4, access specifiers indented")
+            << "C++" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: DontAlign, AlignEscapedNewlines: DontAlign, "
+                        "IndentAccessModifiers: true, IndentWidth: 4, UseTab: ForContinuationAndIndentation}"
+            << QStringList{"IndentWidth: 4", "TabWidth: 8"};
+        // The parameters of a declaration on the line after its `(` although they are not packed: the
+        // penalty before a call's first argument, with the options that pack lists (one at a time,
+        // the search kept 19 and lost the long return type).
+        QTest::newRow("parameters on the next line together, not packed")
+            << "C" << "{BasedOnStyle: LLVM, BinPackParameters: false, PenaltyBreakBeforeFirstCallParameter: 100, "
+                      "PenaltyReturnTypeOnItsOwnLine: 200}"
+            << QStringList{"BinPackParameters: false", "PenaltyBreakBeforeFirstCallParameter: 100"};
+        // A long call continued one tab of 4 in: a continuation indent of 4, tabs for continuation
+        // (read as 8 blanks, and six long forms lost).
+        QTest::newRow("tabs of 4 for continuation, arguments not aligned")
+            << "C" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: DontAlign, ColumnLimit: 100, PenaltyBreakAssignment: 100, "
+                      "TabWidth: 4, UseTab: AlignWithSpaces}"
+            << QStringList{"ContinuationIndentWidth: 4", "TabWidth: 4"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
