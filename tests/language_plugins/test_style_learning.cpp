@@ -79,6 +79,10 @@ private slots:
                       "IndentGotoLabels: false, ForEachMacros: [list_for_each_entry], StatementMacros: [DECLARE_ITEMS], "
                       "AttributeMacros: [__item_init]}"
             << QStringList{"list_for_each_entry", "DECLARE_ITEMS", "__item_init"};
+        // Under no limit the author's own breaks stay, which the sample cannot tell from a limit that
+        // its lines happen to keep: the project's files must.
+        QTest::newRow("C++ LLVM, the author's own line breaks kept")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0}" << QStringList();
         QTest::newRow("Java Chromium, tabs of 4, no blank before the ( of control statements")
             << "Java" << "{BasedOnStyle: Chromium, IndentWidth: 4, TabWidth: 4, UseTab: ForIndentation, "
                          "SpaceBeforeParens: Never}" << QStringList();
