@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
+#include <QKeyEvent>
 #include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -171,6 +172,23 @@ QString shown_name_of(QString const& file, QStringList const& paths) {
     return QDir::toNativeSeparators(file);
 }
 
+// A read-only text takes no shortcut of its own, so the window's Copy and Select all (the form
+// editor's) would act while the preview has the focus: the preview keeps those keys for itself.
+class keeps_copy_and_select_all : public QObject {
+public:
+    using QObject::QObject;
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::ShortcutOverride) {
+            auto* key = static_cast<QKeyEvent*>(event);
+            if (key->matches(QKeySequence::Copy) || key->matches(QKeySequence::SelectAll)) {
+                event->accept();
+                return true;
+            }
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 }  // namespace
 
 class preview_of_code::implementation {
@@ -210,6 +228,7 @@ public:
         text->setReadOnly(true);
         // Selected and copied with the keyboard too.
         text->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        text->installEventFilter(new keeps_copy_and_select_all(text));
         text->setLineWrapMode(QPlainTextEdit::NoWrap);
         text->setMinimumWidth(180);
         QFont font("Courier");

@@ -15,6 +15,7 @@
 #include "helpers/window_test_helpers.h"
 
 #include <QAction>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDir>
 #include <QFile>
@@ -83,6 +84,7 @@ private slots:
     void counts_as_a_check_of_the_same_task_data();
     void counts_as_a_check_of_the_same_task();
     void calls_a_plugin_from_one_thread_at_a_time();
+    void copies_its_own_text();
 };
 
 void test_window_preview::init() {
@@ -334,3 +336,19 @@ void test_window_preview::calls_a_plugin_from_one_thread_at_a_time() {
 
 STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(test_window_preview)
 #include "test_window_preview.moc"
+
+// Fault: the window's Copy and Select all (the form editor's) taking the keys while the preview has
+// the focus, so that the user copies the form instead of the previewed file.
+void test_window_preview::copies_its_own_text() {
+    write_file(path("many/e.tst"), "a b\nc\n");
+    open_window();
+    choose("Wide");
+    add({"many"});
+    QTRY_VERIFY(!shown_text().isEmpty());
+    QApplication::clipboard()->clear();
+    preview()->view()->setFocus();
+    QTRY_VERIFY(preview()->view()->hasFocus());
+    QTest::keySequence(preview()->view(), QKeySequence::SelectAll);
+    QTest::keySequence(preview()->view(), QKeySequence::Copy);
+    QCOMPARE(QApplication::clipboard()->text(), shown_text());
+}
