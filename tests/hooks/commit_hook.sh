@@ -27,11 +27,12 @@ pattern=$(sed -n "s/^ *files: *'\(.*\)'$/\1/p" "$definition" | head -1)
 
 cd "$root/repository"
 git init -q .
-printf '[C++]\nstyle = Google\n' > .style-tarnel
+printf '[C++]\nstyle = Google\n\n[Java]\nstyle = Google\n' > .style-tarnel
 mkdir -p src
 printf 'int main( ){return 0;}\n' > src/main.cpp
+printf 'class Main {\n      int  size( ){return 0;}\n}\n' > src/Main.java
 printf 'notes  that  are  no  code\n' > NOTES
-git add .style-tarnel src/main.cpp NOTES
+git add .style-tarnel src/main.cpp src/Main.java NOTES
 
 # The staged files the hook takes, given to its entry as pre-commit gives them (an entry may carry
 # arguments of its own).
@@ -49,10 +50,12 @@ status=0
 run_hook > first.log 2>&1 || status=$?
 [ $status -eq 1 ] || { cat first.log; echo "the hook passed a badly formatted file (status $status)"; exit 1; }
 [ "$(cat src/main.cpp)" = "int main() { return 0; }" ] || { echo "the file was not revised:"; cat src/main.cpp; exit 1; }
+[ "$(cat src/Main.java)" = "$(printf 'class Main {\n  int size() {\n    return 0;\n  }\n}')" ] ||
+  { echo "the Java file was not revised:"; cat src/Main.java; exit 1; }
 [ "$(cat NOTES)" = "notes  that  are  no  code" ] || { echo "a file the hook does not take was changed"; exit 1; }
 grep -q "Style Tarnel revised these files" first.log && grep -q "/src/main.cpp$" first.log && ! grep -q "would be changed" first.log ||
   { cat first.log; echo "the hook's output does not say once which file it revised"; exit 1; }
-git add src/main.cpp
+git add src/main.cpp src/Main.java
 run_hook > second.log 2>&1 || { cat second.log; echo "the hook failed on files in style"; exit 1; }
 
 # After the first commit: one badly formatted line changed in a file that holds others.
