@@ -44,11 +44,7 @@ std::vector<std::string> loop_macros_used_in(std::vector<std::string> const& sou
             }
         }
     }
-    std::vector<std::string> macros;
-    for (auto const& [name, count] : uses)
-        if (count >= 2 && !names_a_type(name, sources))
-            macros.push_back(name);
-    return macros;
+    return used_twice_naming_no_type(uses, sources);
 }
 
 }  // namespace tarnel_engine

@@ -83,6 +83,15 @@ bool names_a_type(std::string const& name, std::vector<std::string> const& sourc
     return false;
 }
 
+std::vector<std::string> used_twice_naming_no_type(std::map<std::string, int> const& uses,
+                                                    std::vector<std::string> const& sources) {
+    std::vector<std::string> macros;
+    for (auto const& [name, count] : uses)
+        if (count >= 2 && !names_a_type(name, sources))
+            macros.push_back(name);
+    return macros;
+}
+
 }  // namespace macro_reading
 
 using namespace macro_reading;

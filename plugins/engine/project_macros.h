@@ -7,6 +7,7 @@
 #ifndef TARNEL_ENGINE_PROJECT_MACROS_H
 #define TARNEL_ENGINE_PROJECT_MACROS_H
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -63,6 +64,10 @@ std::string name_opening(std::string const& text, std::string const& ending);
 // Whether a class, structure or union of the sources is named `name` (a constructor has the shape
 // of a macro's use).
 bool names_a_type(std::string const& name, std::vector<std::string> const& sources);
+// The names used at least twice that no class, structure or union of the sources is named after,
+// in name order: a macro's use has the shape of a constructor's call.
+std::vector<std::string> used_twice_naming_no_type(std::map<std::string, int> const& uses,
+                                                    std::vector<std::string> const& sources);
 }  // namespace macro_reading
 
 }  // namespace tarnel_engine
