@@ -124,14 +124,22 @@ private slots:
                 sources.push_back("static int " + macros[2].toStdString() + " setup_" + n + "(void) {\n  return " + n +
                                   ";\n}\n\nstatic unsigned long " + macros[2].toStdString() + " *table_" + n + ";\n");
         }
-        // Switches and assignments too long for a line, in a few generated files, where the options
-        // they show are checked.
-        for (int file = 0; file < 4 && !shown.isEmpty(); ++file) {
-            std::string const n = std::to_string(file);
-            sources.push_back("int classify_" + n + "(int kind, int weight) {\n  int const a_rather_long_name_for_a_value_" +
-                              n + " = a_function_with_a_long_name(kind, weight, kind + weight, " + n +
-                              ");\n  switch (kind) {\n  case 0:\n    return a_rather_long_name_for_a_value_" + n +
-                              ";\n  case 1:\n    return weight;\n  default:\n    break;\n  }\n  return 0;\n}\n");
+        // Switches and assignments too long for a line in the first third of two long generated files,
+        // where the options they show are checked: a sample takes a long file's second third, so
+        // only the code read as a whole shows them.
+        for (int file = 0; file < 2 && !shown.isEmpty(); ++file) {
+            std::string text;
+            for (int function = 0; function < 4; ++function) {
+                std::string const n = std::to_string(file * 10 + function);
+                text += "int classify_" + n + "(int kind, int weight) {\n  int const a_rather_long_name_for_a_value_" + n +
+                        " = a_function_with_a_long_name(kind, weight, kind + weight, " + n +
+                        ");\n  switch (kind) {\n  case 0:\n    return a_rather_long_name_for_a_value_" + n +
+                        ";\n  case 1:\n    return weight;\n  default:\n    break;\n  }\n  return 0;\n}\n\n";
+            }
+            for (int function = 0; function < 60; ++function)
+                text += "int step_" + std::to_string(file * 100 + function) + "(int x) {\n  return x + " +
+                        std::to_string(function) + ";\n}\n\n";
+            sources.push_back(text);
         }
         std::size_t const generated = sources_of(language).size();
         std::vector<std::string> project_own;
