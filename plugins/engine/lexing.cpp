@@ -29,6 +29,15 @@ clang::LangOptions lexer_options_for(lexed_as language) {
         options.Digraphs = false;
         options.RawStringLiterals = false;
         break;
+    case lexed_as::objective_c:
+        options.ObjC = true;
+        options.CPlusPlus = options.CPlusPlus11 = options.CPlusPlus14 = options.CPlusPlus17 = true;
+        options.CPlusPlus20 = options.CPlusPlus23 = options.CPlusPlus26 = true;
+        options.Char8 = true;
+        options.CXXOperatorNames = true;
+        options.Digraphs = true;
+        options.RawStringLiterals = true;
+        break;
     }
     options.LineComment = true;
     options.Bool = true;

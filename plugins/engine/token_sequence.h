@@ -16,7 +16,10 @@ namespace tarnel_engine {
 // blocks ("""...""", their white space included), `>>>`, `>>>=` and `non-sealed`. Protocol
 // Buffers: clang's lexer without what C++ alone has, whose tokens are then protobuf's (names,
 // numbers, strings in either quote, comments, punctuation).
-enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers };
+// Objective-C: clang's lexer for Objective-C and Objective-C++ at once (C++'s latest standard,
+// which reads every C program's tokens alike), with `@` read whole with what it leads: `@interface`,
+// `@"string"`, `@[`, `@{`, `@(`, `@1`.
+enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers, objective_c };
 
 // The spelling of each token, in order, with lines continued by a backslash joined. Comments are
 // tokens too, their white space left out (the engine indents the lines of a block comment again);

@@ -205,6 +205,10 @@ void test_ci_and_editors::the_diff_applies_with_git_apply_data() {
         << "Protocol Buffers" << "Google"
         << "a.proto=syntax = \"proto3\";\nmessage A{\nint32 a=1; string b = 2;}\n"
            " | b/b.proto=service B { rpc Get(A)\nreturns (A); }";
+    QTest::newRow("lines joined and split by Objective-C")
+        << "Objective-C" << "Google"
+        << "a.m=@implementation A\n-(int)f:(int)a{\nif(a)\n{\nreturn [self g:@[@1]];}\nreturn 0;}\n@end\n"
+           " | b/b.mm=@interface B:NSObject\n@property(nonatomic)int a; -(void)b;\n@end";
 }
 
 void test_ci_and_editors::the_diff_applies_with_git_apply() {
@@ -214,7 +218,8 @@ void test_ci_and_editors::the_diff_applies_with_git_apply() {
     installed_bundle bundle;
     std::map<QString, QString> const our_plugins = {{"C++", "libcpp-language-plugin.so"},
                                                     {"Java", "libjava-language-plugin.so"},
-                                                    {"Protocol Buffers", "libproto-language-plugin.so"}};
+                                                    {"Protocol Buffers", "libproto-language-plugin.so"},
+                                                    {"Objective-C", "libobjc-language-plugin.so"}};
     if (our_plugins.count(language)) {
         bundle.add_plugin(built::build_dir() + "/PlugIns/languages/" + our_plugins.at(language));
         QString const addon = style + "[" + language + "].style";

@@ -105,6 +105,11 @@ private slots:
         QTest::newRow("Protocol Buffers: brackets in strings of either quote")
             << "message A {\n  string a = 1 [default = '}'];\n  string b = 2 [default = \"]\"];\n}\n" << false
             << QStringList{"Protocol Buffers"};
+        QTest::newRow("Objective-C: an implementation without the closing brace of its method")
+            << "@implementation A\n- (void)f {\n  [self g:@\"}\"];\n@end\n" << true << QStringList{"Objective-C"};
+        QTest::newRow("Objective-C: brackets in literals and a block")
+            << "@implementation A\n- (id)f {\n  return @[ @\"]\", @\"{\" ];\n}\n@end\n" << false
+            << QStringList{"Objective-C"};
     }
     void answers_syntax_errors() {
         QFETCH(QString, code);
@@ -113,7 +118,8 @@ private slots:
         std::string const source = code.toStdString();
         std::map<QString, QString> const styles = {
             {"C", "GNU[C].style"}, {"C++", "Google[C++].style"}, {"Java", "Google[Java].style"},
-            {"Protocol Buffers", "Google[Protocol Buffers].style"}};
+            {"Protocol Buffers", "Google[Protocol Buffers].style"},
+            {"Objective-C", "Google[Objective-C].style"}};
         for (QString const& language : languages) {
             loaded_plugin plugin(plugin_file_of(language.toStdString()));
             QVERIFY(plugin.get());

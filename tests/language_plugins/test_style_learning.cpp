@@ -32,6 +32,7 @@ std::vector<std::string> sources_of(QString const& language) {
         if (golden_case.startsWith(language + "/"))
             sources.push_back(golden_file(golden_case, "input"));
     // Java: a few files of the JDK's own sources (Debian's openjdk-17-source).
+    // Objective-C: the small macOS files of pugl (Debian's dpf-source).
     QDir const examples(language == "C" || language == "C++"
                             ? built::source_dir() + "/examples/" + (language == "C" ? "c" : "cpp")
                             : built::source_dir() + "/tests/language_plugins/samples/" + language);
@@ -94,6 +95,9 @@ private slots:
         QTest::newRow("C LLVM, case labels indented, continuation lines 2 further in")
             << "C" << "{BasedOnStyle: LLVM, IndentCaseLabels: true, ContinuationIndentWidth: 2}" << QStringList()
             << QStringList{"IndentCaseLabels: true", "ContinuationIndentWidth: 2"};
+        QTest::newRow("Objective-C Google, indent 4, blocks indented 4, a blank after @property")
+            << "Objective-C" << "{BasedOnStyle: Google, IndentWidth: 4, ObjCBlockIndentWidth: 4, "
+                                "ObjCSpaceAfterProperty: true}" << QStringList() << QStringList();
     }
     void learns_back_a_known_style() {
         QFETCH(QString, language);
