@@ -117,6 +117,8 @@ char const* configuration_name_of(lexed_as language) {
         return "Java";
     case clang::format::FormatStyle::LK_Proto:
         return "Proto";
+    case clang::format::FormatStyle::LK_CSharp:
+        return "CSharp";
     default:
         return "Cpp";
     }

@@ -16,7 +16,12 @@ namespace tarnel_engine {
 // blocks ("""...""", their white space included), `>>>`, `>>>=` and `non-sealed`. Protocol
 // Buffers: clang's lexer without what C++ alone has, whose tokens are then protobuf's (names,
 // numbers, strings in either quote, comments, punctuation).
-enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers };
+// C#: clang's lexer without what C++ alone has, with C#'s own tokens read whole: verbatim strings
+// (@"..." with "" inside), interpolated strings ($"...{x}...", $@"...", @$"...", their holes
+// included), raw strings ("""...""", $"""...""" and more quotes), verbatim names (@class),
+// `?.`, `?[`, `??`, `??=`, `=>`, `..`, `>>>` and `>>>=`.
+enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers,
+                      csharp };
 
 // The spelling of each token, in order, with lines continued by a backslash joined. Comments are
 // tokens too, their white space left out (the engine indents the lines of a block comment again);
