@@ -7,6 +7,7 @@
 #include "engine/traits_of.h"
 #include "java_language.h"
 #include "proto_language.h"
+#include "csharp_language.h"
 #include "tests/harness/built_files.h"
 
 #include <QDir>
@@ -42,16 +43,23 @@ QString plugin_file_of(std::string const& language) {
         return "libjava-language-plugin.so";
     if (language == "Protocol Buffers")
         return "libproto-language-plugin.so";
+    if (language == "C#")
+        return "libcsharp-language-plugin.so";
     return language == "C" ? c_plugin_file() : cpp_plugin_file();
 }
 
-QStringList our_languages() { return {"C", "C++", "Java", "Protocol Buffers"}; }
+QStringList our_languages() {
+    return {"C", "C++", "Java", "Protocol Buffers",
+            "C#"};
+}
 
 tarnel_engine::language_description const& description_of(QString const& language) {
     if (language == "Java")
         return java_language();
     if (language == "Protocol Buffers")
         return proto_language();
+    if (language == "C#")
+        return csharp_language();
     return language == "C" ? c_language() : cpp_language();
 }
 
