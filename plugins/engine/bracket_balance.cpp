@@ -38,7 +38,8 @@ char opener_of(clang::tok::TokenKind kind) {
 
 }  // namespace
 
-bool walk_brackets_of(std::string const& code, std::function<void(bracket_step const&)> const& visit) {
+bool walk_brackets_of(std::string const& code, std::function<void(bracket_step const&)> const& visit,
+                      lexed_as language) {
     clang::LangOptions const options = lexer_options_for(lexed_as::latest_cpp);
     clang::Lexer lexer(clang::SourceLocation(), options, code.data(), code.data(), code.data() + code.size());
     lexer.SetCommentRetentionState(false);
@@ -61,6 +62,18 @@ bool walk_brackets_of(std::string const& code, std::function<void(bracket_step c
         if (!have_token) {
             lexer.LexFromRawLexer(token);
             token_end = lexer.getBufferLocation();
+            char const first = token_end - token.getLength() < code.data() + code.size() ? *(token_end - token.getLength()) : 0;
+            if (language == lexed_as::csharp && (first == '"' || first == '@' || first == '$')) {
+                std::size_t const start = static_cast<std::size_t>(token_end - token.getLength() - code.data());
+                std::size_t const whole =
+                    end_of_csharp_token(code, start, static_cast<std::size_t>(token_end - code.data()));
+                if (code.data() + whole != token_end) {
+                    lexer.seek(static_cast<unsigned>(whole), false);
+                    token.setKind(clang::tok::string_literal);
+                    token.setLength(static_cast<unsigned>(whole - start));
+                    token_end = code.data() + whole;
+                }
+            }
         }
         have_token = false;
         if (token.is(clang::tok::eof))
@@ -112,6 +125,6 @@ bool walk_brackets_of(std::string const& code, std::function<void(bracket_step c
     return balanced && open.empty();
 }
 
-bool brackets_are_balanced_in(std::string const& code) { return walk_brackets_of(code, {}); }
+bool brackets_are_balanced_in(std::string const& code, lexed_as language) { return walk_brackets_of(code, {}, language); }
 
 }  // namespace tarnel_engine

@@ -134,47 +134,6 @@ std::size_t end_of_csharp_string(std::string_view code, std::size_t at, std::siz
     return code.size();
 }
 
-// Where a token of C# ends that clang's lexer reads otherwise (it starts at `start`, clang's token
-// ends at `end`): strings verbatim, interpolated or raw, verbatim names, `?.`, `?[`, `??`, `??=`,
-// `=>`, `..`, `>>>` and `>>>=`; `end` itself for every other token.
-std::size_t end_of_csharp_token(std::string_view code, std::size_t start, std::size_t end) {
-    auto const follows = [&](std::string_view text) { return code.substr(end, text.size()) == text; };
-    char const first = code[start];
-    if (first == '"' || first == '@' || first == '$') {
-        std::size_t at = start, dollars = 0;
-        bool verbatim = false;
-        while (at < code.size() && (code[at] == '$' || code[at] == '@')) {
-            dollars += code[at] == '$';
-            verbatim = verbatim || code[at] == '@';
-            ++at;
-        }
-        if (at < code.size() && code[at] == '"')
-            return std::max(end, end_of_csharp_string(code, at, dollars, verbatim));
-        if (first == '@' && at == start + 1 && at < code.size() && is_word_character(code[at])) {
-            while (at < code.size() && is_word_character(code[at]))
-                ++at;
-            return std::max(end, at);
-        }
-        return end;
-    }
-    std::string_view const spelling = code.substr(start, end - start);
-    if (spelling == "?") {
-        if (follows("?="))
-            return end + 2;
-        if (follows("?") || follows("["))
-            return end + 1;
-        if (follows(".") && !(end + 1 < code.size() && code[end + 1] >= '0' && code[end + 1] <= '9'))
-            return end + 1;
-    }
-    if (spelling == "=" && follows(">"))
-        return end + 1;
-    if (spelling == "." && follows(".") && !follows(".."))
-        return end + 1;
-    if (spelling == ">>" && follows(">"))
-        return end + (follows(">=") ? 2 : 1);
-    return end;
-}
-
 // Markers that no token's spelling can be: a line break leads them.
 std::string const directive_begins = "\n#";
 std::string const directive_ends = "\n";
@@ -290,6 +249,47 @@ std::vector<placed_token> placed_tokens_of(std::string const& code, lexed_as lan
 }
 
 }  // namespace
+
+// Where a token of C# ends that clang's lexer reads otherwise (it starts at `start`, clang's token
+// ends at `end`): strings verbatim, interpolated or raw, verbatim names, `?.`, `?[`, `??`, `??=`,
+// `=>`, `..`, `>>>` and `>>>=`; `end` itself for every other token.
+std::size_t end_of_csharp_token(std::string_view code, std::size_t start, std::size_t end) {
+    auto const follows = [&](std::string_view text) { return code.substr(end, text.size()) == text; };
+    char const first = code[start];
+    if (first == '"' || first == '@' || first == '$') {
+        std::size_t at = start, dollars = 0;
+        bool verbatim = false;
+        while (at < code.size() && (code[at] == '$' || code[at] == '@')) {
+            dollars += code[at] == '$';
+            verbatim = verbatim || code[at] == '@';
+            ++at;
+        }
+        if (at < code.size() && code[at] == '"')
+            return std::max(end, end_of_csharp_string(code, at, dollars, verbatim));
+        if (first == '@' && at == start + 1 && at < code.size() && is_word_character(code[at])) {
+            while (at < code.size() && is_word_character(code[at]))
+                ++at;
+            return std::max(end, at);
+        }
+        return end;
+    }
+    std::string_view const spelling = code.substr(start, end - start);
+    if (spelling == "?") {
+        if (follows("?="))
+            return end + 2;
+        if (follows("?") || follows("["))
+            return end + 1;
+        if (follows(".") && !(end + 1 < code.size() && code[end + 1] >= '0' && code[end + 1] <= '9'))
+            return end + 1;
+    }
+    if (spelling == "=" && follows(">"))
+        return end + 1;
+    if (spelling == "." && follows(".") && !follows(".."))
+        return end + 1;
+    if (spelling == ">>" && follows(">"))
+        return end + (follows(">=") ? 2 : 1);
+    return end;
+}
 
 std::vector<std::string> tokens_of(std::string const& code, lexed_as language) {
     std::vector<std::string> texts;

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarnel_engine {
@@ -22,6 +23,11 @@ namespace tarnel_engine {
 // `?.`, `?[`, `??`, `??=`, `=>`, `..`, `>>>` and `>>>=`.
 enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers,
                       csharp };
+
+// Where a token of C# ends that clang's lexer reads otherwise (it starts at `start` of the code,
+// clang's token ends at `end`): strings verbatim, interpolated or raw, verbatim names, `?.`, `?[`,
+// `??`, `??=`, `=>`, `..`, `>>>` and `>>>=`; `end` itself for every other token.
+std::size_t end_of_csharp_token(std::string_view code, std::size_t start, std::size_t end);
 
 // The spelling of each token, in order, with lines continued by a backslash joined. Comments are
 // tokens too, their white space left out (the engine indents the lines of a block comment again);

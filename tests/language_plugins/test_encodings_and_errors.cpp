@@ -105,6 +105,11 @@ private slots:
         QTest::newRow("Protocol Buffers: brackets in strings of either quote")
             << "message A {\n  string a = 1 [default = '}'];\n  string b = 2 [default = \"]\"];\n}\n" << false
             << QStringList{"Protocol Buffers"};
+        QTest::newRow("C#: a method without its closing brace")
+            << "class A {\n  void F() {\n    G(\"}\");\n}\n" << true << QStringList{"C#"};
+        QTest::newRow("C#: brackets in verbatim and interpolated strings")
+            << "class A {\n  string a = @\"C:\\\"; string d = \"(\";\n  string e = @\"}\"\"(\";\n  string b = $\"{x} }}\";\n  string c = $@\"{{\"\"{y}\";\n}\n"
+            << false << QStringList{"C#"};
     }
     void answers_syntax_errors() {
         QFETCH(QString, code);
@@ -113,7 +118,8 @@ private slots:
         std::string const source = code.toStdString();
         std::map<QString, QString> const styles = {
             {"C", "GNU[C].style"}, {"C++", "Google[C++].style"}, {"Java", "Google[Java].style"},
-            {"Protocol Buffers", "Google[Protocol Buffers].style"}};
+            {"Protocol Buffers", "Google[Protocol Buffers].style"},
+            {"C#", "Microsoft[C#].style"}};
         for (QString const& language : languages) {
             loaded_plugin plugin(plugin_file_of(language.toStdString()));
             QVERIFY(plugin.get());

@@ -99,6 +99,11 @@ private slots:
              {"@interface", "\"a\\\"b\"", "@Tag(\"x\")", "'\\''", "1_000L"}, {"Java"}},
             {"quotes of either kind", "syntax=\"proto3\";\noption go_package='a\"b';\nmessage M{string s=1[default=\"x'y\"];}\n",
              {"'a\"b'", "\"x'y\""}, {"Protocol Buffers"}},
+            {"strings of C#",
+             "class A{string a=@\"C:\\x\\\"\"q\"\"  \";string b=$\"p {x  +  1} {\"in  ner\"} q\";string c=$@\"r\\{y}  \"\"s\"\"\";char d='\"';}\n",
+             {"@\"C:\\x\\\"\"q\"\"  \"", "$\"p {x  +  1} {\"in  ner\"} q\"", "$@\"r\\{y}  \"\"s\"\"\"", "'\"'"}, {"C#"}},
+            {"operators of C#", "class A{void f(){var @class=a?.b??c;e?\?=f?[1];g=x=>x>>>2;}}\n",
+             {"@class", "a?.b ?? c", "e ?\?= f?[1]", "x => x >>> 2"}, {"C#"}},
         };
         for (QString const& addon : shipped_addons())
             for (snippet const& each : snippets)
@@ -148,6 +153,13 @@ private slots:
                 QTest::newRow(qPrintable(addon + " non-sealed")) << addon << "public  non-sealed class A {}\n" << QString();
                 QTest::newRow(qPrintable(addon + " text block"))
                     << addon << "class A {\n  String s = \"\"\"\n      hello\n        world\n      \"\"\";\n}\n" << QString();
+            }
+            // White space that the engine changes inside a token of C#, or a token of C# the engine
+            // makes of two: the source stays as it is.
+            if (language_of(addon) == "C#") {
+                QTest::newRow(qPrintable(addon + " raw string"))
+                    << addon << "class A {\n  string s = \"\"\"\n    raw  \"\" text\n    \"\"\";\n}\n" << QString();
+                QTest::newRow(qPrintable(addon + " ? . apart")) << addon << "var  y = a ? . b;\n" << QString();
             }
             if (!of_the_c_family(addon))
                 continue;
