@@ -1,5 +1,5 @@
-// One of our plugins' revise() (built once for each, FUZZED_LANGUAGE "C", "C++", "Java" or
-// "Protocol Buffers") on any source, in the style of a shipped addon of that language chosen by the input's first byte.
+// One of our plugins' revise() (built once for each, FUZZED_LANGUAGE "C", "C++", "Java",
+// "Protocol Buffers" or "C#") on any source, in the style of a shipped addon of that language chosen by the input's first byte.
 // Promises: the result is the syntax-error text or has the source's non-white-space bytes and its
 // tokens (read by the plugins' own lexer, as the language's compiler reads them), and revising the
 // result again changes nothing.
@@ -9,6 +9,7 @@
 #include "cpp_language.h"
 #include "java_language.h"
 #include "proto_language.h"
+#include "csharp_language.h"
 #include "language_plugin_base.h"
 #include "token_sequence.h"
 
@@ -29,6 +30,8 @@ tarnel_engine::language_description const& fuzzed_language() {
         return java_language();
     if (std::strcmp(FUZZED_LANGUAGE, "Protocol Buffers") == 0)
         return proto_language();
+    if (std::strcmp(FUZZED_LANGUAGE, "C#") == 0)
+        return csharp_language();
     return std::strcmp(FUZZED_LANGUAGE, "C") == 0 ? c_language() : cpp_language();
 }
 
