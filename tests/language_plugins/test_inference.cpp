@@ -106,6 +106,11 @@ private slots:
         QTest::newRow("Protocol Buffers LLVM, fields aligned, comments two blanks away, limit 100")
             << "Protocol Buffers" << "{BasedOnStyle: LLVM, AlignConsecutiveAssignments: {Enabled: true}, "
                                      "SpacesBeforeTrailingComments: 2, ColumnLimit: 100}";
+        QTest::newRow("C# Microsoft, indent 2, namespaces indented, braces at line ends")
+            << "C#" << "{BasedOnStyle: Microsoft, IndentWidth: 2, NamespaceIndentation: All, BreakBeforeBraces: Attach}";
+        QTest::newRow("C# Google, indent 4, case labels at the switch, blanks inside parentheses")
+            << "C#" << "{BasedOnStyle: Google, IndentWidth: 4, IndentCaseLabels: false, SpacesInParens: Custom, "
+                       "SpacesInParensOptions: {InConditionalStatements: true, Other: true}}";
     }
     void option_sets_round_trip() {
         QFETCH(QString, language);
