@@ -205,6 +205,10 @@ void test_ci_and_editors::the_diff_applies_with_git_apply_data() {
         << "Protocol Buffers" << "Google"
         << "a.proto=syntax = \"proto3\";\nmessage A{\nint32 a=1; string b = 2;}\n"
            " | b/b.proto=service B { rpc Get(A)\nreturns (A); }";
+    QTest::newRow("lines joined and split by C#")
+        << "C#" << "Microsoft"
+        << "a/A.cs=namespace N{\nclass A{\nint F( int a ){\nif(a>0){\nreturn a??1;}\nreturn 0;}}}\n"
+           " | b.cs=class B\n{\nstring S=>@\"x\\\";  int P { get; set; }\n}";
 }
 
 void test_ci_and_editors::the_diff_applies_with_git_apply() {
@@ -214,7 +218,8 @@ void test_ci_and_editors::the_diff_applies_with_git_apply() {
     installed_bundle bundle;
     std::map<QString, QString> const our_plugins = {{"C++", "libcpp-language-plugin.so"},
                                                     {"Java", "libjava-language-plugin.so"},
-                                                    {"Protocol Buffers", "libproto-language-plugin.so"}};
+                                                    {"Protocol Buffers", "libproto-language-plugin.so"},
+                                                    {"C#", "libcsharp-language-plugin.so"}};
     if (our_plugins.count(language)) {
         bundle.add_plugin(built::build_dir() + "/PlugIns/languages/" + our_plugins.at(language));
         QString const addon = style + "[" + language + "].style";
