@@ -62,12 +62,13 @@ bool walk_brackets_of(std::string const& code, std::function<void(bracket_step c
         if (!have_token) {
             lexer.LexFromRawLexer(token);
             token_end = lexer.getBufferLocation();
-            char const first = token_end - token.getLength() < code.data() + code.size() ? *(token_end - token.getLength()) : 0;
+            std::size_t const start = static_cast<std::size_t>(token_end - code.data()) - token.getLength();
+            char const first = token.is(clang::tok::eof) ? '\0' : code[start];
+            // A string or a verbatim name of C# read whole, as the token check reads it: its quotes,
+            // backslashes and brackets are none of the code's.
             if (language == lexed_as::csharp && (first == '"' || first == '@' || first == '$')) {
-                std::size_t const start = static_cast<std::size_t>(token_end - token.getLength() - code.data());
-                std::size_t const whole =
-                    end_of_csharp_token(code, start, static_cast<std::size_t>(token_end - code.data()));
-                if (code.data() + whole != token_end) {
+                std::size_t const whole = end_of_csharp_token(code, start, start + token.getLength());
+                if (whole != start + token.getLength()) {
                     lexer.seek(static_cast<unsigned>(whole), false);
                     token.setKind(clang::tok::string_literal);
                     token.setLength(static_cast<unsigned>(whole - start));
