@@ -119,8 +119,6 @@ char const* configuration_name_of(lexed_as language) {
         return "Proto";
     case clang::format::FormatStyle::LK_ObjC:
         return "ObjC";
-    case clang::format::FormatStyle::LK_CSharp:
-        return "CSharp";
     default:
         return "Cpp";
     }
