@@ -377,14 +377,15 @@ form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<
 }
 
 // Code of our languages ends most of its lines with `;`, `{` or `}`, or begins them with `#`;
-// text of other languages (Python, shell, prose) hardly ever does.
+// text of other languages (Python, shell, prose) hardly ever does. Lines of comments say nothing
+// either way: a documented project has more of them than of code.
 bool code_of_the_language_in(std::vector<std::string> const& pieces) {
     long lines = 0;
     long like_code = 0;
     for (std::string const& piece : pieces)
         for (std::string const& line : lines_of(piece)) {
             std::string const text = trimmed(line);
-            if (text.empty())
+            if (text.empty() || text[0] == '*' || text.compare(0, 2, "//") == 0 || text.compare(0, 2, "/*") == 0)
                 continue;
             ++lines;
             char const last = text.back();

@@ -319,6 +319,32 @@ private slots:
         QVERIFY(!stopped || reports == 1);
     }
 
+    // Code documented at length is still code: the JDK's sources hold more lines of comment than of
+    // code, and their style was refused as no code of the language.
+    void learns_from_code_documented_at_length_data() {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("code");
+        QTest::newRow("Java, a method under each comment")
+            << "Java" << "class Items%1 {\n%2    int size%1(int limit) {\n        return limit + %1;\n    }\n}\n";
+        QTest::newRow("C, a function under each comment")
+            << "C" << "%2int size%1(int limit)\n{\n    return limit + %1;\n}\n";
+    }
+    void learns_from_code_documented_at_length() {
+        QFETCH(QString, language);
+        QFETCH(QString, code);
+        QString comment = "    /**\n";
+        for (int line = 0; line < 20; ++line)
+            comment += "     * Returns the number of items, counted as the collection holds them, line " +
+                       QString::number(line) + ".\n";
+        comment += "     */\n";
+        std::vector<std::string> project;
+        for (int file = 0; file < 6; ++file)
+            project.push_back(code.arg(file).arg(comment).toStdString());
+        loaded_plugin plugin(plugin_file_of(language.toStdString()));
+        QVERIFY(plugin.learning());
+        QVERIFY(!plugin.learning()->learn_style(project, "Learned", {}).addon.empty());
+    }
+
     // Sources the engine cannot format in bounded time and memory are neither learned from nor
     // counted, and the others still are: one Qt header of long #elif chains nested five deep made
     // the engine read it thousands of times (37 s, 1 GB) in the count.
