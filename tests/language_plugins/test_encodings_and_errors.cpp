@@ -110,6 +110,11 @@ private slots:
         QTest::newRow("Objective-C: brackets in literals and a block")
             << "@implementation A\n- (id)f {\n  return @[ @\"]\", @\"{\" ];\n}\n@end\n" << false
             << QStringList{"Objective-C"};
+        QTest::newRow("C#: a method without its closing brace")
+            << "class A {\n  void F() {\n    G(\"}\");\n}\n" << true << QStringList{"C#"};
+        QTest::newRow("C#: brackets in verbatim and interpolated strings")
+            << "class A {\n  string a = @\"C:\\\"; string d = \"(\";\n  string e = @\"}\"\"(\";\n  string b = $\"{x} }}\";\n  string c = $@\"{{\"\"{y}\";\n}\n"
+            << false << QStringList{"C#"};
     }
     void answers_syntax_errors() {
         QFETCH(QString, code);
@@ -119,7 +124,8 @@ private slots:
         std::map<QString, QString> const styles = {
             {"C", "GNU[C].style"}, {"C++", "Google[C++].style"}, {"Java", "Google[Java].style"},
             {"Protocol Buffers", "Google[Protocol Buffers].style"},
-            {"Objective-C", "Google[Objective-C].style"}};
+            {"Objective-C", "Google[Objective-C].style"},
+            {"C#", "Microsoft[C#].style"}};
         for (QString const& language : languages) {
             loaded_plugin plugin(plugin_file_of(language.toStdString()));
             QVERIFY(plugin.get());
