@@ -16,9 +16,11 @@
 // combination in a pass of its own: any of them may be left out.
 #include "source_hazards.h"
 
-#include "token_sequence.h"
-
 #include <clang/Basic/IdentifierTable.h>
+#include <clang/Lex/Lexer.h>
+
+#include <algorithm>
+#include <string_view>
 
 #include <set>
 #include <vector>
@@ -27,41 +29,131 @@ namespace tarnel_engine {
 
 namespace {
 
-// A token of the code, or a preprocessor line by the name of its directive. Comments are left
-// out: the engine reads past them.
+// A token of the code as the engine reads it, or a preprocessor line by the name of its
+// directive. Comments are left out: the engine reads past them.
 struct piece {
     std::string text;
     bool directive = false;
 };
-
-bool is_comment(std::string const& token) { return token.rfind("//", 0) == 0 || token.rfind("/*", 0) == 0; }
-
-std::vector<piece> pieces_of(std::string const& code) {
-    std::vector<std::string> const tokens = tokens_of(code, lexed_as::csharp);
-    std::vector<piece> pieces;
-    for (std::size_t at = 0; at < tokens.size(); ++at) {
-        if (is_comment(tokens[at]))
-            continue;
-        // A directive begins with a token marked by a line break before its `#`, and ends with a
-        // line break of its own.
-        if (tokens[at].size() > 1 && tokens[at][0] == '\n') {
-            std::string name;
-            for (++at; at < tokens.size() && tokens[at] != "\n"; ++at)
-                if (name.empty() && !is_comment(tokens[at]))
-                    name = tokens[at];
-            pieces.push_back({name, true});
-            continue;
-        }
-        pieces.push_back({tokens[at], false});
-    }
-    return pieces;
-}
 
 bool is_word_character(char c) {
     unsigned char const byte = static_cast<unsigned char>(c);
     return (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') || (byte >= '0' && byte <= '9') ||
            byte == '_' || byte >= 0x80;
 }
+
+// Where the engine ends a C# string whose text starts at `at` (after its `$`, `@` or both and its
+// quote): at its closing quote, or nowhere (`code.size()`) when an interpolation closes a brace
+// it did not open or the code ends first. Line breaks do not end it.
+std::size_t engine_end_of_string(std::string const& code, std::size_t at, bool verbatim, bool interpolated) {
+    auto const doubled = [&](std::size_t where) { return where + 1 < code.size() && code[where + 1] == code[where]; };
+    unsigned long open = 0;
+    for (; at < code.size(); ++at) {
+        char const c = code[at];
+        if (c == '\\' && !verbatim) {
+            ++at;
+        } else if (c == '{' && interpolated) {
+            if (doubled(at))
+                ++at;
+            else
+                ++open;
+        } else if (c == '}' && interpolated) {
+            if (doubled(at))
+                ++at;
+            else if (open > 0)
+                --open;
+            else
+                return code.size();
+        } else if (c == '"' && open == 0) {
+            if (!(verbatim && doubled(at)))
+                return at;
+            ++at;
+        }
+    }
+    return code.size();
+}
+
+// The tokens as the engine reads them: clang's lexer with the engine's options, a string led by
+// `$`, `@` or both taken as one token, and read on across lines as far as its closing quote
+// where the engine finds one. Where the engine's reading differs from the compiler's (the token
+// check's, token_sequence.h), in malformed strings, it is the engine's that decides the crash.
+std::vector<piece> pieces_of(std::string const& code, clang::format::FormatStyle const& style) {
+    clang::LangOptions const options = clang::format::getFormattingLangOpts(style);
+    char const* const begin = code.data();
+    clang::Lexer lexer(clang::SourceLocation(), options, begin, begin, begin + code.size());
+    lexer.SetCommentRetentionState(true);
+    std::vector<piece> pieces;
+    std::vector<std::size_t> starts;  // where each piece of code starts
+    bool in_directive = false, named = false;
+    clang::Token token;
+    while (true) {
+        lexer.LexFromRawLexer(token);
+        if (token.is(clang::tok::eof))
+            break;
+        std::size_t const end = static_cast<std::size_t>(lexer.getBufferLocation() - begin);
+        std::size_t const start = end - token.getLength();
+        std::string text(begin + start, token.getLength());
+        if (token.isAtStartOfLine())
+            in_directive = false;
+        if (token.is(clang::tok::comment))
+            continue;
+        if (in_directive) {
+            if (!named)
+                pieces.back().text = text;
+            named = true;
+            continue;
+        }
+        if (token.isAtStartOfLine() && token.is(clang::tok::hash)) {
+            pieces.push_back({std::string(), true});
+            starts.push_back(start);
+            in_directive = true;
+            named = false;
+            continue;
+        }
+        // The engine takes an unterminated string (it ends at the end of its line) for a string.
+        bool const string = token.is(clang::tok::string_literal) || (token.is(clang::tok::unknown) && text[0] == '"');
+        if (string && !pieces.empty() && !pieces.back().directive &&
+            (pieces.back().text == "$" || pieces.back().text == "@")) {
+            // The engine joins `$"..."`, `@"..."`, `$@"..."` and `@$"..."` into one string.
+            std::size_t from = starts.back();
+            pieces.pop_back();
+            starts.pop_back();
+            if (!pieces.empty() && !pieces.back().directive && (pieces.back().text == "$" || pieces.back().text == "@") &&
+                pieces.back().text != std::string(1, code[from])) {
+                from = starts.back();
+                pieces.pop_back();
+                starts.pop_back();
+            }
+            std::string_view const lead(begin + from, std::min<std::size_t>(3, code.size() - from));
+            bool const both = lead == "$@\"" || lead == "@$\"";
+            bool const verbatim = both || lead.substr(0, 2) == "@\"";
+            bool const interpolated = both || lead.substr(0, 2) == "$\"";
+            std::size_t string_end = end;
+            if (verbatim || interpolated) {
+                std::size_t const closing = engine_end_of_string(code, from + (both ? 3 : 2), verbatim, interpolated);
+                if (closing < code.size()) {
+                    string_end = closing + 1;
+                    lexer.seek(static_cast<unsigned>(string_end), false);
+                }
+            }
+            pieces.push_back({code.substr(from, string_end - from), false});
+            starts.push_back(from);
+            continue;
+        }
+        if (!pieces.empty() && pieces.back().text == "@" && !pieces.back().directive && is_word_character(text[0])) {
+            pieces.back().text += text;  // a verbatim name, `@class`: the engine reads it as a name
+            continue;
+        }
+        if (text == ">" && !pieces.empty() && pieces.back().text == "=" && starts.back() + 1 == start) {
+            pieces.back().text = "=>";  // the engine's fat arrow
+            continue;
+        }
+        pieces.push_back({std::move(text), false});
+        starts.push_back(start);
+    }
+    return pieces;
+}
+
 
 bool is_conditional(std::string const& directive) {
     return directive == "if" || directive == "ifdef" || directive == "ifndef" || directive == "elif" ||
@@ -72,7 +164,7 @@ bool is_conditional(std::string const& directive) {
 class property_walk {
 public:
     property_walk(std::string const& code, clang::format::FormatStyle const& style)
-        : pieces(pieces_of(code)), size(pieces.size()), keywords(clang::format::getFormattingLangOpts(style)),
+        : pieces(pieces_of(code, style)), size(pieces.size()), keywords(clang::format::getFormattingLangOpts(style)),
           closing(size, size), next_semicolon(size + 1, size), next_branch(size, size) {
         std::vector<std::size_t> open, conditionals;
         for (std::size_t at = 0; at < size; ++at) {

@@ -124,6 +124,8 @@ private slots:
             << QStringList{"C#"};
         QTest::newRow("C#: a block after the accessors in a pass over the other branch of a conditional")
             << "class A {\n  int P { get; }\n#if B\n  int Q;\n#else\n  { }\n#endif\n}\n" << true << QStringList{"C#"};
+        QTest::newRow("C#: a block after accessors that the engine reads outside a string the compiler reads whole")
+            << "class A {\n  string S = $\"{F(\"}\")} P { get; } { }\";\n}\n" << true << QStringList{"C#"};
         QTest::newRow("C#: properties with initializers, patterns and conditionals the engine reads")
             << "class A {\n  public int P { get; private set; } = 1;\n  Action Q { get => () => { F(); }; }\n"
                "  Action R { get; } = () => {\n    F();\n    if (x) {\n      G();\n    }\n  };\n"
