@@ -20,9 +20,8 @@
 #include <clang/Lex/Lexer.h>
 
 #include <algorithm>
-#include <string_view>
-
 #include <set>
+#include <string_view>
 #include <vector>
 
 namespace tarnel_engine {
@@ -111,8 +110,8 @@ std::vector<piece> pieces_of(std::string const& code, clang::format::FormatStyle
             continue;
         }
         // The engine takes an unterminated string (it ends at the end of its line) for a string.
-        bool const string = token.is(clang::tok::string_literal) || (token.is(clang::tok::unknown) && text[0] == '"');
-        if (string && !pieces.empty() && !pieces.back().directive &&
+        bool const is_string = token.is(clang::tok::string_literal) || (token.is(clang::tok::unknown) && text[0] == '"');
+        if (is_string && !pieces.empty() && !pieces.back().directive &&
             (pieces.back().text == "$" || pieces.back().text == "@")) {
             // The engine joins `$"..."`, `@"..."`, `$@"..."` and `@$"..."` into one string.
             std::size_t from = starts.back();
