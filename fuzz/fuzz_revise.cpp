@@ -1,5 +1,6 @@
 // One of our plugins' revise() (built once for each, FUZZED_LANGUAGE "C", "C++", "Java",
-// "Protocol Buffers" or "Objective-C") on any source, in the style of a shipped addon of that language chosen by the input's first byte.
+// "Protocol Buffers", "Objective-C" or "C#") on any source, in the style of a shipped addon of that language
+// chosen by the input's first byte.
 // Promises: the result is the syntax-error text or has the source's non-white-space bytes and its
 // tokens (read by the plugins' own lexer, as the language's compiler reads them), and revising the
 // result again changes nothing.
@@ -12,6 +13,7 @@
 #ifdef FUZZED_OBJECTIVE_C  // only its own target links the Objective-C language
 #include "objc_language.h"
 #endif
+#include "csharp_language.h"
 #include "language_plugin_base.h"
 #include "token_sequence.h"
 
@@ -36,6 +38,8 @@ tarnel_engine::language_description const& fuzzed_language() {
     if (std::strcmp(FUZZED_LANGUAGE, "Objective-C") == 0)
         return objc_language();
 #endif
+    if (std::strcmp(FUZZED_LANGUAGE, "C#") == 0)
+        return csharp_language();
     return std::strcmp(FUZZED_LANGUAGE, "C") == 0 ? c_language() : cpp_language();
 }
 

@@ -38,7 +38,8 @@ char opener_of(clang::tok::TokenKind kind) {
 
 }  // namespace
 
-bool walk_brackets_of(std::string const& code, std::function<void(bracket_step const&)> const& visit) {
+bool walk_brackets_of(std::string const& code, std::function<void(bracket_step const&)> const& visit,
+                      lexed_as language) {
     clang::LangOptions const options = lexer_options_for(lexed_as::latest_cpp);
     clang::Lexer lexer(clang::SourceLocation(), options, code.data(), code.data(), code.data() + code.size());
     lexer.SetCommentRetentionState(false);
@@ -61,6 +62,19 @@ bool walk_brackets_of(std::string const& code, std::function<void(bracket_step c
         if (!have_token) {
             lexer.LexFromRawLexer(token);
             token_end = lexer.getBufferLocation();
+            std::size_t const start = static_cast<std::size_t>(token_end - code.data()) - token.getLength();
+            char const first = token.is(clang::tok::eof) ? '\0' : code[start];
+            // A string or a verbatim name of C# read whole, as the token check reads it: its quotes,
+            // backslashes and brackets are none of the code's.
+            if (language == lexed_as::csharp && (first == '"' || first == '@' || first == '$')) {
+                std::size_t const whole = end_of_csharp_token(code, start, start + token.getLength());
+                if (whole != start + token.getLength()) {
+                    lexer.seek(static_cast<unsigned>(whole), false);
+                    token.setKind(clang::tok::string_literal);
+                    token.setLength(static_cast<unsigned>(whole - start));
+                    token_end = code.data() + whole;
+                }
+            }
         }
         have_token = false;
         if (token.is(clang::tok::eof))
@@ -112,6 +126,6 @@ bool walk_brackets_of(std::string const& code, std::function<void(bracket_step c
     return balanced && open.empty();
 }
 
-bool brackets_are_balanced_in(std::string const& code) { return walk_brackets_of(code, {}); }
+bool brackets_are_balanced_in(std::string const& code, lexed_as language) { return walk_brackets_of(code, {}, language); }
 
 }  // namespace tarnel_engine

@@ -1,6 +1,8 @@
 // The engine answers with replacements; applying them gives the formatted text.
 #include "engine_call.h"
 
+#include "source_hazards.h"
+
 #include <clang/Tooling/Core/Replacement.h>
 
 #include <algorithm>
@@ -65,6 +67,9 @@ std::optional<clang::tooling::Replacement> within_the_lines_of(clang::tooling::R
 // the ranges, and the positions are moved by them.
 engine_outcome formatted(clang::format::FormatStyle const& style, std::string const& code,
                          std::vector<clang::tooling::Range> const& ranges, std::vector<unsigned>* positions = nullptr) {
+    // Code that would crash the engine is code it cannot format.
+    if (!engine_survives_the_code(code, style))
+        return {code, false, {}};
     clang::format::FormattingAttemptStatus status;
     clang::tooling::Replacements replacements = clang::format::reformat(style, code, ranges, "<stdin>", &status);
     if (positions != nullptr) {

@@ -119,6 +119,8 @@ char const* configuration_name_of(lexed_as language) {
         return "Proto";
     case clang::format::FormatStyle::LK_ObjC:
         return "ObjC";
+    case clang::format::FormatStyle::LK_CSharp:
+        return "CSharp";
     default:
         return "Cpp";
     }

@@ -38,6 +38,13 @@ clang::LangOptions lexer_options_for(lexed_as language) {
         options.Digraphs = true;
         options.RawStringLiterals = true;
         break;
+    case lexed_as::csharp:
+        // C#'s strings, verbatim names and operators that clang reads otherwise are read whole
+        // after it (token_sequence.cpp); `'` is no digit separator there.
+        options.CPlusPlus = options.CPlusPlus11 = true;
+        options.Digraphs = false;
+        options.RawStringLiterals = false;
+        break;
     }
     options.LineComment = true;
     options.Bool = true;

@@ -213,6 +213,24 @@ std::vector<option_group> make_objective_c_groups() {
     return groups;
 }
 
+// C# has no references, templates, constructor initializer lists of C++'s kind, unions,
+// preprocessor macros or bit fields; its pointers (in unsafe code) are rare enough to leave out.
+std::vector<option_group> make_csharp_groups() {
+    static std::set<std::string> const c_family_only = {
+        "PointerAlignment", "DerivePointerAlignment", "ReferenceAlignment", "AccessModifierOffset",
+        "IndentAccessModifiers", "EmptyLineBeforeAccessModifier", "BreakConstructorInitializers",
+        "PackConstructorInitializers", "ConstructorInitializerIndentWidth", "SpaceBeforeCtorInitializerColon",
+        "SpaceAfterTemplateKeyword", "BreakTemplateDeclarations", "BraceWrapping.AfterUnion",
+        "BraceWrapping.AfterExternBlock", "AlignConsecutiveMacros", "AlignConsecutiveBitFields",
+        "BitFieldColonSpacing", "IndentExternBlock", "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth",
+        "IndentGotoLabels", "AlignArrayOfStructures"};
+    std::vector<option_group> groups = make_groups();
+    groups.erase(std::remove_if(groups.begin(), groups.end(),
+                                [](option_group const& group) { return c_family_only.count(group.name) > 0; }),
+                 groups.end());
+    return groups;
+}
+
 }  // namespace
 
 std::vector<option_group> const& option_groups() {
@@ -224,6 +242,7 @@ std::vector<option_group> const& option_groups(lexed_as language) {
     static std::vector<option_group> const java = make_java_groups();
     static std::vector<option_group> const protocol_buffers = make_protocol_buffers_groups();
     static std::vector<option_group> const objective_c = make_objective_c_groups();
+    static std::vector<option_group> const csharp = make_csharp_groups();
     switch (language) {
     case lexed_as::java:
         return java;
@@ -231,6 +250,8 @@ std::vector<option_group> const& option_groups(lexed_as language) {
         return protocol_buffers;
     case lexed_as::objective_c:
         return objective_c;
+    case lexed_as::csharp:
+        return csharp;
     case lexed_as::latest_c:
     case lexed_as::latest_cpp:
         break;

@@ -54,6 +54,8 @@ clang::format::FormatStyle::LanguageKind engine_kind_of(lexed_as language) {
         return clang::format::FormatStyle::LK_Proto;
     case lexed_as::objective_c:
         return clang::format::FormatStyle::LK_ObjC;
+    case lexed_as::csharp:
+        return clang::format::FormatStyle::LK_CSharp;
     case lexed_as::latest_c:
     case lexed_as::latest_cpp:
         break;
@@ -68,6 +70,7 @@ std::vector<std::string> const& names_of_predefined_styles(lexed_as language) {
     static std::vector<std::string> const java = {"Google", "Chromium", "Mozilla", "LLVM", "WebKit"};
     static std::vector<std::string> const protocol_buffers = {"Google", "LLVM", "Mozilla", "WebKit"};
     static std::vector<std::string> const objective_c = {"Google", "WebKit", "LLVM", "Chromium", "Mozilla"};
+    static std::vector<std::string> const csharp = {"Microsoft", "Google", "LLVM", "Mozilla", "WebKit"};
     switch (language) {
     case lexed_as::java:
         return java;
@@ -75,6 +78,8 @@ std::vector<std::string> const& names_of_predefined_styles(lexed_as language) {
         return protocol_buffers;
     case lexed_as::objective_c:
         return objective_c;
+    case lexed_as::csharp:
+        return csharp;
     case lexed_as::latest_c:
     case lexed_as::latest_cpp:
         break;

@@ -63,6 +63,77 @@ std::size_t end_of_java_token(std::string_view code, std::string_view spelling, 
     return end;
 }
 
+// Where a string of C# that opens at `at` ends: `dollars` `$`s before it (an interpolated string,
+// whose holes in braces may hold strings of their own), `verbatim` for an `@` (`""` stands for a
+// quote, a backslash for itself). Three quotes or more open a raw string, closed by as many. An
+// unclosed string takes the rest of its line (the rest of the code when verbatim, raw or
+// interpolated).
+std::size_t end_of_csharp_string(std::string_view code, std::size_t at, std::size_t dollars, bool verbatim) {
+    std::size_t quotes = 0;
+    while (at + quotes < code.size() && code[at + quotes] == '"')
+        ++quotes;
+    if (quotes >= 3) {
+        std::size_t const found = code.find(std::string(quotes, '"'), at + quotes);
+        if (found == std::string_view::npos)
+            return code.size();
+        std::size_t end = found + quotes;
+        while (end < code.size() && code[end] == '"')
+            ++end;
+        return end;
+    }
+    if (quotes == 2 && !verbatim)
+        return at + 2;
+    for (std::size_t next = at + 1; next < code.size(); ++next) {
+        char const c = code[next];
+        if (c == '\\' && !verbatim) {
+            ++next;
+        } else if (c == '"') {
+            if (!verbatim || next + 1 >= code.size() || code[next + 1] != '"')
+                return next + 1;
+            ++next;
+        } else if (c == '{' && dollars > 0) {
+            if (next + 1 < code.size() && code[next + 1] == '{') {
+                ++next;
+                continue;
+            }
+            // A hole: an expression up to its closing brace, with braces, characters and strings
+            // of its own.
+            std::size_t depth = 1;
+            while (++next < code.size()) {
+                char const inner = code[next];
+                if (inner == '{') {
+                    ++depth;
+                } else if (inner == '}') {
+                    if (--depth == 0)
+                        break;
+                } else if (inner == '\'') {
+                    std::size_t const close = code.find('\'', next + (next + 1 < code.size() && code[next + 1] == '\\' ? 3 : 2));
+                    if (close == std::string_view::npos)
+                        return code.size();
+                    next = close;
+                } else if (inner == '"' || inner == '@' || inner == '$') {
+                    std::size_t opening = next, inner_dollars = 0;
+                    bool inner_verbatim = false;
+                    while (opening < code.size() && (code[opening] == '$' || code[opening] == '@')) {
+                        inner_dollars += code[opening] == '$';
+                        inner_verbatim = inner_verbatim || code[opening] == '@';
+                        ++opening;
+                    }
+                    if (opening < code.size() && code[opening] == '"')
+                        next = end_of_csharp_string(code, opening, inner_dollars, inner_verbatim) - 1;
+                    else
+                        next = opening - 1;
+                }
+            }
+            if (next >= code.size())
+                return code.size();
+        } else if ((c == '\n' || c == '\r') && !verbatim && dollars == 0) {
+            return next;
+        }
+    }
+    return code.size();
+}
+
 // Markers that no token's spelling can be: a line break leads them.
 std::string const directive_begins = "\n#";
 std::string const directive_ends = "\n";
@@ -128,6 +199,13 @@ private:
         bool cleaning = token.needsCleaning();
         if (language == lexed_as::objective_c && token.is(clang::tok::at))
             end = end_of_objective_c_token(end, cleaning);
+        if (language == lexed_as::csharp) {
+            std::size_t const whole = end_of_csharp_token(std::string_view(begin, size), start, end);
+            if (whole != end) {
+                lexer.seek(static_cast<unsigned>(whole), false);
+                end = whole;
+            }
+        }
         std::string& text = queue(end);
         text.assign(begin + start, begin + end);
         if (cleaning)
@@ -198,6 +276,47 @@ std::vector<placed_token> placed_tokens_of(std::string const& code, lexed_as lan
 }
 
 }  // namespace
+
+// Where a token of C# ends that clang's lexer reads otherwise (it starts at `start`, clang's token
+// ends at `end`): strings verbatim, interpolated or raw, verbatim names, `?.`, `?[`, `??`, `??=`,
+// `=>`, `..`, `>>>` and `>>>=`; `end` itself for every other token.
+std::size_t end_of_csharp_token(std::string_view code, std::size_t start, std::size_t end) {
+    auto const follows = [&](std::string_view text) { return code.substr(end, text.size()) == text; };
+    char const first = code[start];
+    if (first == '"' || first == '@' || first == '$') {
+        std::size_t at = start, dollars = 0;
+        bool verbatim = false;
+        while (at < code.size() && (code[at] == '$' || code[at] == '@')) {
+            dollars += code[at] == '$';
+            verbatim = verbatim || code[at] == '@';
+            ++at;
+        }
+        if (at < code.size() && code[at] == '"')
+            return std::max(end, end_of_csharp_string(code, at, dollars, verbatim));
+        if (first == '@' && at == start + 1 && at < code.size() && is_word_character(code[at])) {
+            while (at < code.size() && is_word_character(code[at]))
+                ++at;
+            return std::max(end, at);
+        }
+        return end;
+    }
+    std::string_view const spelling = code.substr(start, end - start);
+    if (spelling == "?") {
+        if (follows("?="))
+            return end + 2;
+        if (follows("?") || follows("["))
+            return end + 1;
+        if (follows(".") && !(end + 1 < code.size() && code[end + 1] >= '0' && code[end + 1] <= '9'))
+            return end + 1;
+    }
+    if (spelling == "=" && follows(">"))
+        return end + 1;
+    if (spelling == "." && follows(".") && !follows(".."))
+        return end + 1;
+    if (spelling == ">>" && follows(">"))
+        return end + (follows(">=") ? 2 : 1);
+    return end;
+}
 
 std::vector<std::string> tokens_of(std::string const& code, lexed_as language) {
     std::vector<std::string> texts;

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tarnel_engine {
@@ -19,7 +20,16 @@ namespace tarnel_engine {
 // Objective-C: clang's lexer for Objective-C and Objective-C++ at once (C++'s latest standard,
 // which reads every C program's tokens alike), with `@` read whole with what it leads: `@interface`,
 // `@"string"`, `@[`, `@{`, `@(`, `@1`.
-enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers, objective_c };
+// C#: clang's lexer without what C++ alone has, with C#'s own tokens read whole: verbatim strings
+// (@"..." with "" inside), interpolated strings ($"...{x}...", $@"...", @$"...", their holes
+// included), raw strings ("""...""", $"""...""" and more quotes), verbatim names (@class),
+// `?.`, `?[`, `??`, `??=`, `=>`, `..`, `>>>` and `>>>=`.
+enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers, objective_c, csharp };
+
+// Where a token of C# ends that clang's lexer reads otherwise (it starts at `start` of the code,
+// clang's token ends at `end`): strings verbatim, interpolated or raw, verbatim names, `?.`, `?[`,
+// `??`, `??=`, `=>`, `..`, `>>>` and `>>>=`; `end` itself for every other token.
+std::size_t end_of_csharp_token(std::string_view code, std::size_t start, std::size_t end);
 
 // The spelling of each token, in order, with lines continued by a backslash joined. Comments are
 // tokens too, their white space left out (the engine indents the lines of a block comment again);

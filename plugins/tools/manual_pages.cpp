@@ -44,6 +44,9 @@ std::map<std::string, std::string> manual_pages_of(tarnel_engine::language_descr
     // Blanks in a language name (Protocol Buffers) as in structure names.
     std::string folder = lower_case(language.name) + "/";
     std::replace(folder.begin(), folder.end(), ' ', '-');
+    // A `#` (C#) spelled out: in a link it would begin a fragment.
+    if (std::size_t const sharp = folder.find('#'); sharp != std::string::npos)
+        folder.replace(sharp, 1, "sharp");
     std::string index = "# Structures of " + language.name + "\n\nEvery style addon of " + language.name +
                         " holds one form for each of these structures.\n\n";
     for (tarnel_engine::structure const& each : language.structures) {

@@ -13,6 +13,7 @@
 #include "java_language.h"
 #include "objc_language.h"
 #include "proto_language.h"
+#include "csharp_language.h"
 #include "form_conflicts.h"
 #include "manual_pages.h"
 #include "revision.h"
@@ -35,7 +36,7 @@ std::string contents_of(std::string const& path) {
 std::vector<tarnel_engine::language_description const*> const& our_languages() {
     static std::vector<tarnel_engine::language_description const*> const languages = {
         &c_language(), &cpp_language(), &java_language(), &proto_language(),
-        &objc_language()};
+        &objc_language(), &csharp_language()};
     return languages;
 }
 

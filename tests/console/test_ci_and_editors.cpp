@@ -209,6 +209,10 @@ void test_ci_and_editors::the_diff_applies_with_git_apply_data() {
         << "Objective-C" << "Google"
         << "a.m=@implementation A\n-(int)f:(int)a{\nif(a)\n{\nreturn [self g:@[@1]];}\nreturn 0;}\n@end\n"
            " | b/b.mm=@interface B:NSObject\n@property(nonatomic)int a; -(void)b;\n@end";
+    QTest::newRow("lines joined and split by C#")
+        << "C#" << "Microsoft"
+        << "a/A.cs=namespace N{\nclass A{\nint F( int a ){\nif(a>0){\nreturn a??1;}\nreturn 0;}}}\n"
+           " | b.cs=class B\n{\nstring S=>@\"x\\\";  int P { get; set; }\n}";
 }
 
 void test_ci_and_editors::the_diff_applies_with_git_apply() {
@@ -219,7 +223,8 @@ void test_ci_and_editors::the_diff_applies_with_git_apply() {
     std::map<QString, QString> const our_plugins = {{"C++", "libcpp-language-plugin.so"},
                                                     {"Java", "libjava-language-plugin.so"},
                                                     {"Protocol Buffers", "libproto-language-plugin.so"},
-                                                    {"Objective-C", "libobjc-language-plugin.so"}};
+                                                    {"Objective-C", "libobjc-language-plugin.so"},
+                                                    {"C#", "libcsharp-language-plugin.so"}};
     if (our_plugins.count(language)) {
         bundle.add_plugin(built::build_dir() + "/PlugIns/languages/" + our_plugins.at(language));
         QString const addon = style + "[" + language + "].style";

@@ -28,11 +28,14 @@ pattern=$(sed -n "s/^ *files: *'\(.*\)'$/\1/p" "$definition" | head -1)
 cd "$root/repository"
 git init -q .
 printf '[C++]\nstyle = Google\n\n[Java]\nstyle = Google\n' > .style-tarnel
+printf '\n[C#]\nstyle = Microsoft\n' >> .style-tarnel
 mkdir -p src
 printf 'int main( ){return 0;}\n' > src/main.cpp
 printf 'class Main {\n      int  size( ){return 0;}\n}\n' > src/Main.java
+printf 'class Main {\n      int  Size( ){return 0;}\n}\n' > src/Main.cs
 printf 'notes  that  are  no  code\n' > NOTES
 git add .style-tarnel src/main.cpp src/Main.java NOTES
+git add src/Main.cs
 
 # The staged files the hook takes, given to its entry as pre-commit gives them (an entry may carry
 # arguments of its own).
@@ -52,10 +55,13 @@ run_hook > first.log 2>&1 || status=$?
 [ "$(cat src/main.cpp)" = "int main() { return 0; }" ] || { echo "the file was not revised:"; cat src/main.cpp; exit 1; }
 [ "$(cat src/Main.java)" = "$(printf 'class Main {\n  int size() {\n    return 0;\n  }\n}')" ] ||
   { echo "the Java file was not revised:"; cat src/Main.java; exit 1; }
+[ "$(cat src/Main.cs)" = "$(printf 'class Main\n{\n    int Size()\n    {\n        return 0;\n    }\n}')" ] ||
+  { echo "the C# file was not revised:"; cat src/Main.cs; exit 1; }
 [ "$(cat NOTES)" = "notes  that  are  no  code" ] || { echo "a file the hook does not take was changed"; exit 1; }
 grep -q "Style Tarnel revised these files" first.log && grep -q "/src/main.cpp$" first.log && ! grep -q "would be changed" first.log ||
   { cat first.log; echo "the hook's output does not say once which file it revised"; exit 1; }
 git add src/main.cpp src/Main.java
+git add src/Main.cs
 run_hook > second.log 2>&1 || { cat second.log; echo "the hook failed on files in style"; exit 1; }
 
 # After the first commit: one badly formatted line changed in a file that holds others.

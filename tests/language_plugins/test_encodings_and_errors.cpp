@@ -110,6 +110,28 @@ private slots:
         QTest::newRow("Objective-C: brackets in literals and a block")
             << "@implementation A\n- (id)f {\n  return @[ @\"]\", @\"{\" ];\n}\n@end\n" << false
             << QStringList{"Objective-C"};
+        QTest::newRow("C#: a method without its closing brace")
+            << "class A {\n  void F() {\n    G(\"}\");\n}\n" << true << QStringList{"C#"};
+        QTest::newRow("C#: brackets in verbatim and interpolated strings")
+            << "class A {\n  string a = @\"C:\\\"; string d = \"(\";\n  string e = @\"}\"\"(\";\n  string b = $\"{x} }}\";\n  string c = $@\"{{\"\"{y}\";\n}\n"
+            << false << QStringList{"C#"};
+        // The engine reads a null pointer on a `{` right after what it takes for a property's
+        // accessors (and, with an initializer, after the first `;` of it): the process would die.
+        QTest::newRow("C#: a block right after the accessors of a property")
+            << "class A {\n  public B C { get; }\n\n  {\n    C.Flush();\n  }\n}\n" << true << QStringList{"C#"};
+        QTest::newRow("C#: an initializer whose lambda has a block after its first statement")
+            << "class A {\n  Action P { get; } = () => {\n    F();\n    {\n      G();\n    }\n  };\n}\n" << true
+            << QStringList{"C#"};
+        QTest::newRow("C#: a block after the accessors in a pass over the other branch of a conditional")
+            << "class A {\n  int P { get; }\n#if B\n  int Q;\n#else\n  { }\n#endif\n}\n" << true << QStringList{"C#"};
+        QTest::newRow("C#: a block after accessors that the engine reads outside a string the compiler reads whole")
+            << "class A {\n  string S = $\"{F(\"}\")} P { get; } { }\";\n}\n" << true << QStringList{"C#"};
+        QTest::newRow("C#: properties with initializers, patterns and conditionals the engine reads")
+            << "class A {\n  public int P { get; private set; } = 1;\n  Action Q { get => () => { F(); }; }\n"
+               "  Action R { get; } = () => {\n    F();\n    if (x) {\n      G();\n    }\n  };\n"
+               "#if B\n  public int S { get; init; }\n#else\n  public int S { get; set; }\n#endif\n"
+               "  void M() {\n    if (o is D { Length: 1 }) {\n      N(new E { F = 1 });\n    }\n  }\n}\n"
+            << false << QStringList{"C#"};
     }
     void answers_syntax_errors() {
         QFETCH(QString, code);
@@ -119,7 +141,8 @@ private slots:
         std::map<QString, QString> const styles = {
             {"C", "GNU[C].style"}, {"C++", "Google[C++].style"}, {"Java", "Google[Java].style"},
             {"Protocol Buffers", "Google[Protocol Buffers].style"},
-            {"Objective-C", "Google[Objective-C].style"}};
+            {"Objective-C", "Google[Objective-C].style"},
+            {"C#", "Microsoft[C#].style"}};
         for (QString const& language : languages) {
             loaded_plugin plugin(plugin_file_of(language.toStdString()));
             QVERIFY(plugin.get());

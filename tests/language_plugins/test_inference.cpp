@@ -115,6 +115,11 @@ private slots:
         QTest::newRow("Objective-C LLVM, indent 4, method braces below, limit 100")
             << "Objective-C" << "{BasedOnStyle: LLVM, IndentWidth: 4, BreakBeforeBraces: Custom, "
                                 "BraceWrapping: {AfterFunction: true}, ColumnLimit: 100}";
+        QTest::newRow("C# Microsoft, indent 2, namespaces indented, braces at line ends")
+            << "C#" << "{BasedOnStyle: Microsoft, IndentWidth: 2, NamespaceIndentation: All, BreakBeforeBraces: Attach}";
+        QTest::newRow("C# Google, indent 4, case labels at the switch, blanks inside parentheses")
+            << "C#" << "{BasedOnStyle: Google, IndentWidth: 4, IndentCaseLabels: false, SpacesInParens: Custom, "
+                       "SpacesInParensOptions: {InConditionalStatements: true, Other: true}}";
     }
     void option_sets_round_trip() {
         QFETCH(QString, language);

@@ -104,6 +104,11 @@ private slots:
              "-(id)g{return @{@\"k\":@YES};}\n@end\n",
              {"@interface", "@property", "@end", "@implementation", "@\"x\"", "@1", "@(2)", "@\"k\"", "@YES"},
              {"Objective-C"}},
+            {"strings of C#",
+             "class A{string a=@\"C:\\x\\\"\"q\"\"  \";string b=$\"p {x  +  1} {\"in  ner\"} q\";string c=$@\"r\\{y}  \"\"s\"\"\";char d='\"';}\n",
+             {"@\"C:\\x\\\"\"q\"\"  \"", "$\"p {x  +  1} {\"in  ner\"} q\"", "$@\"r\\{y}  \"\"s\"\"\"", "'\"'"}, {"C#"}},
+            {"operators of C#", "class A{void f(){var @class=a?.b??c;e?\?=f?[1];g=x=>x>>>2;}}\n",
+             {"@class", "a?.b ?? c", "e ?\?= f?[1]", "x => x >>> 2"}, {"C#"}},
         };
         for (QString const& addon : shipped_addons())
             for (snippet const& each : snippets)
@@ -158,6 +163,13 @@ private slots:
             if (language_of(addon) == "Objective-C") {
                 QTest::newRow(qPrintable(addon + " @ before a string")) << addon << "NSString  *s = @ \"x\";\n" << "@ \"x\"";
                 QTest::newRow(qPrintable(addon + " @ before a bracket")) << addon << "id  a = @ [ b ];\n" << QString();
+            }
+            // White space that the engine changes inside a token of C#, or a token of C# the engine
+            // makes of two: the source stays as it is.
+            if (language_of(addon) == "C#") {
+                QTest::newRow(qPrintable(addon + " raw string"))
+                    << addon << "class A {\n  string s = \"\"\"\n    raw  \"\" text\n    \"\"\";\n}\n" << QString();
+                QTest::newRow(qPrintable(addon + " ? . apart")) << addon << "var  y = a ? . b;\n" << QString();
             }
             if (!of_the_c_family(addon))
                 continue;

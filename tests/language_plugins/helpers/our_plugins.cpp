@@ -8,6 +8,7 @@
 #include "java_language.h"
 #include "proto_language.h"
 #include "objc_language.h"
+#include "csharp_language.h"
 #include "tests/harness/built_files.h"
 
 #include <QDir>
@@ -45,10 +46,12 @@ QString plugin_file_of(std::string const& language) {
         return "libproto-language-plugin.so";
     if (language == "Objective-C")
         return "libobjc-language-plugin.so";
+    if (language == "C#")
+        return "libcsharp-language-plugin.so";
     return language == "C" ? c_plugin_file() : cpp_plugin_file();
 }
 
-QStringList our_languages() { return {"C", "C++", "Java", "Protocol Buffers", "Objective-C"}; }
+QStringList our_languages() { return {"C", "C++", "Java", "Protocol Buffers", "Objective-C", "C#"}; }
 
 tarnel_engine::language_description const& description_of(QString const& language) {
     if (language == "Java")
@@ -57,6 +60,8 @@ tarnel_engine::language_description const& description_of(QString const& languag
         return proto_language();
     if (language == "Objective-C")
         return objc_language();
+    if (language == "C#")
+        return csharp_language();
     return language == "C" ? c_language() : cpp_language();
 }
 
