@@ -6,6 +6,8 @@
 #include "code_sample.h"
 #include "conditional_passes.h"
 #include "form_readings.h"
+#include "addon_forms.h"
+#include "inference_cache.h"
 #include "engine_limits.h"
 #include "form_conflicts.h"
 #include "project_macros.h"
@@ -32,9 +34,9 @@ namespace {
 long const formatting_budget = 20000;
 // Rewrites of the addon with the forms as they come back, until every form is a fixed point.
 int const rounds_to_fixed_points = 3;
-// The sources on which the rules with the author's own line breaks kept are weighed against the
-// rules with a limit, every k-th of them: a fair share of any project, at a quarter of the count's
-// cost on 400 files.
+// The sources on which the candidates (the rules learned and the starts, each with its limit and
+// with the author's own line breaks kept) are weighed against each other, every k-th of them: a
+// fair share of any project, at a quarter of the count's cost on 400 files for each candidate.
 std::size_t const sources_weighed = 100;
 // The lines the engine may read in all its passes over one source (conditional_passes.h): a 10,000
 // line file read a hundred times, a few seconds and a few hundred megabytes.
@@ -471,7 +473,13 @@ std::vector<std::size_t> every_kth_of(std::vector<std::size_t> const& sources, s
 
 learned_style learn_style_of::from(std::vector<std::string> const& sources, std::string const& style_name,
                                    going_on_check const& going_on) const {
-    learned_style learned;
+    return from(sources, {}, style_name, going_on).learned;
+}
+
+style_learned_from_starts learn_style_of::from(std::vector<std::string> const& sources,
+                                               std::vector<learning_start> const& starts,
+                                               std::string const& style_name, going_on_check const& going_on) const {
+    style_learned_from_starts nothing;
     try {
         std::vector<std::string> texts;
         std::vector<std::size_t> used;
@@ -483,13 +491,16 @@ learned_style learn_style_of::from(std::vector<std::string> const& sources, std:
             }
         std::vector<std::string> const pieces = take_sample().of(texts);
         if (!code_of_the_language_in(pieces))
-            return learned;
+            return nothing;
         std::vector<form_case> forms;
         for (std::string const& piece : pieces)
             forms.push_back({"sample", form_as_code(piece), {}});
 
         std::vector<std::size_t> const weighed = every_kth_of(used, sources_weighed);
-        unsigned long const whole = static_cast<unsigned long>(formatting_budget) + 2 * weighed.size() + used.size();
+        // The rules learned and each start, each with its own limit and with the author's breaks kept.
+        unsigned long const candidates_at_most = 2 * (1 + starts.size());
+        unsigned long const whole =
+            static_cast<unsigned long>(formatting_budget) + candidates_at_most * weighed.size() + used.size();
         bool stopped = false;
         auto const searching = [&](unsigned long done, unsigned long) {
             stopped = stopped || (going_on && !going_on(done, whole));
@@ -499,43 +510,83 @@ learned_style learn_style_of::from(std::vector<std::string> const& sources, std:
             infer_options(language.lexing, formatting_budget, searching, lines_changed_then_white_space)
                 .from(forms, readings_of_code(forms, pieces, texts));
         if (stopped)
-            return learned;
-        std::string addon =
-            with_fixed_points(addon_written_in(clang::format::configurationAsText(style), style_name, language),
-                              style_name, language);
-        if (addon.empty())
-            return learned;
+            return nothing;
 
         // Under no limit the engine keeps every line break as it finds it, which any piece of the
-        // sample favours, so the search cannot judge it: the same rules with the author's own
-        // breaks kept are weighed against the rules with their limit on a share of the sources,
-        // and the one that leaves more of their lines as they are stays.
-        if (style.ColumnLimit != 0) {
-            clang::format::FormatStyle kept_breaks = style;
-            kept_breaks.ColumnLimit = 0;
-            std::string const other = with_fixed_points(
-                addon_written_in(clang::format::configurationAsText(kept_breaks), style_name, language), style_name,
-                language);
-            line_count with_limit, without;
-            unsigned long const before = static_cast<unsigned long>(formatting_budget);
-            if (!count_lines_left(sources, weighed, addon, language, going_on, before, whole, with_limit) ||
-                (!other.empty() && !count_lines_left(sources, weighed, other, language, going_on,
-                                                     before + weighed.size(), whole, without)))
-                return learned;
-            if (!other.empty() && without.lines_left > with_limit.lines_left)
-                addon = other;
+        // sample favours, so the search cannot judge it: the rules with their limit and with the
+        // author's own breaks kept, and each start as it stands and with the author's breaks kept,
+        // are weighed on the same share of the sources, and the one that leaves most of their lines
+        // as they are stays (the first of equals, in this order).
+        struct candidate {
+            std::string addon;
+            long start = -1;
+        };
+        std::vector<candidate> candidates;
+        auto const weigh_also = [&](std::string const& addon, long start) {
+            if (!addon.empty() && std::none_of(candidates.begin(), candidates.end(),
+                                               [&](candidate const& other) { return other.addon == addon; }))
+                candidates.push_back({addon, start});
+        };
+        auto const with_breaks_kept = [&](clang::format::FormatStyle options) {
+            if (options.ColumnLimit == 0)
+                return std::string();
+            options.ColumnLimit = 0;
+            return with_fixed_points(addon_written_in(clang::format::configurationAsText(options), style_name, language),
+                                     style_name, language);
+        };
+        weigh_also(with_fixed_points(addon_written_in(clang::format::configurationAsText(style), style_name, language),
+                                     style_name, language),
+                   -1);
+        if (candidates.empty())
+            return nothing;
+        weigh_also(with_breaks_kept(style), -1);
+        // A start as it stands is weighed in its own text (whose inferred options its earlier uses
+        // may have kept) and written under the new name only when it wins.
+        for (std::size_t i = 0; i < starts.size() && !stopped; ++i) {
+            if (form_cases_in(starts[i].addon, language).empty())
+                continue;
+            weigh_also(starts[i].addon, static_cast<long>(i));
+            weigh_also(with_breaks_kept(inference_cache::shared().style_for(starts[i].addon, language)), -1);
+            stopped = stopped || (going_on && !going_on(static_cast<unsigned long>(formatting_budget), whole));
+        }
+        if (stopped)
+            return nothing;
+
+        std::size_t best = 0;
+        line_count best_count;
+        unsigned long done = static_cast<unsigned long>(formatting_budget);
+        for (std::size_t i = 0; i < candidates.size() && candidates.size() > 1; ++i) {
+            line_count counted;
+            if (!count_lines_left(sources, weighed, candidates[i].addon, language, going_on, done, whole, counted))
+                return nothing;
+            done += weighed.size();
+            if (i == 0 || counted.lines_left > best_count.lines_left) {
+                best = i;
+                best_count = counted;
+            }
         }
 
         line_count counted;
-        if (!count_lines_left(sources, used, addon, language, going_on,
-                              static_cast<unsigned long>(formatting_budget) + 2 * weighed.size(), whole, counted))
-            return learned_style();
-        learned.lines = counted.lines;
-        learned.lines_left = counted.lines_left;
-        learned.addon = addon;
+        if (!count_lines_left(sources, used, candidates[best].addon, language, going_on,
+                              whole - used.size(), whole, counted))
+            return nothing;
+        style_learned_from_starts learned;
+        learned.learned.lines = counted.lines;
+        learned.learned.lines_left = counted.lines_left;
+        learned.learned.addon = candidates[best].addon;
+        learned.start_taken = candidates[best].start;
+        if (learned.start_taken >= 0) {
+            std::map<std::string, std::string> start_forms;
+            for (structure const& each : language.structures) {
+                std::string const form = form_of_structure(each.name).in(candidates[best].addon);
+                if (!form.empty())
+                    start_forms[each.name] = form;
+            }
+            learned.learned.addon = addon_of_forms(start_forms, style_name, language);
+        }
         return learned;
     } catch (...) {
-        return learned_style();
+        return nothing;
     }
 }
 

@@ -19,6 +19,7 @@
 #include "tests/harness/built_files.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QtTest>
 
 using namespace our_plugins;
@@ -189,6 +190,73 @@ private slots:
         QCOMPARE(learned.lines, lines);
         QCOMPARE(learned.lines_left, left);
         QVERIFY2(left * 1000 >= lines * 995, qPrintable(QString("%1 of %2 lines left").arg(left).arg(lines)));
+    }
+
+    // A project written in a shipped style, with its limit or with the author's own line breaks
+    // kept, learned from the shipped styles of its language as starts: the style learned leaves at
+    // least as many of its lines as they are as the style it was written in, which the rules
+    // learned alone may not (the sample cannot tell a limit from breaks kept). Faults caught: the
+    // starts not weighed, a start weighed only as it stands (no author's breaks kept), a start
+    // taken and not named, or named and not taken.
+    void learns_no_further_from_the_code_than_a_start_data() {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("shipped");
+        QTest::addColumn<bool>("breaks_kept");
+        QTest::newRow("C, Linux kernel with the author's breaks kept") << "C" << "Linux kernel" << true;
+        QTest::newRow("C, GNU as it stands") << "C" << "GNU" << false;
+        QTest::newRow("C++, Mozilla with the author's breaks kept") << "C++" << "Mozilla" << true;
+    }
+    void learns_no_further_from_the_code_than_a_start() {
+        QFETCH(QString, language);
+        QFETCH(QString, shipped);
+        QFETCH(bool, breaks_kept);
+        auto const& description = description_of(language);
+        std::vector<learning_start> starts;
+        for (QString const& file : shipped_addons())
+            if (file.endsWith("[" + language + "].style"))
+                starts.push_back({file.section('[', 0, 0).toStdString(), shipped_addon(file)});
+        std::string const start = shipped_addon(shipped + "[" + language + "].style");
+        QVERIFY(!start.empty());
+        QString options = QString::fromStdString(tarnel_engine::options_inferred_from(start, description));
+        if (breaks_kept)
+            options.replace(QRegularExpression("\nColumnLimit: *[0-9]+"), "\nColumnLimit: 0");
+        std::string const known = tarnel_engine::addon_written_in(options.toStdString(), "Known", description);
+        QVERIFY(!known.empty());
+        loaded_plugin plugin(plugin_file_of(language.toStdString()));
+        QVERIFY(plugin.learning_from_starts());
+        std::vector<std::string> project;
+        for (std::string const& source : sources_of(language)) {
+            std::string const written = plugin->revise(source, known, traits_of(source));
+            if (written != STYLE_TARNEL_SYNTAX_ERROR_TEXT)
+                project.push_back(written);
+        }
+        auto const lines_left_by = [&](std::string const& addon) {
+            unsigned long left = 0;
+            for (std::string const& source : project) {
+                std::string const revised = plugin->revise(source, addon, traits_of(source));
+                left += revised == STYLE_TARNEL_SYNTAX_ERROR_TEXT ? tarnel_engine::lines_of(source).size()
+                                                                 : tarnel_engine::lines_left_between(source, revised);
+            }
+            return left;
+        };
+        style_learned_from_starts const learned =
+            plugin.learning_from_starts()->learn_style_from(project, starts, "Learned", {});
+        QVERIFY(!learned.learned.addon.empty());
+        QCOMPARE(learned.learned.lines_left, lines_left_by(learned.learned.addon));
+        unsigned long const written_in = lines_left_by(known);
+        QVERIFY2(learned.learned.lines_left >= written_in,
+                 qPrintable(QString("%1 lines left, %2 by the style the code is written in")
+                                .arg(learned.learned.lines_left)
+                                .arg(written_in)));
+        for (std::size_t i = 0; i < starts.size(); ++i) {
+            unsigned long const by_start = lines_left_by(starts[i].addon);
+            QVERIFY2(learned.learned.lines_left >= by_start, starts[i].style.c_str());
+            if (static_cast<long>(i) == learned.start_taken)
+                QCOMPARE(learned.learned.lines_left, by_start);
+        }
+        // The start taken as it stands is named; breaks kept, the forms are no start's.
+        QVERIFY(learned.start_taken < static_cast<long>(starts.size()));
+        QVERIFY(!breaks_kept || learned.start_taken < 0);
     }
 
     // Each kind of macro is read from code of its own shape only, in two files: a loop without
