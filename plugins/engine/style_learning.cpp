@@ -403,6 +403,31 @@ unsigned long lines_changed_then_white_space(std::string const& wanted, std::str
     return changed * 1000 + std::min(white_space_distance(wanted, made), 999UL);
 }
 
+// Trailing comments left where the author put them (the engine's "leave" alignment) are no rule a
+// form can show: a form written under it keeps the catalogue's own single blank before its
+// comments, and the addon then says one blank whatever was read from the code. Such a style
+// takes, of lining runs of trailing comments up and not, the one under which the sample changes
+// least (lined up, of equals), with the blanks it holds.
+clang::format::FormatStyle with_trailing_comments_shown(clang::format::FormatStyle style,
+                                                        std::vector<form_case> const& forms) {
+    if (style.AlignTrailingComments.Kind != clang::format::FormatStyle::TCAS_Leave)
+        return style;
+    clang::format::FormatStyle best = style;
+    unsigned long best_total = 0;
+    for (auto const kind : {clang::format::FormatStyle::TCAS_Always, clang::format::FormatStyle::TCAS_Never}) {
+        clang::format::FormatStyle shown = style;
+        shown.AlignTrailingComments.Kind = kind;
+        unsigned long total = 0;
+        for (unsigned long distance : distances_of(forms, shown, lines_changed_then_white_space))
+            total += distance;
+        if (kind == clang::format::FormatStyle::TCAS_Always || total < best_total) {
+            best = shown;
+            best_total = total;
+        }
+    }
+    return best;
+}
+
 // The addon with each form replaced by what it comes back as, until every form comes back.
 std::string with_fixed_points(std::string addon, std::string const& style_name, language_description const& language) {
     for (int round = 0; round < rounds_to_fixed_points && !forms_not_coming_back(addon, language).empty(); ++round)
@@ -506,9 +531,10 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
             stopped = stopped || (going_on && !going_on(done, whole));
             return !stopped;
         };
-        clang::format::FormatStyle const style =
+        clang::format::FormatStyle const style = with_trailing_comments_shown(
             infer_options(language.lexing, formatting_budget, searching, lines_changed_then_white_space)
-                .from(forms, readings_of_code(forms, pieces, texts));
+                .from(forms, readings_of_code(forms, pieces, texts)),
+            forms);
         if (stopped)
             return nothing;
 

@@ -281,6 +281,31 @@ private slots:
         QVERIFY(learned.learned.addon.rfind("NAME=Learned\n", 0) == 0);
     }
 
+    // Trailing comments mostly two blanks from their code, a few further: the learning reads two,
+    // the search may leave comments where they stand (which changes no line of the sample), and
+    // the addon must still say two, as the code does. Fault caught: the addon written under the
+    // "leave" alignment, whose forms keep the catalogue's single blank and so say one.
+    void holds_the_blanks_before_trailing_comments() {
+        std::vector<std::string> project;
+        for (int file = 0; file < 6; ++file) {
+            std::string text;
+            for (int function = 0; function < 40; ++function) {
+                std::string const n = std::to_string(file * 100 + function);
+                std::string const further = function % 5 == 4 ? "    " : "  ";
+                text += "int step_" + n + "(int x) {\n  int y = x + " + n + ";  // the next one\n  if (y > 3) {\n"
+                        "    y = 3;" + further + "// at most three\n  }\n  return y;  // done\n}\n\n";
+            }
+            project.push_back(text);
+        }
+        loaded_plugin plugin(cpp_plugin_file());
+        learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
+        QVERIFY(!learned.addon.empty());
+        QString const inferred = QString("\n" + QString::fromStdString(tarnel_engine::options_inferred_from(
+                                                    learned.addon, cpp_language())))
+                                     .replace(QRegularExpression(" +"), " ");
+        QVERIFY2(inferred.contains("\nSpacesBeforeTrailingComments: 2\n"), qPrintable(inferred));
+    }
+
     // Each kind of macro is read from code of its own shape only, in two files: a loop without
     // braces is no statement, a function's name after its class's qualifier no statement, a
     // structure's tag no attribute, a return type on its own line no attribute, an annotation after
