@@ -592,9 +592,11 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
             }
         }
 
-        line_count counted;
-        if (!count_lines_left(sources, used, candidates[best].addon, language, going_on,
-                              whole - used.size(), whole, counted))
+        // Weighed on every source already, the winner is counted.
+        line_count counted = best_count;
+        if ((candidates.size() == 1 || weighed.size() < used.size()) &&
+            !count_lines_left(sources, used, candidates[best].addon, language, going_on, whole - used.size(), whole,
+                              counted))
             return nothing;
         style_learned_from_starts learned;
         learned.learned.lines = counted.lines;
