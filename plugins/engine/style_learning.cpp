@@ -38,6 +38,10 @@ int const rounds_to_fixed_points = 3;
 // with the author's own line breaks kept) are weighed against each other, every k-th of them: a
 // fair share of any project, at a quarter of the count's cost on 400 files for each candidate.
 std::size_t const sources_weighed = 100;
+// The starts' candidates weighed on all those sources, the best of them screened on every k-th of
+// a quarter as many.
+std::size_t const starts_weighed_in_full = 2;
+std::size_t const sources_screened = 25;
 // The lines the engine may read in all its passes over one source (conditional_passes.h): a 10,000
 // line file read a hundred times, a few seconds and a few hundred megabytes.
 unsigned long const most_lines_read = 1000000;
@@ -566,6 +570,7 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
         if (candidates.empty())
             return nothing;
         weigh_also(with_breaks_kept(style), -1);
+        std::size_t const learned_candidates = candidates.size();
         // A start as it stands is weighed in its own text (whose inferred options its earlier uses
         // may have kept) and written under the new name only when it wins.
         for (std::size_t i = 0; i < starts.size() && !stopped; ++i) {
@@ -578,16 +583,45 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
         if (stopped)
             return nothing;
 
+        // With more starts than a few, their candidates are first screened on a quarter of those
+        // sources (every k-th of them), and only the best few are weighed with the rules learned on
+        // all of them: the count stays within the learning's bounds whatever is installed.
+        unsigned long done = static_cast<unsigned long>(formatting_budget);
+        std::vector<std::size_t> finalists;
+        for (std::size_t i = 0; i < learned_candidates; ++i)
+            finalists.push_back(i);
+        if (candidates.size() - learned_candidates <= starts_weighed_in_full) {
+            for (std::size_t i = learned_candidates; i < candidates.size(); ++i)
+                finalists.push_back(i);
+        } else {
+            std::vector<std::size_t> const screened = every_kth_of(weighed, sources_screened);
+            std::vector<std::pair<unsigned long, std::size_t>> screening;  // lines left, candidate
+            for (std::size_t i = learned_candidates; i < candidates.size(); ++i) {
+                line_count counted;
+                if (!count_lines_left(sources, screened, candidates[i].addon, language, going_on, done, whole, counted))
+                    return nothing;
+                done += screened.size();
+                screening.emplace_back(counted.lines_left, i);
+            }
+            // Most lines left first, then in the candidates' order.
+            std::stable_sort(screening.begin(), screening.end(),
+                             [](auto const& a, auto const& b) { return a.first > b.first; });
+            std::vector<std::size_t> best_starts;
+            for (std::size_t i = 0; i < starts_weighed_in_full; ++i)
+                best_starts.push_back(screening[i].second);
+            std::sort(best_starts.begin(), best_starts.end());
+            finalists.insert(finalists.end(), best_starts.begin(), best_starts.end());
+        }
         std::size_t best = 0;
         line_count best_count;
-        unsigned long done = static_cast<unsigned long>(formatting_budget);
-        for (std::size_t i = 0; i < candidates.size() && candidates.size() > 1; ++i) {
+        for (std::size_t i = 0; i < finalists.size() && candidates.size() > 1; ++i) {
             line_count counted;
-            if (!count_lines_left(sources, weighed, candidates[i].addon, language, going_on, done, whole, counted))
+            if (!count_lines_left(sources, weighed, candidates[finalists[i]].addon, language, going_on, done, whole,
+                                  counted))
                 return nothing;
             done += weighed.size();
             if (i == 0 || counted.lines_left > best_count.lines_left) {
-                best = i;
+                best = finalists[i];
                 best_count = counted;
             }
         }
