@@ -1,4 +1,5 @@
-// Sample, readings, search, addon, fixed points, count: each step bounded by the sample, not by the
+// Sample, readings, search, addon, fixed points, the candidates weighed (the rules learned and the
+// starts), count: each step bounded by the sample or by a fixed share of the sources, not by the
 // size of the project, except the last count, which revises every source once.
 #include "style_learning.h"
 
