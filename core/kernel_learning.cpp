@@ -3,7 +3,6 @@
 #include "core/kernel.h"
 
 #include "core/addon_installation.h"
-#include "core/closest_installed_style.h"
 #include "core/installed_files.h"
 #include "core/store_files.h"
 #include "core/style_addon.h"
@@ -14,7 +13,11 @@
 #include "engine/plugin_obtainer.h"
 #include "engine/read_from.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QPluginLoader>
+
+#include <algorithm>
 
 namespace {
 
@@ -33,6 +36,59 @@ std::string extensions_of(revision_task const& task, plugin_description const& p
     for (std::string const& extension : plugin.extensions)
         extensions += (extensions.empty() ? "" : " ") + extension;
     return extensions;
+}
+
+// The names under which the formatting engine's own tools find a project's configuration of it.
+char const* const engine_configuration_names[] = {".clang-format", "_clang-format"};
+
+// The directory that holds every path of the task: the path itself for one directory, the common
+// root of the files and directories otherwise; empty when they share none.
+QString common_root_of(QStringList const& paths) {
+    QString root;
+    for (QString const& path : paths) {
+        QFileInfo const info(path);
+        QString const directory = QDir::cleanPath(info.isDir() ? info.absoluteFilePath() : info.absolutePath());
+        if (root.isNull()) {
+            root = directory;
+            continue;
+        }
+        while (directory != root && !directory.startsWith(root.endsWith('/') ? root : root + '/')) {
+            QString const parent = QFileInfo(root).path();
+            if (parent == root)
+                return QString();
+            root = parent;
+        }
+    }
+    return root;
+}
+
+// Where the learning may start: the project's own engine configuration, made into an addon by the
+// plugin's configuration interface, when the task's common root holds one; then every installed
+// style of the language, by name.
+std::vector<learning_start> learning_starts_for(revision_task const& task, plugin_obtainer const& obtain) {
+    std::vector<learning_start> starts;
+    QString const root = common_root_of(task.paths);
+    if (interface_to_engine_configuration* const configurations = obtain.engine_configuration(); configurations && !root.isEmpty())
+        for (char const* name : engine_configuration_names) {
+            std::string configuration;
+            if (!QFileInfo(QDir(root).filePath(name)).isFile() || !read_from(QDir(root).filePath(name)).to(configuration))
+                continue;
+            configured_addon const made = configurations->addon_from_configuration(configuration, task.style);
+            if (!made.addon.empty())
+                starts.push_back({std::string(), made.addon});
+            break;
+        }
+    std::vector<learning_start> installed;
+    first_addon_where([&](std::string const& file_name, style_description const& description) {
+        if (description.language == task.language)
+            if (auto const text = addon_text_of(file_name))
+                installed.push_back({description.style, *text});
+        return false;
+    });
+    std::sort(installed.begin(), installed.end(),
+              [](learning_start const& a, learning_start const& b) { return a.style < b.style; });
+    starts.insert(starts.end(), installed.begin(), installed.end());
+    return starts;
 }
 
 style_learning_outcome learned(revision_task const& task,
@@ -76,34 +132,38 @@ style_learning_outcome learned(revision_task const& task,
     }
     if (sources.empty())
         return ended(end::no_files);
+    std::string forms_of;
 
     bool stopped = false;
-    learned_style const style =
-        learning->learn_style(sources, task.style, [&](unsigned long done, unsigned long whole) {
-            stopped = stopped || stop_requested();
-            if (!stopped && progress)
-                progress(done, whole);
-            return !stopped;
-        });
+    auto const going_on = [&](unsigned long done, unsigned long whole) {
+        stopped = stopped || stop_requested();
+        if (!stopped && progress)
+            progress(done, whole);
+        return !stopped;
+    };
+    // A plugin that takes starts keeps the best of them and of its own rules; one built against the
+    // learning interface alone learns from the code only.
+    style_learned_from_starts style;
+    if (interface_to_style_learning_from_starts* const from_starts = obtain.style_learning_from_starts()) {
+        std::vector<learning_start> const starts = learning_starts_for(task, obtain);
+        if (stop_requested())
+            return ended(end::stopped);
+        style = from_starts->learn_style_from(sources, starts, task.style, going_on);
+        if (style.start_taken >= 0 && static_cast<std::size_t>(style.start_taken) < starts.size())
+            forms_of = starts[static_cast<std::size_t>(style.start_taken)].style;
+    } else {
+        style.learned = learning->learn_style(sources, task.style, going_on);
+    }
     if (stopped || stop_requested())
         return ended(end::stopped);
-    if (style.addon.empty())
+    std::string const& addon = style.learned.addon;
+    if (addon.empty())
         return ended(end::nothing_learned);
     style_learning_outcome outcome;
     outcome.files = sources.size();
-    outcome.lines = style.lines;
-    outcome.lines_left = std::min(style.lines_left, style.lines);
-    std::string addon = style.addon;
-    closer_installed_style const closer = find_closest_installed_style(*revising, task.language, stop_requested)
-                                              .than(style.addon, style.lines, style.lines_left, sources);
-    if (stop_requested())
-        return ended(end::stopped);
-    if (!closer.style.empty()) {
-        addon = addon_text_renamed(closer.addon, closer.style, task.style);
-        outcome.forms_of = closer.style;
-        outcome.lines = closer.lines;
-        outcome.lines_left = std::min(closer.lines_left, closer.lines);
-    }
+    outcome.lines = style.learned.lines;
+    outcome.lines_left = std::min(style.learned.lines_left, style.learned.lines);
+    outcome.forms_of = forms_of;
     if (addon.empty() || !install_addon_text(addon, task.style, task.language))
         return ended(end::not_installed);
     return outcome;

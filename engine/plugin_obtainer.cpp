@@ -25,6 +25,12 @@ interface_to_style_learning* plugin_obtainer::style_learning() const {
     return qobject_cast<interface_to_style_learning*>(loader.instance());
 }
 
+interface_to_style_learning_from_starts* plugin_obtainer::style_learning_from_starts() const {
+    if (!loader.isLoaded())
+        return nullptr;
+    return qobject_cast<interface_to_style_learning_from_starts*>(loader.instance());
+}
+
 interface_to_range_revision* plugin_obtainer::range_revision() const {
     if (!loader.isLoaded())
         return nullptr;

@@ -22,6 +22,9 @@ public:
     // has none (it is optional) or nothing is loaded.
     interface_to_style_learning* style_learning() const;
 
+    // Its learning from starting styles, or null when the plugin has none (it is optional).
+    interface_to_style_learning_from_starts* style_learning_from_starts() const;
+
     // The range interface of the plugin that operator() loaded last, or null when the plugin has
     // none (it is optional: such a plugin revises whole files only) or nothing is loaded.
     interface_to_range_revision* range_revision() const;

@@ -108,6 +108,48 @@ public:
     STYLE_TARNEL_LEARNING_INTERFACE_NAME "/" STYLE_TARNEL_LEARNING_INTERFACE_VERSION
 Q_DECLARE_INTERFACE(interface_to_style_learning, STYLE_TARNEL_LEARNING_INTERFACE_ID)
 
+// A style the learning may start from: an installed style of the language, or the project's own
+// engine configuration made into an addon.
+struct learning_start {
+    // The installed style's name; empty for a style that is not installed.
+    std::string style;
+    // The whole addon text.
+    std::string addon;
+};
+
+// What a plugin learned from a project's files and the starts it was given.
+struct style_learned_from_starts {
+    learned_style learned;
+    // The start whose forms the addon has as they are (under the new name), because they leave more
+    // of the files' lines as they are than any rules learned; -1 when the forms are the plugin's own.
+    long start_taken = -1;
+};
+
+// Optional, beside the learning interface: a plugin that can learn a style from starting styles as
+// well as from code also derives its root object from this class and names it among its
+// interfaces. The host asks for it first and, when a plugin lacks it (one built against the
+// learning interface alone), calls learn_style() of the learning interface. Called as
+// learn_style() is.
+class interface_to_style_learning_from_starts {
+public:
+    virtual ~interface_to_style_learning_from_starts() = default;
+
+    // As learn_style(), and the addon leaves at least as many lines of `sources` as they are as
+    // each start does, by the plugin's own count: the plugin weighs the starts (and what it makes
+    // of them) beside its own rules and keeps the best. The same sources and starts, in the same
+    // order, give the same addon.
+    virtual style_learned_from_starts learn_style_from(
+        std::vector<std::string> const& sources, std::vector<learning_start> const& starts,
+        std::string const& style_name, std::function<bool(unsigned long done, unsigned long whole)> const& going_on) = 0;
+};
+
+// The identifier of the learning from starts, versioned as the first one is.
+#define STYLE_TARNEL_LEARNING_FROM_STARTS_INTERFACE_NAME "org.style-tarnel.interface_to_style_learning_from_starts"
+#define STYLE_TARNEL_LEARNING_FROM_STARTS_INTERFACE_VERSION "1.0"
+#define STYLE_TARNEL_LEARNING_FROM_STARTS_INTERFACE_ID \
+    STYLE_TARNEL_LEARNING_FROM_STARTS_INTERFACE_NAME "/" STYLE_TARNEL_LEARNING_FROM_STARTS_INTERFACE_VERSION
+Q_DECLARE_INTERFACE(interface_to_style_learning_from_starts, STYLE_TARNEL_LEARNING_FROM_STARTS_INTERFACE_ID)
+
 // A span of a source's lines: the first and the last line, counted from 1 by the source's own
 // line breaks, both included.
 struct line_range {

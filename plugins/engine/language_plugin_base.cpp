@@ -45,6 +45,14 @@ learned_style language_plugin_base::learn_style(std::vector<std::string> const& 
     return learned;
 }
 
+style_learned_from_starts language_plugin_base::learn_style_from(
+    std::vector<std::string> const& sources, std::vector<learning_start> const& starts, std::string const& style_name,
+    std::function<bool(unsigned long, unsigned long)> const& going_on) {
+    style_learned_from_starts learned;
+    run_on_a_deep_stack([&] { learned = learn_style_of(language).from(sources, starts, style_name, going_on); });
+    return learned;
+}
+
 std::string language_plugin_base::engine_configuration_of(std::string const& addon) {
     // The inference formats the forms: on the engine's own stack too.
     std::string configuration;

@@ -1,5 +1,5 @@
 // The plugin interfaces implemented once for every language of ours: a plugin's root object
-// derives from QObject and from this class, passes its language description and names the four
+// derives from QObject and from this class, passes its language description and names the five
 // interfaces.
 #ifndef TARNEL_ENGINE_LANGUAGE_PLUGIN_BASE_H
 #define TARNEL_ENGINE_LANGUAGE_PLUGIN_BASE_H
@@ -12,6 +12,7 @@ namespace tarnel_engine {
 
 class language_plugin_base : public interface_to_language_plugin,
                              public interface_to_style_learning,
+                             public interface_to_style_learning_from_starts,
                              public interface_to_range_revision,
                              public interface_to_engine_configuration {
 public:
@@ -30,6 +31,10 @@ public:
 
     learned_style learn_style(std::vector<std::string> const& sources, std::string const& style_name,
                               std::function<bool(unsigned long done, unsigned long whole)> const& going_on) override;
+    style_learned_from_starts learn_style_from(
+        std::vector<std::string> const& sources, std::vector<learning_start> const& starts,
+        std::string const& style_name,
+        std::function<bool(unsigned long done, unsigned long whole)> const& going_on) override;
 
     std::string engine_configuration_of(std::string const& addon) override;
     configured_addon addon_from_configuration(std::string const& configuration, std::string const& style_name) override;

@@ -1,4 +1,5 @@
-// Sample, readings, search, addon, fixed points, count: each step bounded by the sample, not by the
+// Sample, readings, search, addon, fixed points, the candidates weighed (the rules learned and the
+// starts), count: each step bounded by the sample or by a fixed share of the sources, not by the
 // size of the project, except the last count, which revises every source once.
 #include "style_learning.h"
 
@@ -6,6 +7,8 @@
 #include "code_sample.h"
 #include "conditional_passes.h"
 #include "form_readings.h"
+#include "addon_forms.h"
+#include "inference_cache.h"
 #include "engine_limits.h"
 #include "form_conflicts.h"
 #include "project_macros.h"
@@ -32,10 +35,14 @@ namespace {
 long const formatting_budget = 20000;
 // Rewrites of the addon with the forms as they come back, until every form is a fixed point.
 int const rounds_to_fixed_points = 3;
-// The sources on which the rules with the author's own line breaks kept are weighed against the
-// rules with a limit, every k-th of them: a fair share of any project, at a quarter of the count's
-// cost on 400 files.
+// The sources on which the candidates (the rules learned and the starts, each with its limit and
+// with the author's own line breaks kept) are weighed against each other, every k-th of them: a
+// fair share of any project, at a quarter of the count's cost on 400 files for each candidate.
 std::size_t const sources_weighed = 100;
+// The starts' candidates weighed on all those sources, the best of them screened on every k-th of
+// a quarter as many.
+std::size_t const starts_weighed_in_full = 2;
+std::size_t const sources_screened = 25;
 // The lines the engine may read in all its passes over one source (conditional_passes.h): a 10,000
 // line file read a hundred times, a few seconds and a few hundred megabytes.
 unsigned long const most_lines_read = 1000000;
@@ -402,6 +409,31 @@ unsigned long lines_changed_then_white_space(std::string const& wanted, std::str
     return changed * 1000 + std::min(white_space_distance(wanted, made), 999UL);
 }
 
+// Trailing comments left where the author put them (the engine's "leave" alignment) are no rule a
+// form can show: a form written under it keeps the catalogue's own single blank before its
+// comments, and the addon then says one blank whatever was read from the code. Such a style
+// takes, of lining runs of trailing comments up and not, the one under which the sample changes
+// least (lined up, of equals), with the blanks it holds.
+clang::format::FormatStyle with_trailing_comments_shown(clang::format::FormatStyle style,
+                                                        std::vector<form_case> const& forms) {
+    if (style.AlignTrailingComments.Kind != clang::format::FormatStyle::TCAS_Leave)
+        return style;
+    clang::format::FormatStyle best = style;
+    unsigned long best_total = 0;
+    for (auto const kind : {clang::format::FormatStyle::TCAS_Always, clang::format::FormatStyle::TCAS_Never}) {
+        clang::format::FormatStyle shown = style;
+        shown.AlignTrailingComments.Kind = kind;
+        unsigned long total = 0;
+        for (unsigned long distance : distances_of(forms, shown, lines_changed_then_white_space))
+            total += distance;
+        if (kind == clang::format::FormatStyle::TCAS_Always || total < best_total) {
+            best = shown;
+            best_total = total;
+        }
+    }
+    return best;
+}
+
 // The addon with each form replaced by what it comes back as, until every form comes back.
 std::string with_fixed_points(std::string addon, std::string const& style_name, language_description const& language) {
     for (int round = 0; round < rounds_to_fixed_points && !forms_not_coming_back(addon, language).empty(); ++round)
@@ -472,7 +504,13 @@ std::vector<std::size_t> every_kth_of(std::vector<std::size_t> const& sources, s
 
 learned_style learn_style_of::from(std::vector<std::string> const& sources, std::string const& style_name,
                                    going_on_check const& going_on) const {
-    learned_style learned;
+    return from(sources, {}, style_name, going_on).learned;
+}
+
+style_learned_from_starts learn_style_of::from(std::vector<std::string> const& sources,
+                                               std::vector<learning_start> const& starts,
+                                               std::string const& style_name, going_on_check const& going_on) const {
+    style_learned_from_starts nothing;
     try {
         std::vector<std::string> texts;
         std::vector<std::size_t> used;
@@ -484,59 +522,135 @@ learned_style learn_style_of::from(std::vector<std::string> const& sources, std:
             }
         std::vector<std::string> const pieces = take_sample().of(texts);
         if (!code_of_the_language_in(pieces))
-            return learned;
+            return nothing;
         std::vector<form_case> forms;
         for (std::string const& piece : pieces)
             forms.push_back({"sample", form_as_code(piece), {}});
 
         std::vector<std::size_t> const weighed = every_kth_of(used, sources_weighed);
-        unsigned long const whole = static_cast<unsigned long>(formatting_budget) + 2 * weighed.size() + used.size();
+        // The rules learned and each start, each with its own limit and with the author's breaks kept.
+        unsigned long const candidates_at_most = 2 * (1 + starts.size());
+        unsigned long const whole =
+            static_cast<unsigned long>(formatting_budget) + candidates_at_most * weighed.size() + used.size();
         bool stopped = false;
         auto const searching = [&](unsigned long done, unsigned long) {
             stopped = stopped || (going_on && !going_on(done, whole));
             return !stopped;
         };
-        clang::format::FormatStyle const style =
+        clang::format::FormatStyle const style = with_trailing_comments_shown(
             infer_options(language.lexing, formatting_budget, searching, lines_changed_then_white_space)
-                .from(forms, readings_of_code(forms, pieces, texts));
+                .from(forms, readings_of_code(forms, pieces, texts)),
+            forms);
         if (stopped)
-            return learned;
-        std::string addon =
-            with_fixed_points(addon_written_in(clang::format::configurationAsText(style), style_name, language),
-                              style_name, language);
-        if (addon.empty())
-            return learned;
+            return nothing;
 
         // Under no limit the engine keeps every line break as it finds it, which any piece of the
-        // sample favours, so the search cannot judge it: the same rules with the author's own
-        // breaks kept are weighed against the rules with their limit on a share of the sources,
-        // and the one that leaves more of their lines as they are stays.
-        if (style.ColumnLimit != 0) {
-            clang::format::FormatStyle kept_breaks = style;
-            kept_breaks.ColumnLimit = 0;
-            std::string const other = with_fixed_points(
-                addon_written_in(clang::format::configurationAsText(kept_breaks), style_name, language), style_name,
-                language);
-            line_count with_limit, without;
-            unsigned long const before = static_cast<unsigned long>(formatting_budget);
-            if (!count_lines_left(sources, weighed, addon, language, going_on, before, whole, with_limit) ||
-                (!other.empty() && !count_lines_left(sources, weighed, other, language, going_on,
-                                                     before + weighed.size(), whole, without)))
-                return learned;
-            if (!other.empty() && without.lines_left > with_limit.lines_left)
-                addon = other;
+        // sample favours, so the search cannot judge it: the rules with their limit and with the
+        // author's own breaks kept, and each start as it stands and with the author's breaks kept,
+        // are weighed on the same share of the sources, and the one that leaves most of their lines
+        // as they are stays (the first of equals, in this order).
+        struct candidate {
+            std::string addon;
+            long start = -1;
+        };
+        std::vector<candidate> candidates;
+        auto const weigh_also = [&](std::string const& addon, long start) {
+            if (!addon.empty() && std::none_of(candidates.begin(), candidates.end(),
+                                               [&](candidate const& other) { return other.addon == addon; }))
+                candidates.push_back({addon, start});
+        };
+        auto const with_breaks_kept = [&](clang::format::FormatStyle options) {
+            if (options.ColumnLimit == 0)
+                return std::string();
+            options.ColumnLimit = 0;
+            return with_fixed_points(addon_written_in(clang::format::configurationAsText(options), style_name, language),
+                                     style_name, language);
+        };
+        weigh_also(with_fixed_points(addon_written_in(clang::format::configurationAsText(style), style_name, language),
+                                     style_name, language),
+                   -1);
+        if (candidates.empty())
+            return nothing;
+        weigh_also(with_breaks_kept(style), -1);
+        std::size_t const learned_candidates = candidates.size();
+        // A start as it stands is weighed in its own text (whose inferred options its earlier uses
+        // may have kept) and written under the new name only when it wins.
+        for (std::size_t i = 0; i < starts.size() && !stopped; ++i) {
+            if (form_cases_in(starts[i].addon, language).empty())
+                continue;
+            weigh_also(starts[i].addon, static_cast<long>(i));
+            weigh_also(with_breaks_kept(inference_cache::shared().style_for(starts[i].addon, language)), -1);
+            stopped = stopped || (going_on && !going_on(static_cast<unsigned long>(formatting_budget), whole));
+        }
+        if (stopped)
+            return nothing;
+
+        // With more starts than a few, their candidates are first screened on a quarter of those
+        // sources (every k-th of them), and only the best few are weighed with the rules learned on
+        // all of them: the count stays within the learning's bounds whatever is installed.
+        unsigned long done = static_cast<unsigned long>(formatting_budget);
+        std::vector<std::size_t> finalists;
+        for (std::size_t i = 0; i < learned_candidates; ++i)
+            finalists.push_back(i);
+        if (candidates.size() - learned_candidates <= starts_weighed_in_full) {
+            for (std::size_t i = learned_candidates; i < candidates.size(); ++i)
+                finalists.push_back(i);
+        } else {
+            std::vector<std::size_t> const screened = every_kth_of(weighed, sources_screened);
+            std::vector<std::pair<unsigned long, std::size_t>> screening;  // lines left, candidate
+            for (std::size_t i = learned_candidates; i < candidates.size(); ++i) {
+                line_count counted;
+                if (!count_lines_left(sources, screened, candidates[i].addon, language, going_on, done, whole, counted))
+                    return nothing;
+                done += screened.size();
+                screening.emplace_back(counted.lines_left, i);
+            }
+            // Most lines left first, then in the candidates' order.
+            std::stable_sort(screening.begin(), screening.end(),
+                             [](auto const& a, auto const& b) { return a.first > b.first; });
+            std::vector<std::size_t> best_starts;
+            for (std::size_t i = 0; i < starts_weighed_in_full; ++i)
+                best_starts.push_back(screening[i].second);
+            std::sort(best_starts.begin(), best_starts.end());
+            finalists.insert(finalists.end(), best_starts.begin(), best_starts.end());
+        }
+        std::size_t best = 0;
+        line_count best_count;
+        for (std::size_t i = 0; i < finalists.size() && candidates.size() > 1; ++i) {
+            line_count counted;
+            if (!count_lines_left(sources, weighed, candidates[finalists[i]].addon, language, going_on, done, whole,
+                                  counted))
+                return nothing;
+            done += weighed.size();
+            if (i == 0 || counted.lines_left > best_count.lines_left) {
+                best = finalists[i];
+                best_count = counted;
+            }
         }
 
-        line_count counted;
-        if (!count_lines_left(sources, used, addon, language, going_on,
-                              static_cast<unsigned long>(formatting_budget) + 2 * weighed.size(), whole, counted))
-            return learned_style();
-        learned.lines = counted.lines;
-        learned.lines_left = counted.lines_left;
-        learned.addon = addon;
+        // Weighed on every source already, the winner is counted.
+        line_count counted = best_count;
+        if ((candidates.size() == 1 || weighed.size() < used.size()) &&
+            !count_lines_left(sources, used, candidates[best].addon, language, going_on, whole - used.size(), whole,
+                              counted))
+            return nothing;
+        style_learned_from_starts learned;
+        learned.learned.lines = counted.lines;
+        learned.learned.lines_left = counted.lines_left;
+        learned.learned.addon = candidates[best].addon;
+        learned.start_taken = candidates[best].start;
+        if (learned.start_taken >= 0) {
+            std::map<std::string, std::string> start_forms;
+            for (structure const& each : language.structures) {
+                std::string const form = form_of_structure(each.name).in(candidates[best].addon);
+                if (!form.empty())
+                    start_forms[each.name] = form;
+            }
+            learned.learned.addon = addon_of_forms(start_forms, style_name, language);
+        }
         return learned;
     } catch (...) {
-        return learned_style();
+        return nothing;
     }
 }
 

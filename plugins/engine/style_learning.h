@@ -30,6 +30,11 @@ public:
     // learned (no source to learn from, or stopped): an empty addon.
     learned_style from(std::vector<std::string> const& sources, std::string const& style_name,
                        going_on_check const& going_on) const;
+    // The same, and the addon written is the one, of the rules learned and of each start (as it
+    // stands and with the author's own line breaks kept), that leaves most lines of an equal share
+    // of the sources (every k-th of them) as they are; a start taken as it stands is named.
+    style_learned_from_starts from(std::vector<std::string> const& sources, std::vector<learning_start> const& starts,
+                                   std::string const& style_name, going_on_check const& going_on) const;
 
 private:
     language_description const& language;

@@ -88,31 +88,50 @@ private slots:
         QVERIFY2(revision.out.contains("3 files was found, 3 files was revised"), revision.out.constData());
     }
 
-    // A learned style that leaves fewer of the files' lines as they are than an installed style
-    // does is not installed: the new style takes the installed one's forms under its own name.
-    // The test plugin always learns a style that doubles every single blank. Faults caught: the
-    // worse learned style installed, the installed style's forms taken when the learned ones are
-    // better, the new style installed under the other's name, or the report naming neither.
-    void learns_no_further_from_the_code_than_an_installed_style_data() {
+    // Learning starts from the project's own engine configuration, where the directory learned from
+    // holds one, and from the installed styles of the language: a plugin that takes starts gets
+    // them in that order, and a start it takes is installed under the new name and named in the report; one built
+    // against the learning interface alone is asked as before, and its style installed as it learned
+    // it. The test plugins always learn a style that doubles every single blank; the one taking
+    // starts keeps a start that leaves more. Faults caught: the installed styles not given as
+    // starts, a start taken but not named or named when not taken, the new style installed under
+    // the start's name, a plugin without the new interface not asked to learn.
+    void learns_from_the_installed_styles_data() {
+        QTest::addColumn<bool>("takes_starts");
         QTest::addColumn<QByteArray>("code");
+        // The project's .clang-format, none when empty.
+        QTest::addColumn<QByteArray>("configuration");
         QTest::addColumn<QByteArray>("form");
         QTest::addColumn<QByteArray>("out");
         QTest::newRow("an installed style leaves more")
-            << QByteArray("begin a b end\nbegin c end\n") << QByteArray("begin SOME end")
+            << true << QByteArray("begin a b end\nbegin c end\n") << QByteArray() << QByteArray("begin SOME end")
             << QByteArray("Style 'House' of language 'Test' was learned from 1 file: it leaves 100.0% of their 2 "
                           "lines as they are. It has the forms of style 'Plain', which leave more of them as they "
                           "are than any rules learned.\n");
         QTest::newRow("the learned style leaves more")
-            << QByteArray("begin  a  end\nbegin  c  end\n") << QByteArray("begin  SOME  end")
+            << true << QByteArray("begin  a  end\nbegin  c  end\n") << QByteArray() << QByteArray("begin  SOME  end")
+            << QByteArray("Style 'House' of language 'Test' was learned from 1 file: it leaves 100.0% of their 2 "
+                          "lines as they are.\n");
+        QTest::newRow("a plugin that takes no starts")
+            << false << QByteArray("begin a b end\nbegin c end\n") << QByteArray() << QByteArray("begin  SOME  end")
+            << QByteArray("Style 'House' of language 'Test' was learned from 1 file: it leaves 0.0% of their 2 "
+                          "lines as they are.\n");
+        QTest::newRow("the project's own configuration leaves as many as an installed style")
+            << true << QByteArray("begin a b end\nbegin c end\n") << QByteArray("begin   SOME end\n")
+            << QByteArray("begin   SOME end")
             << QByteArray("Style 'House' of language 'Test' was learned from 1 file: it leaves 100.0% of their 2 "
                           "lines as they are.\n");
     }
-    void learns_no_further_from_the_code_than_an_installed_style() {
+    void learns_from_the_installed_styles() {
+        QFETCH(bool, takes_starts);
         QFETCH(QByteArray, code);
+        QFETCH(QByteArray, configuration);
         QFETCH(QByteArray, form);
         QFETCH(QByteArray, out);
         temporary_bundle bundle;
-        bundle.add_plugin(built::learning_language_plugin());
+        if (!configuration.isEmpty())
+            bundle.write_file("proj/.clang-format", configuration);
+        bundle.add_plugin(takes_starts ? built::starts_learning_language_plugin() : built::learning_language_plugin());
         bundle.add_addon(addon_file("Plain", "Test"), addon_text("Plain", "Test"));
         bundle.write_file("proj/a.tst", code);
         run_options options;

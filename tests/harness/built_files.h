@@ -20,6 +20,7 @@ inline QString other_language_plugin() { return test_plugin("libother-language-p
 // "Test" again, declaring that its revise() may run on several threads at once.
 inline QString reentrant_language_plugin() { return test_plugin("libreentrant-language-plugin.so"); }
 inline QString learning_language_plugin() { return test_plugin("liblearning-language-plugin.so"); }
+inline QString starts_learning_language_plugin() { return test_plugin("libstarts-learning-language-plugin.so"); }
 inline QString plugin_without_interface() { return test_plugin("libno-interface-plugin.so"); }
 inline QString library_without_plugin() { return test_plugin("libno-qt-plugin.so"); }
 

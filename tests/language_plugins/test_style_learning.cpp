@@ -19,6 +19,7 @@
 #include "tests/harness/built_files.h"
 
 #include <QDir>
+#include <QRegularExpression>
 #include <QtTest>
 
 using namespace our_plugins;
@@ -189,6 +190,120 @@ private slots:
         QCOMPARE(learned.lines, lines);
         QCOMPARE(learned.lines_left, left);
         QVERIFY2(left * 1000 >= lines * 995, qPrintable(QString("%1 of %2 lines left").arg(left).arg(lines)));
+    }
+
+    // A project written in a shipped style, with its limit or with the author's own line breaks
+    // kept, but for the middle third of each file (where a sample reads a long file) written in
+    // another style, is learned with the shipped styles of its language as starts: the sample
+    // shows the other style, so the rules learned from it lose, and the style learned must still
+    // leave at least as many lines as the style most of the code is written in. Faults caught: the
+    // starts not weighed, a start weighed only as it stands (no author's breaks kept), a start
+    // taken and not named, or named and not taken.
+    void learns_no_further_from_the_code_than_a_start_data() {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<QString>("shipped");
+        QTest::addColumn<bool>("breaks_kept");
+        QTest::addColumn<QString>("middle");
+        QTest::newRow("C, Linux kernel with the author's breaks kept")
+            << "C" << "Linux kernel" << true << "{BasedOnStyle: LLVM, IndentWidth: 3}";
+        QTest::newRow("C, GNU as it stands") << "C" << "GNU" << false << "{BasedOnStyle: LLVM, IndentWidth: 3}";
+        QTest::newRow("C++, Mozilla with the author's breaks kept")
+            << "C++" << "Mozilla" << true << "{BasedOnStyle: Google, IndentWidth: 3}";
+    }
+    void learns_no_further_from_the_code_than_a_start() {
+        QFETCH(QString, language);
+        QFETCH(QString, shipped);
+        QFETCH(bool, breaks_kept);
+        QFETCH(QString, middle);
+        auto const& description = description_of(language);
+        std::vector<learning_start> starts;
+        long shipped_start = -1;
+        for (QString const& file : shipped_addons())
+            if (file.endsWith("[" + language + "].style")) {
+                if (file.section('[', 0, 0) == shipped)
+                    shipped_start = static_cast<long>(starts.size());
+                starts.push_back({file.section('[', 0, 0).toStdString(), shipped_addon(file)});
+            }
+        QVERIFY(shipped_start >= 0);
+        QString options = QString::fromStdString(
+            tarnel_engine::options_inferred_from(starts[static_cast<std::size_t>(shipped_start)].addon, description));
+        if (breaks_kept)
+            options.replace(QRegularExpression("\nColumnLimit: *[0-9]+"), "\nColumnLimit: 0");
+        std::string const known = tarnel_engine::addon_written_in(options.toStdString(), "Known", description);
+        std::string const other = tarnel_engine::addon_written_in(middle.toStdString(), "Other", description);
+        QVERIFY(!known.empty() && !other.empty());
+        loaded_plugin plugin(plugin_file_of(language.toStdString()));
+        QVERIFY(plugin.learning_from_starts());
+        // Functions with a call too long for 80 columns and a condition broken by hand.
+        auto const functions = [](int from, int to) {
+            std::string code;
+            for (int n = from; n < to; ++n) {
+                std::string const i = std::to_string(n);
+                code += "static int check_" + i + "(struct device *dev, int state, int flags)\n{\nint result = 0;\n"
+                        "if (state > " + i + " &&\nflags != 0) {\nif (dev->ready)\nresult = compute_the_value_of_the_"
+                        "device(dev, state, flags, dev->configuration_flags, " + i + ");\n} else {\nresult = -1;\n}\n"
+                        "switch (state) {\ncase 0:\nreturn result;\ndefault:\nbreak;\n}\n"
+                        "for (int k = 0; k < state; k++)\nresult += k * " + i + ";\nreturn result;\n}\n\n";
+            }
+            return code;
+        };
+        std::vector<std::string> project;
+        for (int file = 0; file < 6; ++file) {
+            std::string text;
+            for (int third = 0; third < 3; ++third) {
+                std::string const code = functions(file * 100 + third * 30, file * 100 + third * 30 + 30);
+                std::string const written = plugin->revise(code, third == 1 ? other : known, traits_of(code));
+                QVERIFY(written != STYLE_TARNEL_SYNTAX_ERROR_TEXT);
+                text += written;
+            }
+            project.push_back(text);
+        }
+        auto const lines_left_by = [&](std::string const& addon) {
+            unsigned long left = 0;
+            for (std::string const& source : project)
+                left += tarnel_engine::lines_left_between(source, plugin->revise(source, addon, traits_of(source)));
+            return left;
+        };
+        style_learned_from_starts const learned =
+            plugin.learning_from_starts()->learn_style_from(project, starts, "Learned", {});
+        QVERIFY(!learned.learned.addon.empty());
+        QCOMPARE(learned.learned.lines_left, lines_left_by(learned.learned.addon));
+        unsigned long const written_in = lines_left_by(known);
+        QVERIFY2(learned.learned.lines_left >= written_in,
+                 qPrintable(QString("%1 lines left, %2 by the style most of the code is written in")
+                                .arg(learned.learned.lines_left)
+                                .arg(written_in)));
+        for (std::size_t i = 0; i < starts.size(); ++i)
+            QVERIFY2(learned.learned.lines_left >= lines_left_by(starts[i].addon), starts[i].style.c_str());
+        // The shipped style as it stands is taken and named; with the breaks kept, its forms are
+        // no start's.
+        QCOMPARE(learned.start_taken, breaks_kept ? -1L : shipped_start);
+        QVERIFY(learned.learned.addon.rfind("NAME=Learned\n", 0) == 0);
+    }
+
+    // Trailing comments mostly two blanks from their code, a few further: the learning reads two,
+    // the search may leave comments where they stand (which changes no line of the sample), and
+    // the addon must still say two, as the code does. Fault caught: the addon written under the
+    // "leave" alignment, whose forms keep the catalogue's single blank and so say one.
+    void holds_the_blanks_before_trailing_comments() {
+        std::vector<std::string> project;
+        for (int file = 0; file < 6; ++file) {
+            std::string text;
+            for (int function = 0; function < 40; ++function) {
+                std::string const n = std::to_string(file * 100 + function);
+                std::string const further = function % 5 == 4 ? "    " : "  ";
+                text += "int step_" + n + "(int x) {\n  int y = x + " + n + ";  // the next one\n  if (y > 3) {\n"
+                        "    y = 3;" + further + "// at most three\n  }\n  return y;  // done\n}\n\n";
+            }
+            project.push_back(text);
+        }
+        loaded_plugin plugin(cpp_plugin_file());
+        learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
+        QVERIFY(!learned.addon.empty());
+        QString const inferred = QString("\n" + QString::fromStdString(tarnel_engine::options_inferred_from(
+                                                    learned.addon, cpp_language())))
+                                     .replace(QRegularExpression(" +"), " ");
+        QVERIFY2(inferred.contains("\nSpacesBeforeTrailingComments: 2\n"), qPrintable(inferred));
     }
 
     // Each kind of macro is read from code of its own shape only, in two files: a loop without

@@ -133,6 +133,47 @@ learned_style test_language_plugin::learn_style(std::vector<std::string> const& 
 }
 #endif
 
+#ifdef TEST_PLUGIN_LEARNING_FROM_STARTS
+style_learned_from_starts test_language_plugin::learn_style_from(
+    std::vector<std::string> const& sources, std::vector<learning_start> const& starts, std::string const& style_name,
+    std::function<bool(unsigned long, unsigned long)> const& going_on) {
+    style_learned_from_starts learned;
+    learned.learned = learn_style(sources, style_name, going_on);
+    for (std::size_t i = 0; i < starts.size() && !learned.learned.addon.empty(); ++i) {
+        std::size_t const first_line_end = starts[i].addon.find('\n');
+        if (starts[i].addon.compare(0, 5, "NAME=") != 0 || first_line_end == std::string::npos)
+            continue;
+        learned_style start;
+        start.addon = "NAME=" + style_name + starts[i].addon.substr(first_line_end);
+        for (std::string const& source : sources) {
+            start.lines += style_tarnel::lines_of(source);
+            start.lines_left += style_tarnel::lines_left_between(source, revise(source, start.addon, {"\n", " "}));
+        }
+        if (start.lines_left > learned.learned.lines_left) {
+            learned.learned = start;
+            learned.start_taken = static_cast<long>(i);
+        }
+    }
+    return learned;
+}
+
+std::string test_language_plugin::engine_configuration_of(std::string const& addon) {
+    std::size_t const begin = addon.find("S_BEG\n");
+    std::size_t const end = addon.find("\nS_END");
+    return begin == std::string::npos || end == std::string::npos ? std::string() : addon.substr(begin + 6, end - begin - 6);
+}
+
+configured_addon test_language_plugin::addon_from_configuration(std::string const& configuration,
+                                                                std::string const& style_name) {
+    configured_addon made;
+    std::string form = configuration;
+    while (!form.empty() && form.back() == '\n')
+        form.pop_back();
+    made.addon = "NAME=" + style_name + "\nLANGUAGE=" TEST_LANGUAGE_NAME "\n\nS_NAME=block\nS_BEG\n" + form + "\nS_END\n";
+    return made;
+}
+#endif
+
 std::string test_language_plugin::revise(std::string const& source, std::string const& addon,
                                          line_ending_traits const& traits) {
     call_under_way const counted;

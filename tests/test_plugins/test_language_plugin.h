@@ -18,6 +18,9 @@
 // whole process, which nothing survives). A build with TEST_PLUGIN_LEARNING learns a style too:
 // always the one whose addon holds the form "begin  SOME  end" (two blanks), under which revise()
 // makes every single blank two instead (so a text of single blanks changes on every such line).
+// A build with TEST_PLUGIN_LEARNING_FROM_STARTS as well learns from starts too: it keeps the first
+// start that leaves more lines as they are than that style, under the new name, and names it; and
+// it has the configuration interface, whose configuration is the text of the form "block".
 #ifndef TEST_LANGUAGE_PLUGIN_H
 #define TEST_LANGUAGE_PLUGIN_H
 
@@ -36,6 +39,11 @@ class test_language_plugin : public QObject,
     ,
                              public interface_to_style_learning
 #endif
+#ifdef TEST_PLUGIN_LEARNING_FROM_STARTS
+    ,
+                             public interface_to_style_learning_from_starts,
+                             public interface_to_engine_configuration
+#endif
 {
     Q_OBJECT
 #ifdef TEST_PLUGIN_REENTRANT
@@ -43,7 +51,10 @@ class test_language_plugin : public QObject,
 #else
     Q_PLUGIN_METADATA(IID TEST_PLUGIN_IID)
 #endif
-#ifdef TEST_PLUGIN_LEARNING
+#if defined(TEST_PLUGIN_LEARNING_FROM_STARTS)
+    Q_INTERFACES(interface_to_language_plugin interface_to_style_learning interface_to_style_learning_from_starts
+                 interface_to_engine_configuration)
+#elif defined(TEST_PLUGIN_LEARNING)
     Q_INTERFACES(interface_to_language_plugin interface_to_style_learning)
 #else
     Q_INTERFACES(interface_to_language_plugin)
@@ -52,6 +63,14 @@ public:
 #ifdef TEST_PLUGIN_LEARNING
     learned_style learn_style(std::vector<std::string> const& sources, std::string const& style_name,
                               std::function<bool(unsigned long done, unsigned long whole)> const& going_on) override;
+#endif
+#ifdef TEST_PLUGIN_LEARNING_FROM_STARTS
+    style_learned_from_starts learn_style_from(
+        std::vector<std::string> const& sources, std::vector<learning_start> const& starts,
+        std::string const& style_name,
+        std::function<bool(unsigned long done, unsigned long whole)> const& going_on) override;
+    std::string engine_configuration_of(std::string const& addon) override;
+    configured_addon addon_from_configuration(std::string const& configuration, std::string const& style_name) override;
 #endif
     std::string language_name() override;
     std::vector<std::string> list_of_keywords() override;

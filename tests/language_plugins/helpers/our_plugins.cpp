@@ -69,6 +69,7 @@ loaded_plugin::loaded_plugin(QString const& file_name) : loader(std::make_unique
     if (QObject* root = loader->instance()) {
         plugin = qobject_cast<interface_to_language_plugin*>(root);
         learner = qobject_cast<interface_to_style_learning*>(root);
+        starts_learner = qobject_cast<interface_to_style_learning_from_starts*>(root);
         range_reviser = qobject_cast<interface_to_range_revision*>(root);
         configurer = qobject_cast<interface_to_engine_configuration*>(root);
     }

@@ -39,6 +39,8 @@ public:
     interface_to_language_plugin* operator->() const { return plugin; }
     // The plugin's learning interface, found as the host finds it.
     interface_to_style_learning* learning() const { return learner; }
+    // The plugin's learning from starting styles, found as the host finds it.
+    interface_to_style_learning_from_starts* learning_from_starts() const { return starts_learner; }
     // The plugin's range interface, found as the host finds it.
     interface_to_range_revision* ranges() const { return range_reviser; }
     // The plugin's configuration interface, found as the host finds it.
@@ -48,6 +50,7 @@ private:
     std::unique_ptr<QPluginLoader> loader;
     interface_to_language_plugin* plugin = nullptr;
     interface_to_style_learning* learner = nullptr;
+    interface_to_style_learning_from_starts* starts_learner = nullptr;
     interface_to_range_revision* range_reviser = nullptr;
     interface_to_engine_configuration* configurer = nullptr;
 };
