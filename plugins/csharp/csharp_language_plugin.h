@@ -10,8 +10,8 @@ class csharp_language_plugin : public QObject, public tarnel_engine::language_pl
     Q_OBJECT
     // revise() may run on several threads at once.
     Q_PLUGIN_METADATA(IID STYLE_TARNEL_INTERFACE_ID FILE "../engine/language_plugin.json")
-    Q_INTERFACES(interface_to_language_plugin interface_to_style_learning interface_to_range_revision
-                 interface_to_engine_configuration)
+    Q_INTERFACES(interface_to_language_plugin interface_to_style_learning interface_to_style_learning_from_starts
+                 interface_to_range_revision interface_to_engine_configuration)
 public:
     csharp_language_plugin();
 };

@@ -133,6 +133,18 @@ private slots:
                  QString::fromStdString(plugin->revise(input, addon, traits_of(input))));
     }
 
+    // Each root object names every optional interface its base implements: one left out of a
+    // plugin's list is never found by the host, and its language silently loses the feature.
+    void offers_every_optional_interface_data() { each_plugin(); }
+    void offers_every_optional_interface() {
+        QFETCH(QString, file);
+        loaded_plugin plugin(file);
+        QVERIFY(plugin.learning());
+        QVERIFY(plugin.learning_from_starts());
+        QVERIFY(plugin.ranges());
+        QVERIFY(plugin.configurations());
+    }
+
     void a_configuration_the_engine_cannot_read_is_refused_with_the_reason_data() { each_plugin(); }
     void a_configuration_the_engine_cannot_read_is_refused_with_the_reason() {
         QFETCH(QString, file);
