@@ -199,6 +199,27 @@ std::vector<option_group> make_protocol_buffers_groups() {
     return groups;
 }
 
+// JavaScript and TypeScript have neither the preprocessor nor pointers nor C++'s classes; their
+// imports may be wrapped, their object and array literals spaced inside.
+std::vector<option_group> make_javascript_groups() {
+    static std::set<std::string> const c_family_only = {
+        "PointerAlignment", "DerivePointerAlignment", "ReferenceAlignment", "NamespaceIndentation",
+        "AccessModifierOffset", "IndentAccessModifiers", "EmptyLineBeforeAccessModifier",
+        "BreakConstructorInitializers", "PackConstructorInitializers", "ConstructorInitializerIndentWidth",
+        "BreakInheritanceList", "SpaceBeforeCtorInitializerColon", "SpaceBeforeInheritanceColon",
+        "SpaceAfterTemplateKeyword", "BreakTemplateDeclarations", "BraceWrapping.AfterStruct",
+        "BraceWrapping.AfterUnion", "BraceWrapping.AfterNamespace", "BraceWrapping.AfterExternBlock",
+        "AlignConsecutiveMacros", "AlignConsecutiveBitFields", "BitFieldColonSpacing", "IndentExternBlock",
+        "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth", "IndentGotoLabels", "AlignArrayOfStructures"};
+    std::vector<option_group> groups = make_groups();
+    groups.erase(std::remove_if(groups.begin(), groups.end(),
+                                [](option_group const& group) { return c_family_only.count(group.name) > 0; }),
+                 groups.end());
+    groups.push_back(flag("JavaScriptWrapImports"));
+    groups.push_back(flag("SpacesInContainerLiterals"));
+    return groups;
+}
+
 }  // namespace
 
 std::vector<option_group> const& option_groups() {
@@ -209,11 +230,14 @@ std::vector<option_group> const& option_groups() {
 std::vector<option_group> const& option_groups(lexed_as language) {
     static std::vector<option_group> const java = make_java_groups();
     static std::vector<option_group> const protocol_buffers = make_protocol_buffers_groups();
+    static std::vector<option_group> const javascript = make_javascript_groups();
     switch (language) {
     case lexed_as::java:
         return java;
     case lexed_as::protocol_buffers:
         return protocol_buffers;
+    case lexed_as::javascript:
+        return javascript;
     case lexed_as::latest_c:
     case lexed_as::latest_cpp:
         break;

@@ -1,0 +1,26 @@
+// The tokens of JavaScript and TypeScript as their own lexer reads them, where clang's lexer would
+// split or join them otherwise: whole template literals (their substitutions, nested, included),
+// regular expression literals told from division by the token before them, strings in either
+// quote, private names, and the operators of the language (`=>`, `?.`, `??`, `**`, `===`, `>>>`, …).
+#ifndef TARNEL_ENGINE_JAVASCRIPT_TOKENS_H
+#define TARNEL_ENGINE_JAVASCRIPT_TOKENS_H
+
+#include <string>
+#include <vector>
+
+namespace tarnel_engine {
+
+struct javascript_token {
+    std::string text;  // comments with their white space left out
+    std::size_t end = 0;  // the offset just past it in the code
+    bool is_comment = false;
+    std::size_t begin = 0;  // the offset of its first byte
+    bool line_break_before = false;  // a line ends between the code token before and this one
+};
+
+// The tokens of a source, comments among them, in order.
+std::vector<javascript_token> javascript_tokens_of(std::string const& code);
+
+}  // namespace tarnel_engine
+
+#endif

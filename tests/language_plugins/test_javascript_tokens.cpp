@@ -1,0 +1,111 @@
+// JavaScript and TypeScript read as their own lexer reads them: template literals, regular
+// expressions and the language's operators stay whole, so white space inside them is never
+// changed as if it stood between tokens; and a result that adds or takes away a line break where a
+// semicolon could be inserted is refused, however its tokens compare.
+#include "token_sequence.h"
+
+#include <QtTest>
+
+#include <string>
+#include <vector>
+
+using tarnel_engine::lexed_as;
+
+class test_javascript_tokens : public QObject {
+    Q_OBJECT
+
+private slots:
+    void tokens_are_read_whole_data() {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<QStringList>("tokens");
+        QTest::newRow("template literal, nested") << "x = `a ${ `b ${c}` } d`;"
+                                                  << QStringList{"x", "=", "`a ${ `b ${c}` } d`", ";"};
+        QTest::newRow("object in a substitution") << "`${ {a: 1}.a }` / 2" << QStringList{"`${ {a: 1}.a }`", "/", "2"};
+        QTest::newRow("regular expression after =") << "x = /a b/g;" << QStringList{"x", "=", "/a b/g", ";"};
+        QTest::newRow("regular expression after (") << "f(/ +/)" << QStringList{"f", "(", "/ +/", ")"};
+        QTest::newRow("regular expression after return") << "return /x /" << QStringList{"return", "/x /"};
+        QTest::newRow("slash in a class") << "x = /[/ ]/" << QStringList{"x", "=", "/[/ ]/"};
+        QTest::newRow("division after a name") << "a / b / c" << QStringList{"a", "/", "b", "/", "c"};
+        QTest::newRow("division after )") << "(a) / 2 / b" << QStringList{"(", "a", ")", "/", "2", "/", "b"};
+        QTest::newRow("strings in either quote") << "'a \"b' \"c 'd\"" << QStringList{"'a \"b'", "\"c 'd\""};
+        QTest::newRow("operators") << "a===b!==c>>>d??e**f?.g=>h"
+                                   << QStringList{"a", "===", "b", "!==", "c", ">>>", "d", "??", "e",
+                                                  "**", "f", "?.", "g", "=>", "h"};
+        QTest::newRow("?. before a digit") << "a?.5:1" << QStringList{"a", "?", ".5", ":", "1"};
+        QTest::newRow("private name") << "this.#x" << QStringList{"this", ".", "#x"};
+        QTest::newRow("hashbang") << "#!/usr/bin/env node\nx" << QStringList{"#!/usr/bin/env node", "x"};
+        QTest::newRow("comment") << "a /* b c */ d" << QStringList{"a", "/*bc*/", "d"};
+    }
+
+    void tokens_are_read_whole() {
+        QFETCH(QString, code);
+        QFETCH(QStringList, tokens);
+        QStringList read;
+        for (std::string const& each : tarnel_engine::tokens_of(code.toStdString(), lexed_as::javascript))
+            read << QString::fromStdString(each);
+        QCOMPARE(read, tokens);
+    }
+
+    // Each row: a source, a result differing from it in white space alone, and whether the result
+    // keeps the program's meaning.
+    void line_breaks_where_a_semicolon_could_be_inserted_stay_data() {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("after");
+        QTest::addColumn<bool>("kept");
+        QTest::newRow("return joined to its value") << "return\nx;\n" << "return x;\n" << false;
+        QTest::newRow("return parted from its value") << "return x;\n" << "return\nx;\n" << false;
+        QTest::newRow("throw parted from its value") << "throw e;\n" << "throw\ne;\n" << false;
+        QTest::newRow("break parted from its label") << "break a;\n" << "break\na;\n" << false;
+        QTest::newRow("continue parted from its label") << "continue a;\n" << "continue\na;\n" << false;
+        QTest::newRow("yield parted from its value") << "yield x;\n" << "yield\nx;\n" << false;
+        QTest::newRow("async parted from its arrow") << "async x => x;\n" << "async\nx => x;\n" << false;
+        QTest::newRow("a line break before => taken") << "f = (a)\n=> a;\n" << "f = (a) => a;\n" << false;
+        QTest::newRow("a line break before ++ taken") << "a\n++b\n" << "a ++b\n" << false;
+        QTest::newRow("a line break after ++ taken") << "a++\nb\n" << "a++ b\n" << false;
+        QTest::newRow("a line break before -- added") << "a --b\n" << "a\n--b\n" << false;
+        QTest::newRow("a line break before ( taken") << "a\n(b)\n" << "a(b)\n" << false;
+        QTest::newRow("a line break before ( added") << "a(b)\n" << "a\n(b)\n" << false;
+        QTest::newRow("a line break before [ taken") << "a\n[b]\n" << "a[b]\n" << false;
+        QTest::newRow("a template literal continuing") << "a\n`b`\n" << "a`b`\n" << false;
+        QTest::newRow("two statements joined") << "a = 1\nb = 2\n" << "a = 1 b = 2\n" << false;
+        QTest::newRow("a line break in a comment taken") << "return /*\n*/ x\n" << "return /**/ x\n" << false;
+        QTest::newRow("TypeScript modifier joined") << "declare\nclass A {}\n" << "declare class A {}\n" << false;
+        QTest::newRow("class field before a generator") << "class A { x = 1\n*g() {} }\n"
+                                                        << "class A { x = 1 *g() {} }\n" << false;
+        QTest::newRow("after a comma") << "f(a,\nb);\n" << "f(a, b);\n" << true;
+        QTest::newRow("after an opening bracket") << "f(\na);\n" << "f(a);\n" << true;
+        QTest::newRow("after an operator") << "x = a + b;\n" << "x = a +\n    b;\n" << true;
+        QTest::newRow("after =>") << "f = () =>\n  a;\n" << "f = () => a;\n" << true;
+        QTest::newRow("before a dot") << "a\n  .b();\n" << "a.b();\n" << true;
+        QTest::newRow("before a closing brace") << "{ a\n}\n" << "{ a }\n" << true;
+        QTest::newRow("before &&") << "x = a && b;\n" << "x = a\n    && b;\n" << true;
+    }
+
+    void line_breaks_where_a_semicolon_could_be_inserted_stay() {
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        QFETCH(bool, kept);
+        QCOMPARE(tarnel_engine::result_with_the_tokens_of(before.toStdString(), after.toStdString(), lexed_as::javascript)
+                     .has_value(),
+                 kept);
+    }
+
+    void white_space_inside_a_token_stays_data() {
+        QTest::addColumn<QString>("before");
+        QTest::addColumn<QString>("after");
+        QTest::newRow("regular expression") << "x = /a b/;\n" << "x = /a  b/;\n";
+        QTest::newRow("substitution of a template literal") << "x = `a ${ b }`;\n" << "x = `a ${b}`;\n";
+        QTest::newRow("string") << "x = 'a b';\n" << "x = 'a  b';\n";
+        QTest::newRow("=== parted") << "a === b;\n" << "a == = b;\n";
+        QTest::newRow("?? parted") << "a ?? b;\n" << "a ? ? b;\n";
+    }
+
+    void white_space_inside_a_token_stays() {
+        QFETCH(QString, before);
+        QFETCH(QString, after);
+        QVERIFY(!tarnel_engine::result_with_the_tokens_of(before.toStdString(), after.toStdString(), lexed_as::javascript));
+    }
+};
+
+QTEST_GUILESS_MAIN(test_javascript_tokens)
+#include "test_javascript_tokens.moc"
