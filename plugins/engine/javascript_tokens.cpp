@@ -1,11 +1,15 @@
 // A small lexer of JavaScript and TypeScript: every byte of the text is white space or part of a
-// token, so two texts with the same tokens differ in white space alone. Where it cannot tell a
+// token, so two texts with the same tokens differ in white space alone. A template literal is read
+// in pieces, each with every byte of its text: from the backtick to the first `${`, from each `}`
+// that closes a substitution to the next `${`, and to the closing backtick; the code of a
+// substitution between them is read as any other code. Where it cannot tell a
 // regular expression from a division it reads a regular expression: the white space inside one is
 // then kept as written, never changed as if it stood between tokens.
 #include "javascript_tokens.h"
 
 #include <algorithm>
 #include <string_view>
+#include <vector>
 
 namespace tarnel_engine {
 
@@ -119,7 +123,13 @@ private:
         if (c == '"' || c == '\'')
             return string_end(at);
         if (c == '`')
-            return template_end(at + 1);
+            return template_piece_end(at + 1);
+        if (!substitutions.empty() && c == '{')
+            ++substitutions.back();
+        if (!substitutions.empty() && c == '}' && substitutions.back()-- == 0) {
+            substitutions.pop_back();
+            return template_piece_end(at + 1);
+        }
         if (c == '/' && regular_expression_may_follow()) {
             std::size_t const end = regular_expression_end(at + 1);
             if (end != 0)
@@ -175,45 +185,23 @@ private:
         return code.size();
     }
 
-    // `at` just past the backtick; unclosed, a template literal takes the rest.
-    std::size_t template_end(std::size_t at) {
+    // The end of a piece of a template literal whose first byte (a backtick, or the `}` that closes
+    // a substitution) is just before `at`: after its closing backtick, or after the `${` that opens a
+    // substitution (then counted as open). Unclosed, a template literal takes the rest.
+    std::size_t template_piece_end(std::size_t at) {
         while (at < code.size()) {
             if (code[at] == '\\') {
                 at += 2;
             } else if (code[at] == '`') {
                 return at + 1;
             } else if (code.substr(at, 2) == "${") {
-                at = substitution_end(at + 2);
+                substitutions.push_back(0);
+                return at + 2;
             } else {
                 ++at;
             }
         }
         return code.size();
-    }
-
-    // Past the `}` that closes a substitution begun before `at`.
-    std::size_t substitution_end(std::size_t at) {
-        int depth = 0;
-        std::string_view const outer_last = last;
-        last = "{";
-        while (true) {
-            bool line_break = false;
-            at = skip_white_space(at, line_break);
-            if (at >= code.size())
-                break;
-            std::size_t const end = token_end(at);
-            std::string_view const token = code.substr(at, end - at);
-            at = end;
-            if (is_comment_at(end - token.size()))
-                continue;
-            last = token;
-            if (token == "{")
-                ++depth;
-            else if (token == "}" && depth-- == 0)
-                break;
-        }
-        last = outer_last;
-        return std::min(at, code.size());
     }
 
     // `at` just past the opening slash; 0 when the line ends first (a division, then).
@@ -239,6 +227,7 @@ private:
 
     std::string_view const code;
     std::string_view last;  // the code token before
+    std::vector<int> substitutions;  // for each open substitution of a template literal, its open braces
 };
 
 }  // namespace

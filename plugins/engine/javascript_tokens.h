@@ -1,5 +1,6 @@
 // The tokens of JavaScript and TypeScript as their own lexer reads them, where clang's lexer would
-// split or join them otherwise: whole template literals (their substitutions, nested, included),
+// split or join them otherwise: the text of template literals whole (the code of their
+// substitutions, nested ones too, read as code),
 // regular expression literals told from division by the token before them, strings in either
 // quote, private names, and the operators of the language (`=>`, `?.`, `??`, `**`, `===`, `>>>`, …).
 #ifndef TARNEL_ENGINE_JAVASCRIPT_TOKENS_H

@@ -9,11 +9,13 @@
 
 namespace tarnel_engine {
 
-// Whether every line break that `after` adds to `before` or takes from it stands between two
-// tokens where no semicolon can be inserted either way: after a token that cannot end a statement
-// (an opening bracket, a comma, a binary operator, …) or before one that cannot begin one and
-// continues the statement (a closing bracket, `.`, a binary operator other than those that may
-// begin an expression, …). Both texts hold the same tokens.
+// Whether every line break that `after` adds to `before` or takes from it leaves the program as it
+// is: never after `return`, `throw`, `break`, `continue`, `yield`, `async` or a modifier of
+// TypeScript, never before `++`, `--` or `=>`; before `(`, `[`, a template literal, `!` or `<` only
+// after a token that cannot end an expression; and taken away only where no statement can end at
+// it (after an opening bracket, a comma or a binary operator, before a closing bracket, `.` or a
+// binary operator, before a block's brace, `else`, `catch`, `finally`, after the `)` of a
+// condition). Both texts hold the same tokens.
 bool line_breaks_keep_the_meaning_of(std::string const& before, std::string const& after);
 
 }  // namespace tarnel_engine

@@ -105,6 +105,10 @@ private slots:
         QTest::newRow("Protocol Buffers: brackets in strings of either quote")
             << "message A {\n  string a = 1 [default = '}'];\n  string b = 2 [default = \"]\"];\n}\n" << false
             << QStringList{"Protocol Buffers"};
+        QTest::newRow("JavaScript: a function without its closing brace")
+            << "function f() {\n  if (a) {\n    g('}');\n}\n" << true << QStringList{"JavaScript"};
+        QTest::newRow("JavaScript: brackets in strings of either quote and comments")
+            << "const a = '{';\nconst c = \"(\"; // }\n" << false << QStringList{"JavaScript"};
     }
     void answers_syntax_errors() {
         QFETCH(QString, code);
@@ -113,7 +117,7 @@ private slots:
         std::string const source = code.toStdString();
         std::map<QString, QString> const styles = {
             {"C", "GNU[C].style"}, {"C++", "Google[C++].style"}, {"Java", "Google[Java].style"},
-            {"Protocol Buffers", "Google[Protocol Buffers].style"}};
+            {"Protocol Buffers", "Google[Protocol Buffers].style"}, {"JavaScript", "Google[JavaScript].style"}};
         for (QString const& language : languages) {
             loaded_plugin plugin(plugin_file_of(language.toStdString()));
             QVERIFY(plugin.get());

@@ -1,5 +1,5 @@
-// JavaScript and TypeScript read as their own lexer reads them: template literals, regular
-// expressions and the language's operators stay whole, so white space inside them is never
+// JavaScript and TypeScript read as their own lexer reads them: the text of template literals,
+// regular expressions and the language's operators stay whole, so white space inside them is never
 // changed as if it stood between tokens; and a result that adds or takes away a line break where a
 // semicolon could be inserted is refused, however its tokens compare.
 #include "token_sequence.h"
@@ -18,9 +18,12 @@ private slots:
     void tokens_are_read_whole_data() {
         QTest::addColumn<QString>("code");
         QTest::addColumn<QStringList>("tokens");
+        QTest::newRow("template literal") << "x = `a  b`;" << QStringList{"x", "=", "`a  b`", ";"};
         QTest::newRow("template literal, nested") << "x = `a ${ `b ${c}` } d`;"
-                                                  << QStringList{"x", "=", "`a ${ `b ${c}` } d`", ";"};
-        QTest::newRow("object in a substitution") << "`${ {a: 1}.a }` / 2" << QStringList{"`${ {a: 1}.a }`", "/", "2"};
+                                                  << QStringList{"x", "=", "`a ${", "`b ${", "c", "}`", "} d`", ";"};
+        QTest::newRow("object in a substitution") << "`${ {a: 1}.a }` / 2"
+                                                  << QStringList{"`${", "{", "a", ":", "1", "}", ".", "a", "}`", "/", "2"};
+        QTest::newRow("regular expression in a substitution") << "`${ /}/ }`" << QStringList{"`${", "/}/", "}`"};
         QTest::newRow("regular expression after =") << "x = /a b/g;" << QStringList{"x", "=", "/a b/g", ";"};
         QTest::newRow("regular expression after (") << "f(/ +/)" << QStringList{"f", "(", "/ +/", ")"};
         QTest::newRow("regular expression after return") << "return /x /" << QStringList{"return", "/x /"};
@@ -72,7 +75,20 @@ private slots:
         QTest::newRow("TypeScript modifier joined") << "declare\nclass A {}\n" << "declare class A {}\n" << false;
         QTest::newRow("class field before a generator") << "class A { x = 1\n*g() {} }\n"
                                                         << "class A { x = 1 *g() {} }\n" << false;
+        QTest::newRow("a line break before ! taken") << "a\n!b\n" << "a !b\n" << false;
+        QTest::newRow("a modifier of TypeScript parted") << "class A { public x = 1 }\n"
+                                                         << "class A { public\nx = 1 }\n" << false;
+        QTest::newRow("a name joined to a statement") << "f(a)\ng()\n" << "f(a) g()\n" << false;
         QTest::newRow("after a comma") << "f(a,\nb);\n" << "f(a, b);\n" << true;
+        QTest::newRow("the brace of a class joined") << "class A\n{\n}\n" << "class A {}\n" << true;
+        QTest::newRow("else joined to the brace") << "if (a) {\n}\nelse {\n}\n" << "if (a) {\n} else {\n}\n" << true;
+        QTest::newRow("catch joined to the brace") << "try {\n}\ncatch (e) {\n}\n" << "try {\n} catch (e) {\n}\n" << true;
+        QTest::newRow("the statement of a short if joined") << "if (a)\n  b();\n" << "if (a) b();\n" << true;
+        QTest::newRow("the statement of a short if parted") << "if (a) b();\n" << "if (a)\n  b();\n" << true;
+        QTest::newRow("a property named as a modifier") << "x = a.type\n    && b;\n" << "x = a.type && b;\n" << true;
+        QTest::newRow("! after an operator") << "x = a &&\n    !b;\n" << "x = a && !b;\n" << true;
+        QTest::newRow("( after an operator") << "x = a +\n    (b);\n" << "x = a + (b);\n" << true;
+        QTest::newRow("inside a substitution") << "x = `a ${b +\n  c}`;\n" << "x = `a ${b + c}`;\n" << true;
         QTest::newRow("after an opening bracket") << "f(\na);\n" << "f(a);\n" << true;
         QTest::newRow("after an operator") << "x = a + b;\n" << "x = a +\n    b;\n" << true;
         QTest::newRow("after =>") << "f = () =>\n  a;\n" << "f = () => a;\n" << true;
@@ -94,7 +110,8 @@ private slots:
         QTest::addColumn<QString>("before");
         QTest::addColumn<QString>("after");
         QTest::newRow("regular expression") << "x = /a b/;\n" << "x = /a  b/;\n";
-        QTest::newRow("substitution of a template literal") << "x = `a ${ b }`;\n" << "x = `a ${b}`;\n";
+        QTest::newRow("text of a template literal") << "x = `a  ${b} c`;\n" << "x = `a ${b} c`;\n";
+        QTest::newRow("text after a substitution") << "x = `a ${b} c`;\n" << "x = `a ${b}  c`;\n";
         QTest::newRow("string") << "x = 'a b';\n" << "x = 'a  b';\n";
         QTest::newRow("=== parted") << "a === b;\n" << "a == = b;\n";
         QTest::newRow("?? parted") << "a ?? b;\n" << "a ? ? b;\n";

@@ -99,6 +99,12 @@ private slots:
              {"@interface", "\"a\\\"b\"", "@Tag(\"x\")", "'\\''", "1_000L"}, {"Java"}},
             {"quotes of either kind", "syntax=\"proto3\";\noption go_package='a\"b';\nmessage M{string s=1[default=\"x'y\"];}\n",
              {"'a\"b'", "\"x'y\""}, {"Protocol Buffers"}},
+            {"operators of JavaScript", "let  a=b===c!==d>>>e??f**g;\nlet  h=i?.j;\nh?\?=k;\nconst  l=(m)=>m;\n",
+             {"===", "!==", ">>>", "??", "**", "?.", "?\?=", "=>"}, {"JavaScript"}},
+            {"templates and regular expressions", "let  a=`x ${ b+c }  y`;\nlet  d=/ [a-z] +/g.test(e);\n",
+             {"`x ${", "}  y`", "/ [a-z] +/g"}, {"JavaScript"}},
+            {"TypeScript", "interface  A<T>{a:T;b?:number}\nfunction  f<T>(x:A<T>):void{}\n",
+             {"interface A<T>", "b?: number"}, {"JavaScript"}},
         };
         for (QString const& addon : shipped_addons())
             for (snippet const& each : snippets)

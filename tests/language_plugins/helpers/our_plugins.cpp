@@ -6,6 +6,7 @@
 #include "cpp_language.h"
 #include "engine/traits_of.h"
 #include "java_language.h"
+#include "javascript_language.h"
 #include "proto_language.h"
 #include "tests/harness/built_files.h"
 
@@ -42,16 +43,20 @@ QString plugin_file_of(std::string const& language) {
         return "libjava-language-plugin.so";
     if (language == "Protocol Buffers")
         return "libproto-language-plugin.so";
+    if (language == "JavaScript")
+        return "libjavascript-language-plugin.so";
     return language == "C" ? c_plugin_file() : cpp_plugin_file();
 }
 
-QStringList our_languages() { return {"C", "C++", "Java", "Protocol Buffers"}; }
+QStringList our_languages() { return {"C", "C++", "Java", "Protocol Buffers", "JavaScript"}; }
 
 tarnel_engine::language_description const& description_of(QString const& language) {
     if (language == "Java")
         return java_language();
     if (language == "Protocol Buffers")
         return proto_language();
+    if (language == "JavaScript")
+        return javascript_language();
     return language == "C" ? c_language() : cpp_language();
 }
 
