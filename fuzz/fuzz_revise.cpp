@@ -8,6 +8,7 @@
 #include "c_language.h"
 #include "cpp_language.h"
 #include "java_language.h"
+#include "javascript_language.h"
 #include "proto_language.h"
 #include "language_plugin_base.h"
 #include "token_sequence.h"
@@ -29,6 +30,8 @@ tarnel_engine::language_description const& fuzzed_language() {
         return java_language();
     if (std::strcmp(FUZZED_LANGUAGE, "Protocol Buffers") == 0)
         return proto_language();
+    if (std::strcmp(FUZZED_LANGUAGE, "JavaScript") == 0)
+        return javascript_language();
     return std::strcmp(FUZZED_LANGUAGE, "C") == 0 ? c_language() : cpp_language();
 }
 
