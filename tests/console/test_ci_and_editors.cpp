@@ -205,6 +205,10 @@ void test_ci_and_editors::the_diff_applies_with_git_apply_data() {
         << "Protocol Buffers" << "Google"
         << "a.proto=syntax = \"proto3\";\nmessage A{\nint32 a=1; string b = 2;}\n"
            " | b/b.proto=service B { rpc Get(A)\nreturns (A); }";
+    QTest::newRow("lines joined and split by JavaScript")
+        << "JavaScript" << "Google"
+        << "a/a.js=function f( a ){\nif(a>0)\n{\nreturn a>>>1;}\nreturn `${a}`;}\n"
+           " | b/b.ts=interface B\n{\na: number; b(): void;\n}";
 }
 
 void test_ci_and_editors::the_diff_applies_with_git_apply() {
@@ -214,7 +218,8 @@ void test_ci_and_editors::the_diff_applies_with_git_apply() {
     installed_bundle bundle;
     std::map<QString, QString> const our_plugins = {{"C++", "libcpp-language-plugin.so"},
                                                     {"Java", "libjava-language-plugin.so"},
-                                                    {"Protocol Buffers", "libproto-language-plugin.so"}};
+                                                    {"Protocol Buffers", "libproto-language-plugin.so"},
+                                                    {"JavaScript", "libjavascript-language-plugin.so"}};
     if (our_plugins.count(language)) {
         bundle.add_plugin(built::build_dir() + "/PlugIns/languages/" + our_plugins.at(language));
         QString const addon = style + "[" + language + "].style";
