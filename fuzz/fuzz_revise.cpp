@@ -1,5 +1,5 @@
-// One of our plugins' revise() (built once for each, FUZZED_LANGUAGE "C", "C++", "Java" or
-// "Protocol Buffers") on any source, in the style of a shipped addon of that language chosen by the input's first byte.
+// One of our plugins' revise() (built once for each, FUZZED_LANGUAGE "C", "C++", "Java",
+// "Protocol Buffers" or "Objective-C") on any source, in the style of a shipped addon of that language chosen by the input's first byte.
 // Promises: the result is the syntax-error text or has the source's non-white-space bytes and its
 // tokens (read by the plugins' own lexer, as the language's compiler reads them), and revising the
 // result again changes nothing.
@@ -10,6 +10,9 @@
 #include "java_language.h"
 #include "javascript_language.h"
 #include "proto_language.h"
+#ifdef FUZZED_OBJECTIVE_C  // only its own target links the Objective-C language
+#include "objc_language.h"
+#endif
 #include "language_plugin_base.h"
 #include "token_sequence.h"
 
@@ -30,6 +33,10 @@ tarnel_engine::language_description const& fuzzed_language() {
         return java_language();
     if (std::strcmp(FUZZED_LANGUAGE, "Protocol Buffers") == 0)
         return proto_language();
+#ifdef FUZZED_OBJECTIVE_C
+    if (std::strcmp(FUZZED_LANGUAGE, "Objective-C") == 0)
+        return objc_language();
+#endif
     if (std::strcmp(FUZZED_LANGUAGE, "JavaScript") == 0)
         return javascript_language();
     return std::strcmp(FUZZED_LANGUAGE, "C") == 0 ? c_language() : cpp_language();

@@ -117,6 +117,8 @@ char const* configuration_name_of(lexed_as language) {
         return "Java";
     case clang::format::FormatStyle::LK_Proto:
         return "Proto";
+    case clang::format::FormatStyle::LK_ObjC:
+        return "ObjC";
     case clang::format::FormatStyle::LK_JavaScript:
         return "JavaScript";
     default:
@@ -125,20 +127,21 @@ char const* configuration_name_of(lexed_as language) {
 }
 
 // An option the engine reads only when it formats another kind of source than the language's
-// (Java, JavaScript, JSON, Objective-C, TableGen, Verilog for C and C++): in an exported
-// configuration such an option would say nothing of the style.
+// (Java, JavaScript, JSON, Objective-C, TableGen, Verilog for C and C++; Objective-C's own are
+// Objective-C's): in an exported configuration such an option would say nothing of the style.
 bool of_other_languages_only(std::string const& option, lexed_as language) {
     static char const* const prefixes[] = {"Java", "ObjC", "TableGen", "AlignConsecutiveTableGen", "Verilog"};
     static char const* const java_names[] = {"BreakAfterJavaFieldAnnotations", "SortJavaStaticImport"};
     static char const* const names[] = {"SpaceBeforeJsonColon", "BreakArrays", "InsertTrailingCommas"};
     bool const java = engine_kind_of(language) == clang::format::FormatStyle::LK_Java;
+    bool const objective_c = engine_kind_of(language) == clang::format::FormatStyle::LK_ObjC;
     if (engine_kind_of(language) == clang::format::FormatStyle::LK_JavaScript && option.rfind("JavaScript", 0) == 0)
         return false;
     if (std::find(std::begin(java_names), std::end(java_names), option) != std::end(java_names))
         return !java;
     for (char const* prefix : prefixes)
         if (option.rfind(prefix, 0) == 0)
-            return !(java && std::string(prefix) == "Java");
+            return !(java && std::string(prefix) == "Java") && !(objective_c && std::string(prefix) == "ObjC");
     return std::find(std::begin(names), std::end(names), option) != std::end(names);
 }
 

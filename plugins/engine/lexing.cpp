@@ -31,6 +31,15 @@ clang::LangOptions lexer_options_for(lexed_as language) {
         options.Digraphs = false;
         options.RawStringLiterals = false;
         break;
+    case lexed_as::objective_c:
+        options.ObjC = true;
+        options.CPlusPlus = options.CPlusPlus11 = options.CPlusPlus14 = options.CPlusPlus17 = true;
+        options.CPlusPlus20 = options.CPlusPlus23 = options.CPlusPlus26 = true;
+        options.Char8 = true;
+        options.CXXOperatorNames = true;
+        options.Digraphs = true;
+        options.RawStringLiterals = true;
+        break;
     case lexed_as::javascript:
         // Read by a lexer of its own (javascript_tokens.h); clang's serves only what has no
         // JavaScript of its own to read.

@@ -199,6 +199,20 @@ std::vector<option_group> make_protocol_buffers_groups() {
     return groups;
 }
 
+// Objective-C is C's (and, in .mm files, C++'s) with blocks, protocol lists and properties.
+std::vector<option_group> make_objective_c_groups() {
+    std::vector<option_group> groups = make_groups();
+    std::vector<option_group> const objective_c = {
+        one_of("ObjCBlockIndentWidth", {"2", "4", "8"}),
+        flag("ObjCSpaceAfterProperty"),
+        flag("ObjCSpaceBeforeProtocolList"),
+        flag("ObjCBreakBeforeNestedBlockParam"),
+        one_of("ObjCBinPackProtocolList", {"Auto", "Always", "Never"}),
+    };
+    groups.insert(groups.end(), objective_c.begin(), objective_c.end());
+    return groups;
+}
+
 // JavaScript and TypeScript have neither the preprocessor nor pointers nor C++'s classes; their
 // imports may be wrapped, their object and array literals spaced inside.
 std::vector<option_group> make_javascript_groups() {
@@ -230,12 +244,15 @@ std::vector<option_group> const& option_groups() {
 std::vector<option_group> const& option_groups(lexed_as language) {
     static std::vector<option_group> const java = make_java_groups();
     static std::vector<option_group> const protocol_buffers = make_protocol_buffers_groups();
+    static std::vector<option_group> const objective_c = make_objective_c_groups();
     static std::vector<option_group> const javascript = make_javascript_groups();
     switch (language) {
     case lexed_as::java:
         return java;
     case lexed_as::protocol_buffers:
         return protocol_buffers;
+    case lexed_as::objective_c:
+        return objective_c;
     case lexed_as::javascript:
         return javascript;
     case lexed_as::latest_c:

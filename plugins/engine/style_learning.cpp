@@ -219,6 +219,119 @@ std::string namespace_indentation_read_from(std::vector<std::string> const& piec
     return std::string();
 }
 
+// The columns a line's indentation takes, tabs counted `tab_width` wide.
+std::size_t indentation_of(std::string const& line, int tab_width) {
+    std::size_t width = 0;
+    for (char c : line) {
+        if (c == ' ')
+            ++width;
+        else if (c == '\t')
+            width += static_cast<std::size_t>(tab_width) - width % static_cast<std::size_t>(tab_width);
+        else
+            break;
+    }
+    return width;
+}
+
+bool comment_or_directive(std::string const& text) {
+    return starts_with(text, "//") || starts_with(text, "*") || starts_with(text, "/*") || starts_with(text, "#");
+}
+
+// The value seen most, where it clearly outnumbers all the others together and is seen at least
+// `fewest` times; -1 otherwise.
+long clear_majority_of(std::map<long, long> const& seen, long fewest) {
+    long total = 0;
+    std::pair<long, long> most{-1, 0};
+    for (auto const& [value, times] : seen) {
+        total += times;
+        if (times > most.second)
+            most = {value, times};
+    }
+    return most.second >= fewest && most.second > 2 * (total - most.second) ? most.first : -1;
+}
+
+// How much further in than its statement a line goes after a break behind an opening parenthesis
+// or an assignment, where one step clearly outnumbers the others.
+std::string continuation_indent_read_from(std::vector<std::string> const& pieces, int tab_width) {
+    std::map<long, long> steps;
+    for (std::string const& piece : pieces) {
+        std::vector<std::string> const lines = lines_of(piece);
+        for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
+            std::string const text = trimmed(lines[i]);
+            if (text.empty() || comment_or_directive(text) || ends_with(text, "\\"))
+                continue;
+            bool const assignment = ends_with(text, " =") && !ends_with(text, "==") && !ends_with(text, "!=") &&
+                                    !ends_with(text, "<=") && !ends_with(text, ">=");
+            if (!ends_with(text, "(") && !assignment)
+                continue;
+            std::string const next = trimmed(lines[i + 1]);
+            if (next.empty() || comment_or_directive(next))
+                continue;
+            std::size_t const here = indentation_of(lines[i], tab_width);
+            std::size_t const there = indentation_of(lines[i + 1], tab_width);
+            if (there > here)
+                ++steps[static_cast<long>(there - here)];
+        }
+    }
+    long const step = clear_majority_of(steps, 3);
+    return step > 0 ? "{ContinuationIndentWidth: " + std::to_string(step) + "}" : std::string();
+}
+
+// Whether the `case` labels of a switch stand further in than the switch, where one way clearly
+// outnumbers the other.
+std::string case_labels_read_from(std::vector<std::string> const& pieces, int tab_width) {
+    std::map<long, long> indented;
+    for (std::string const& piece : pieces) {
+        std::vector<std::string> const lines = lines_of(piece);
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            std::string const text = trimmed(lines[i]);
+            if (!starts_with(text, "switch ") && !starts_with(text, "switch("))
+                continue;
+            for (std::size_t next = i + 1; next < lines.size() && next <= i + 3; ++next) {
+                std::string const inside = trimmed(lines[next]);
+                if (!starts_with(inside, "case ") && !starts_with(inside, "default:") && !starts_with(inside, "default :"))
+                    continue;
+                ++indented[indentation_of(lines[next], tab_width) > indentation_of(lines[i], tab_width)];
+                break;
+            }
+        }
+    }
+    long const way = clear_majority_of(indented, 2);
+    return way < 0 ? std::string() : way ? "{IndentCaseLabels: true}" : "{IndentCaseLabels: false}";
+}
+
+// The blanks between code and a `//` comment that ends its line, where one count clearly outnumbers
+// the others: a run of such lines counts once, by its fewest blanks (the others may line their
+// comments up with the longest line's).
+std::string trailing_comment_blanks_read_from(std::vector<std::string> const& pieces) {
+    std::map<long, long> blanks;
+    for (std::string const& piece : pieces) {
+        long fewest = -1;
+        for (std::string const& line : lines_of(piece)) {
+            std::string const text = trimmed(line);
+            std::size_t const at = text.find("//");
+            long gap = -1;
+            if (at != std::string::npos && at > 0 && !comment_or_directive(text) &&
+                text.find_first_of("\"'") == std::string::npos && text.find("/*") == std::string::npos) {
+                std::size_t const code_end = text.find_last_not_of(' ', at - 1);
+                if (code_end != std::string::npos && text[code_end] != '\t')
+                    gap = static_cast<long>(at - code_end - 1);
+            }
+            if (gap > 0) {
+                fewest = fewest < 0 ? gap : std::min(fewest, gap);
+                continue;
+            }
+            if (fewest > 0)
+                ++blanks[fewest];
+            fewest = -1;
+        }
+        if (fewest > 0)
+            ++blanks[fewest];
+    }
+    long const count = clear_majority_of(blanks, 3);
+    return count > 0 ? "{SpacesBeforeTrailingComments: " + std::to_string(count) + "}" : std::string();
+}
+
 // `sources` are the whole sources the sample was taken from: the macros used as loops, statements
 // and attributes are found in all of them, since a sample may hold few uses.
 form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<std::string> const& pieces,
@@ -243,6 +356,17 @@ form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<
          {limit, tab_width, pointers_read_from(pieces), namespace_indentation_read_from(pieces)})
         if (!reading.empty())
             readings.layout.push_back(reading);
+    // Read from every source, as a sample may hold few switches or breaks, and where the code
+    // clearly shows one way, held by every style the search moves to: the sample alone would let
+    // the search trade them for a line of its own pieces.
+    int const tab_columns = columns.tab_width ? columns.tab_width : 8;
+    for (std::string const& reading :
+         {continuation_indent_read_from(sources, tab_columns), case_labels_read_from(sources, tab_columns),
+          trailing_comment_blanks_read_from(sources)})
+        if (!reading.empty()) {
+            readings.layout.push_back(reading);
+            readings.certain.push_back(reading);
+        }
     readings.braces = braces_read_from(pieces);
     for (macro_kind const& kind : macro_kinds()) {
         std::vector<std::string> const macros = kind.used_in(sources);

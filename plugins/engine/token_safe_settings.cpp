@@ -52,6 +52,8 @@ clang::format::FormatStyle::LanguageKind engine_kind_of(lexed_as language) {
         return clang::format::FormatStyle::LK_Java;
     case lexed_as::protocol_buffers:
         return clang::format::FormatStyle::LK_Proto;
+    case lexed_as::objective_c:
+        return clang::format::FormatStyle::LK_ObjC;
     case lexed_as::javascript:
         return clang::format::FormatStyle::LK_JavaScript;
     case lexed_as::latest_c:
@@ -67,12 +69,15 @@ std::vector<std::string> const& names_of_predefined_styles(lexed_as language) {
     static std::vector<std::string> const c_family = {"LLVM", "Google", "Chromium", "Mozilla", "WebKit", "GNU", "Microsoft"};
     static std::vector<std::string> const java = {"Google", "Chromium", "Mozilla", "LLVM", "WebKit"};
     static std::vector<std::string> const protocol_buffers = {"Google", "LLVM", "Mozilla", "WebKit"};
+    static std::vector<std::string> const objective_c = {"Google", "WebKit", "LLVM", "Chromium", "Mozilla"};
     static std::vector<std::string> const javascript = {"Google", "Chromium", "Mozilla", "WebKit", "LLVM"};
     switch (language) {
     case lexed_as::java:
         return java;
     case lexed_as::protocol_buffers:
         return protocol_buffers;
+    case lexed_as::objective_c:
+        return objective_c;
     case lexed_as::javascript:
         return javascript;
     case lexed_as::latest_c:

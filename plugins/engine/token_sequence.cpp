@@ -127,9 +127,12 @@ private:
                 end = whole;
             }
         }
+        bool cleaning = token.needsCleaning();
+        if (language == lexed_as::objective_c && token.is(clang::tok::at))
+            end = end_of_objective_c_token(end, cleaning);
         std::string& text = queue(end);
         text.assign(begin + start, begin + end);
-        if (token.needsCleaning())
+        if (cleaning)
             text = without_line_continuations(text);
         if (token.is(clang::tok::comment)) {
             text.erase(std::remove_if(text.begin(), text.end(), is_blank), text.end());
@@ -140,6 +143,30 @@ private:
             text.insert(0, directive_begins);
         }
         line_start = false;
+    }
+
+    // Where a token of Objective-C that begins with the `@` ending at `end` ends: the bracket of
+    // `@[`, `@{` and `@(`, or the whole keyword, string, character or number that follows the `@`
+    // with nothing between; `end` itself for a lone `@`.
+    std::size_t end_of_objective_c_token(std::size_t end, bool& cleaning) {
+        if (end >= size)
+            return end;
+        char const next = begin[end];
+        if (next == '[' || next == '{' || next == '(') {
+            lexer.seek(static_cast<unsigned>(end + 1), false);
+            return end + 1;
+        }
+        if (!is_word_character(next) && next != '"' && next != '\'')
+            return end;
+        clang::Token led;
+        lexer.LexFromRawLexer(led);
+        std::size_t const led_end = static_cast<std::size_t>(lexer.getBufferLocation() - begin);
+        if (led.is(clang::tok::eof) || led_end - led.getLength() != end) {
+            lexer.seek(static_cast<unsigned>(end), false);
+            return end;
+        }
+        cleaning = cleaning || led.needsCleaning();
+        return led_end;
     }
 
     char const* const begin;

@@ -15,10 +15,13 @@ namespace tarnel_engine {
 // strings, digit separators, encoding prefixes), and with Java's own tokens read whole: text
 // blocks ("""...""", their white space included), `>>>`, `>>>=` and `non-sealed`. Protocol
 // Buffers: clang's lexer without what C++ alone has, whose tokens are then protobuf's (names,
-// numbers, strings in either quote, comments, punctuation). JavaScript (and TypeScript): a lexer
-// of its own (javascript_tokens.h), whose results also keep every line break where a semicolon
-// could be inserted or taken away (semicolon_insertion.h).
-enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers, javascript };
+// numbers, strings in either quote, comments, punctuation).
+// Objective-C: clang's lexer for Objective-C and Objective-C++ at once (C++'s latest standard,
+// which reads every C program's tokens alike), with `@` read whole with what it leads: `@interface`,
+// `@"string"`, `@[`, `@{`, `@(`, `@1`.
+// JavaScript (and TypeScript): a lexer of its own (javascript_tokens.h), whose results also keep
+// every line break where a semicolon could be inserted or taken away (semicolon_insertion.h).
+enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers, objective_c, javascript };
 
 // The spelling of each token, in order, with lines continued by a backslash joined. Comments are
 // tokens too, their white space left out (the engine indents the lines of a block comment again);

@@ -205,6 +205,10 @@ void test_ci_and_editors::the_diff_applies_with_git_apply_data() {
         << "Protocol Buffers" << "Google"
         << "a.proto=syntax = \"proto3\";\nmessage A{\nint32 a=1; string b = 2;}\n"
            " | b/b.proto=service B { rpc Get(A)\nreturns (A); }";
+    QTest::newRow("lines joined and split by Objective-C")
+        << "Objective-C" << "Google"
+        << "a.m=@implementation A\n-(int)f:(int)a{\nif(a)\n{\nreturn [self g:@[@1]];}\nreturn 0;}\n@end\n"
+           " | b/b.mm=@interface B:NSObject\n@property(nonatomic)int a; -(void)b;\n@end";
     QTest::newRow("lines joined and split by JavaScript")
         << "JavaScript" << "Google"
         << "a/a.js=function f( a ){\nif(a>0)\n{\nreturn a>>>1;}\nreturn `${a}`;}\n"
@@ -219,6 +223,7 @@ void test_ci_and_editors::the_diff_applies_with_git_apply() {
     std::map<QString, QString> const our_plugins = {{"C++", "libcpp-language-plugin.so"},
                                                     {"Java", "libjava-language-plugin.so"},
                                                     {"Protocol Buffers", "libproto-language-plugin.so"},
+                                                    {"Objective-C", "libobjc-language-plugin.so"},
                                                     {"JavaScript", "libjavascript-language-plugin.so"}};
     if (our_plugins.count(language)) {
         bundle.add_plugin(built::build_dir() + "/PlugIns/languages/" + our_plugins.at(language));
@@ -430,7 +435,8 @@ void test_ci_and_editors::a_damaged_inference_cache_entry_is_inferred_again() {
 // A form whose white space runs for hundreds of kilobytes tells no more than a sane one: the
 // search for the options, which formats the forms thousands of times, must not take it whole.
 // The bound is twenty times what such a run takes here (about a second, with the search); it
-// took 35 s when the form was searched whole, and a Ctrl-C waited for it.
+// took 35 s when the form was searched whole, and a Ctrl-C waited for it. Under AddressSanitizer
+// every engine call is several times slower, and the bound with it.
 void test_ci_and_editors::a_form_of_blanks_is_inferred_as_one_without_them_data() {
     QTest::addColumn<QByteArray>("blanks");
     QTest::newRow("800 KB of blanks") << QByteArray(800000, ' ');
@@ -449,7 +455,11 @@ void test_ci_and_editors::a_form_of_blanks_is_inferred_as_one_without_them() {
     run_options options;
     options.input = "int f(int a){if(a){return 1;}return 0;}\n";
     run_result const in_style = bundle.run({"-l=C", "-s=GNU", "-p=-"}, options);
+#ifdef __SANITIZE_ADDRESS__
+    options.timeout_ms = 80000;
+#else
     options.timeout_ms = 20000;
+#endif
     COMPARE_RUN(bundle.run({"--addon=Blanks[C].style", "-p=-", "--assume-filename=a.c"}, options), "", in_style.out, 0);
 }
 

@@ -87,16 +87,18 @@ void test_plugin_crashes::the_run_survives_a_crash_on_one_file() {
     QCOMPARE(run.crashed, false);
     QCOMPARE(run.status, 0);
     QVERIFY2(run.out.contains(crash_on(bundle.crashing)), run.out.constData());
-    QCOMPARE(bundle.contents_of(bundle.first), QByteArray("a b"));
     QCOMPARE(bundle.contents_of(bundle.crashing), "x  " + marker);
     if (jobs == 1) {
+        QCOMPARE(bundle.contents_of(bundle.first), QByteArray("a b"));
         QCOMPARE(QString::fromUtf8(run.out),
                  QString::fromUtf8(done + crash_on(bundle.crashing) + left_after_crash(bundle.third) +
                                    left_after_crash(bundle.fourth) +
                                    "4 files was found, 2 files was revised, 1 file was changed.\n"));
     } else {
-        // The workers finish the files they hold; each later file is revised or named.
+        // The workers finish the files the plugin holds; every other file, also one taken before
+        // the crashing one but not yet handed to the plugin, is revised or named.
         QVERIFY(run.out.contains("4 files was found, "));
+        QVERIFY(bundle.contents_of(bundle.first) == "a b" || run.out.contains(left_after_crash(bundle.first)));
         QVERIFY(bundle.contents_of(bundle.third) == "c d" || run.out.contains(left_after_crash(bundle.third)));
     }
 
@@ -104,6 +106,7 @@ void test_plugin_crashes::the_run_survives_a_crash_on_one_file() {
     run_result const next = bundle.run(words, options);
     QCOMPARE(next.crashed, false);
     QVERIFY2(!next.out.contains("crashed"), next.out.constData());
+    QCOMPARE(bundle.contents_of(bundle.first), QByteArray("a b"));
     QCOMPARE(bundle.contents_of(bundle.third), QByteArray("c d"));
     QCOMPARE(bundle.contents_of(bundle.fourth), QByteArray("e f"));
     QCOMPARE(bundle.contents_of(bundle.crashing), "x  " + marker);

@@ -105,6 +105,11 @@ private slots:
         QTest::newRow("Protocol Buffers: brackets in strings of either quote")
             << "message A {\n  string a = 1 [default = '}'];\n  string b = 2 [default = \"]\"];\n}\n" << false
             << QStringList{"Protocol Buffers"};
+        QTest::newRow("Objective-C: an implementation without the closing brace of its method")
+            << "@implementation A\n- (void)f {\n  [self g:@\"}\"];\n@end\n" << true << QStringList{"Objective-C"};
+        QTest::newRow("Objective-C: brackets in literals and a block")
+            << "@implementation A\n- (id)f {\n  return @[ @\"]\", @\"{\" ];\n}\n@end\n" << false
+            << QStringList{"Objective-C"};
         QTest::newRow("JavaScript: a function without its closing brace")
             << "function f() {\n  if (a) {\n    g('}');\n}\n" << true << QStringList{"JavaScript"};
         QTest::newRow("JavaScript: brackets in strings of either quote and comments")
@@ -117,7 +122,8 @@ private slots:
         std::string const source = code.toStdString();
         std::map<QString, QString> const styles = {
             {"C", "GNU[C].style"}, {"C++", "Google[C++].style"}, {"Java", "Google[Java].style"},
-            {"Protocol Buffers", "Google[Protocol Buffers].style"}, {"JavaScript", "Google[JavaScript].style"}};
+            {"Protocol Buffers", "Google[Protocol Buffers].style"},
+            {"Objective-C", "Google[Objective-C].style"}, {"JavaScript", "Google[JavaScript].style"}};
         for (QString const& language : languages) {
             loaded_plugin plugin(plugin_file_of(language.toStdString()));
             QVERIFY(plugin.get());

@@ -106,6 +106,15 @@ private slots:
         QTest::newRow("Protocol Buffers LLVM, fields aligned, comments two blanks away, limit 100")
             << "Protocol Buffers" << "{BasedOnStyle: LLVM, AlignConsecutiveAssignments: {Enabled: true}, "
                                      "SpacesBeforeTrailingComments: 2, ColumnLimit: 100}";
+        QTest::newRow("Objective-C Google, blocks indented 4, a blank after @property and before protocol lists")
+            << "Objective-C" << "{BasedOnStyle: Google, ObjCBlockIndentWidth: 4, ObjCSpaceAfterProperty: true, "
+                                "ObjCSpaceBeforeProtocolList: true}";
+        QTest::newRow("Objective-C WebKit, nested blocks kept on the line, protocol lists never packed")
+            << "Objective-C" << "{BasedOnStyle: WebKit, ObjCBreakBeforeNestedBlockParam: false, "
+                                "ObjCBinPackProtocolList: Never}";
+        QTest::newRow("Objective-C LLVM, indent 4, method braces below, limit 100")
+            << "Objective-C" << "{BasedOnStyle: LLVM, IndentWidth: 4, BreakBeforeBraces: Custom, "
+                                "BraceWrapping: {AfterFunction: true}, ColumnLimit: 100}";
         QTest::newRow("JavaScript Google, indent 4, braces of classes and functions below, limit 100")
             << "JavaScript" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                                "{AfterClass: true, AfterFunction: true}, ColumnLimit: 100}";

@@ -32,6 +32,7 @@ std::vector<std::string> sources_of(QString const& language) {
         if (golden_case.startsWith(language + "/"))
             sources.push_back(golden_file(golden_case, "input"));
     // Java: a few files of the JDK's own sources (Debian's openjdk-17-source).
+    // Objective-C: the small macOS files of pugl (Debian's dpf-source).
     QDir const examples(language == "C" || language == "C++"
                             ? built::source_dir() + "/examples/" + (language == "C" ? "c" : "cpp")
                             : built::source_dir() + "/tests/language_plugins/samples/" + language);
@@ -60,37 +61,49 @@ private slots:
         // The macros the project uses as a loop, as a statement and as an attribute, in a few generated
         // files of its own; empty for none.
         QTest::addColumn<QStringList>("macros");
+        // Options the learned style must show as they are, read from the code rather than searched.
+        QTest::addColumn<QStringList>("shown");
         QTest::newRow("C++ LLVM, indent 3, Allman braces, * on the type, limit 100")
             << "C++" << "{BasedOnStyle: LLVM, IndentWidth: 3, BreakBeforeBraces: Allman, PointerAlignment: Left, "
-                        "DerivePointerAlignment: false, ColumnLimit: 100}" << QStringList();
+                        "DerivePointerAlignment: false, ColumnLimit: 100}" << QStringList() << QStringList();
         QTest::newRow("C++ Google, tabs of 4, blank before every (, access specifiers at the class")
             << "C++" << "{BasedOnStyle: Google, IndentWidth: 4, TabWidth: 4, UseTab: ForIndentation, "
-                        "SpaceBeforeParens: Always, AccessModifierOffset: -4}" << QStringList();
-        QTest::newRow("C GNU") << "C" << "{BasedOnStyle: GNU}" << QStringList();
+                        "SpaceBeforeParens: Always, AccessModifierOffset: -4}" << QStringList() << QStringList();
+        QTest::newRow("C GNU") << "C" << "{BasedOnStyle: GNU}" << QStringList() << QStringList();
         QTest::newRow("C indent 8 with tabs, Linux braces, limit 80")
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, BreakBeforeBraces: Linux, "
-                      "AllowShortIfStatementsOnASingleLine: Never, PointerAlignment: Right, ColumnLimit: 80}" << QStringList();
+                      "AllowShortIfStatementsOnASingleLine: Never, PointerAlignment: Right, ColumnLimit: 80}" << QStringList() << QStringList();
         QTest::newRow("C Linux braces with tabs, a list macro used as a loop")
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, BreakBeforeBraces: Linux, "
                       "SpaceBeforeParens: ControlStatementsExceptForEachMacros, ForEachMacros: [list_for_each_entry]}"
-            << QStringList{"list_for_each_entry", "", ""};
+            << QStringList{"list_for_each_entry", "", ""} << QStringList();
         QTest::newRow("C Linux braces with tabs, a loop, a statement and an attribute macro, labels at the start")
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: Always, BreakBeforeBraces: Linux, "
                       "IndentGotoLabels: false, ForEachMacros: [list_for_each_entry], StatementMacros: [DECLARE_ITEMS], "
                       "AttributeMacros: [__item_init]}"
-            << QStringList{"list_for_each_entry", "DECLARE_ITEMS", "__item_init"};
+            << QStringList{"list_for_each_entry", "DECLARE_ITEMS", "__item_init"} << QStringList();
         // Under no limit the author's own breaks stay, which the sample cannot tell from a limit that
         // its lines happen to keep: the project's files must.
         QTest::newRow("C++ LLVM, the author's own line breaks kept")
-            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0}" << QStringList();
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0}" << QStringList() << QStringList();
         QTest::newRow("Java Chromium, tabs of 4, no blank before the ( of control statements")
             << "Java" << "{BasedOnStyle: Chromium, IndentWidth: 4, TabWidth: 4, UseTab: ForIndentation, "
-                         "SpaceBeforeParens: Never}" << QStringList();
+                         "SpaceBeforeParens: Never}" << QStringList() << QStringList();
+        QTest::newRow("C++ Google, case labels at the switch, continuation lines 8 further in")
+            << "C++" << "{BasedOnStyle: Google, IndentCaseLabels: false, ContinuationIndentWidth: 8}" << QStringList()
+            << QStringList{"IndentCaseLabels: false", "ContinuationIndentWidth: 8"};
+        QTest::newRow("C LLVM, case labels indented, continuation lines 2 further in")
+            << "C" << "{BasedOnStyle: LLVM, IndentCaseLabels: true, ContinuationIndentWidth: 2}" << QStringList()
+            << QStringList{"IndentCaseLabels: true", "ContinuationIndentWidth: 2"};
+        QTest::newRow("Objective-C Google, indent 4, blocks indented 4, a blank after @property")
+            << "Objective-C" << "{BasedOnStyle: Google, IndentWidth: 4, ObjCBlockIndentWidth: 4, "
+                                "ObjCSpaceAfterProperty: true}" << QStringList() << QStringList();
     }
     void learns_back_a_known_style() {
         QFETCH(QString, language);
         QFETCH(QString, options);
         QFETCH(QStringList, macros);
+        QFETCH(QStringList, shown);
         auto const& description = description_of(language);
         std::string const known = tarnel_engine::addon_written_in(options.toStdString(), "Known", description);
         QVERIFY(!known.empty());
@@ -115,6 +128,23 @@ private slots:
                 sources.push_back("static int " + macros[2].toStdString() + " setup_" + n + "(void) {\n  return " + n +
                                   ";\n}\n\nstatic unsigned long " + macros[2].toStdString() + " *table_" + n + ";\n");
         }
+        // Switches and assignments too long for a line in the first third of two long generated files,
+        // where the options they show are checked: a sample takes a long file's second third, so
+        // only the code read as a whole shows them.
+        for (int file = 0; file < 2 && !shown.isEmpty(); ++file) {
+            std::string text;
+            for (int function = 0; function < 4; ++function) {
+                std::string const n = std::to_string(file * 10 + function);
+                text += "int classify_" + n + "(int kind, int weight) {\n  int const a_rather_long_name_for_a_value_" + n +
+                        " = a_function_with_a_long_name(kind, weight, kind + weight, " + n +
+                        ");\n  switch (kind) {\n  case 0:\n    return a_rather_long_name_for_a_value_" + n +
+                        ";\n  case 1:\n    return weight;\n  default:\n    break;\n  }\n  return 0;\n}\n\n";
+            }
+            for (int function = 0; function < 60; ++function)
+                text += "int step_" + std::to_string(file * 100 + function) + "(int x) {\n  return x + " +
+                        std::to_string(function) + ";\n}\n\n";
+            sources.push_back(text);
+        }
         std::size_t const generated = sources_of(language).size();
         std::vector<std::string> project_own;
         for (std::size_t i = 0; i < sources.size(); ++i) {
@@ -136,6 +166,13 @@ private slots:
             QVERIFY2(macros[kind].isEmpty() ||
                          std::find(named.begin(), named.end(), macros[kind].toStdString()) != named.end(),
                      qPrintable(QString::fromStdString(macro_kind.structure) + " names not " + macros[kind]));
+        }
+        QString const inferred =
+            "\n" + QString::fromStdString(tarnel_engine::options_inferred_from(learned.addon, description));
+        for (QString const& option : shown) {
+            int const at = inferred.indexOf("\n" + option.section(':', 0, 0) + ":");
+            QVERIFY2(inferred.contains("\n" + option + "\n"),
+                     qPrintable(option + " learned as " + inferred.mid(at + 1, inferred.indexOf('\n', at + 1) - at - 1)));
         }
         // The files that use the project's macros (and its labels) are left as they are.
         for (std::string const& source : project_own)

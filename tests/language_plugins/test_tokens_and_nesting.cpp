@@ -99,6 +99,11 @@ private slots:
              {"@interface", "\"a\\\"b\"", "@Tag(\"x\")", "'\\''", "1_000L"}, {"Java"}},
             {"quotes of either kind", "syntax=\"proto3\";\noption go_package='a\"b';\nmessage M{string s=1[default=\"x'y\"];}\n",
              {"'a\"b'", "\"x'y\""}, {"Protocol Buffers"}},
+            {"at keywords and literals",
+             "@interface  A:NSObject\n@property(nonatomic)NSArray*a;\n@end\n@implementation  A\n-(id)f{return @[@\"x\",@1,@(2)];}\n"
+             "-(id)g{return @{@\"k\":@YES};}\n@end\n",
+             {"@interface", "@property", "@end", "@implementation", "@\"x\"", "@1", "@(2)", "@\"k\"", "@YES"},
+             {"Objective-C"}},
             {"operators of JavaScript", "let  a=b===c!==d>>>e??f**g;\nlet  h=i?.j;\nh?\?=k;\nconst  l=(m)=>m;\n",
              {"===", "!==", ">>>", "??", "**", "?.", "?\?=", "=>"}, {"JavaScript"}},
             {"templates and regular expressions", "let  a=`x ${ b+c }  y`;\nlet  d=/ [a-z] +/g.test(e);\n",
@@ -154,6 +159,11 @@ private slots:
                 QTest::newRow(qPrintable(addon + " non-sealed")) << addon << "public  non-sealed class A {}\n" << QString();
                 QTest::newRow(qPrintable(addon + " text block"))
                     << addon << "class A {\n  String s = \"\"\"\n      hello\n        world\n      \"\"\";\n}\n" << QString();
+            }
+            // A blank after an `@` that the engine takes out joins two tokens of Objective-C.
+            if (language_of(addon) == "Objective-C") {
+                QTest::newRow(qPrintable(addon + " @ before a string")) << addon << "NSString  *s = @ \"x\";\n" << "@ \"x\"";
+                QTest::newRow(qPrintable(addon + " @ before a bracket")) << addon << "id  a = @ [ b ];\n" << QString();
             }
             if (!of_the_c_family(addon))
                 continue;

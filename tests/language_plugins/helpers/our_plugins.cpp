@@ -8,6 +8,7 @@
 #include "java_language.h"
 #include "javascript_language.h"
 #include "proto_language.h"
+#include "objc_language.h"
 #include "tests/harness/built_files.h"
 
 #include <QDir>
@@ -43,18 +44,22 @@ QString plugin_file_of(std::string const& language) {
         return "libjava-language-plugin.so";
     if (language == "Protocol Buffers")
         return "libproto-language-plugin.so";
+    if (language == "Objective-C")
+        return "libobjc-language-plugin.so";
     if (language == "JavaScript")
         return "libjavascript-language-plugin.so";
     return language == "C" ? c_plugin_file() : cpp_plugin_file();
 }
 
-QStringList our_languages() { return {"C", "C++", "Java", "Protocol Buffers", "JavaScript"}; }
+QStringList our_languages() { return {"C", "C++", "Java", "Protocol Buffers", "Objective-C", "JavaScript"}; }
 
 tarnel_engine::language_description const& description_of(QString const& language) {
     if (language == "Java")
         return java_language();
     if (language == "Protocol Buffers")
         return proto_language();
+    if (language == "Objective-C")
+        return objc_language();
     if (language == "JavaScript")
         return javascript_language();
     return language == "C" ? c_language() : cpp_language();
