@@ -5,6 +5,11 @@
 // substitution between them is read as any other code. Where it cannot tell a
 // regular expression from a division it reads a regular expression: the white space inside one is
 // then kept as written, never changed as if it stood between tokens.
+// JSX: an element begins with a `<` where an expression may begin, followed by a name whose closing
+// tag follows or whose tag closes itself (`<T,>` and `<T extends U>` stay TypeScript's type
+// parameters). The text between its tags is one token with all its white space, which a page shows
+// (blanks, and line breaks, which decide which blanks it drops): no revision changes it. A name in
+// a tag is read whole with its `-`, `:` and `.`, a quoted value with no escapes.
 #include "javascript_tokens.h"
 
 #include <algorithm>
@@ -56,12 +61,20 @@ public:
         if (at > 0)
             tokens.push_back({std::string(code.substr(0, at)), at, true, 0, false});
         while (true) {
+            if (in(jsx_children) && at < code.size() && code[at] != '<' && code[at] != '{') {
+                std::size_t const end = jsx_text_end(at);
+                tokens.push_back({std::string(code.substr(at, end - at)), end, false, at, line_break});
+                last = code.substr(at, end - at);
+                at = end;
+                continue;
+            }
             std::size_t const start = skip_white_space(at, line_break);
             if (start == code.size())
                 return tokens;
+            bool const in_a_tag = in(jsx_tag);
             std::size_t const end = token_end(start);
             javascript_token token{std::string(code.substr(start, end - start)), end, is_comment_at(start), start,
-                                   line_break};
+                                   line_break, in_a_tag};
             if (token.is_comment) {
                 for (std::size_t each = start; each < end; ++each)
                     line_break = line_break || is_line_break_at(code, each);
@@ -76,6 +89,121 @@ public:
     }
 
 private:
+    enum context_kind { substitution, jsx_expression, jsx_tag, jsx_children };
+    struct context {
+        context_kind kind;
+        int braces = 0;  // in code: the braces open in it
+        bool closing = false;  // a tag: a closing one (`</a>`)
+        bool closes_itself = false;  // a tag: its `/` read (`<a />`)
+    };
+
+    bool in(context_kind kind) const { return !contexts.empty() && contexts.back().kind == kind; }
+
+    std::size_t jsx_text_end(std::size_t at) const {
+        while (at < code.size() && code[at] != '<' && code[at] != '{')
+            ++at;
+        return at;
+    }
+
+    static bool is_jsx_name_character(char c) { return is_word_character(c) || c == '-' || c == ':' || c == '.'; }
+
+    std::size_t jsx_name_end(std::size_t at) const {
+        while (at < code.size() && is_jsx_name_character(code[at]))
+            ++at;
+        return at;
+    }
+
+    std::size_t after_blanks(std::size_t at) const {
+        while (at < code.size() && is_blank(code[at]))
+            ++at;
+        return at;
+    }
+
+    // The `>` that ends a tag whose attributes begin at `at`, past quoted values and braced code;
+    // npos where no tag can end (a `;`, a parenthesis or a `<` first).
+    std::size_t end_of_tag(std::size_t at) const {
+        int braces = 0;
+        for (; at < code.size(); ++at) {
+            char const c = code[at];
+            if (c == '"' || c == '\'') {
+                at = code.find(c, at + 1);
+                if (at == std::string_view::npos)
+                    return at;
+            } else if (c == '{') {
+                ++braces;
+            } else if (c == '}') {
+                --braces;
+            } else if (braces == 0 && c == '>') {
+                return at;
+            } else if (braces == 0 && (c == ';' || c == '(' || c == ')' || c == '<')) {
+                return std::string_view::npos;
+            }
+        }
+        return std::string_view::npos;
+    }
+
+    // Whether the `<` at `at`, where an expression may begin, opens a JSX element or fragment.
+    bool begins_an_element(std::size_t at) const {
+        std::size_t const name = at + 1;
+        if (name < code.size() && code[name] == '>')
+            return code.find("</>", name) != std::string_view::npos;
+        if (name >= code.size() || !is_word_character(code[name]) || is_digit(code[name]) || code[name] == '\\')
+            return false;
+        std::size_t const name_end = jsx_name_end(name);
+        std::size_t const next = after_blanks(name_end);
+        // TypeScript's type parameters: `<T,>(x: T) => x`, `<T extends U>(x: T) => x`.
+        if (next < code.size() && code[next] == ',')
+            return false;
+        if (code.substr(next, 7) == "extends" && (next + 7 == code.size() || !is_word_character(code[next + 7])))
+            return false;
+        std::size_t const end = end_of_tag(name_end);
+        if (end == std::string_view::npos)
+            return false;
+        std::size_t before_end = end;
+        while (before_end > name_end && is_blank(code[before_end - 1]))
+            --before_end;
+        if (before_end > name_end && code[before_end - 1] == '/')
+            return true;
+        std::string_view const tag_name = code.substr(name, name_end - name);
+        for (std::size_t close = code.find("</", end); close != std::string_view::npos; close = code.find("</", close + 2)) {
+            std::size_t const close_name = after_blanks(close + 2);
+            if (code.substr(close_name, tag_name.size()) == tag_name &&
+                (close_name + tag_name.size() == code.size() || !is_jsx_name_character(code[close_name + tag_name.size()])))
+                return true;
+        }
+        return false;
+    }
+
+    // A token of a tag: a name, a quoted value, `{` opening code, `/`, the `>` that ends the tag,
+    // any other character alone.
+    std::size_t jsx_tag_token_end(std::size_t at) {
+        char const c = code[at];
+        if (c == '"' || c == '\'') {
+            std::size_t const close = code.find(c, at + 1);
+            return close == std::string_view::npos ? code.size() : close + 1;
+        }
+        if (c == '{') {
+            contexts.push_back({jsx_expression});
+            return at + 1;
+        }
+        if (c == '/') {
+            contexts.back().closes_itself = !contexts.back().closing;
+            return at + 1;
+        }
+        if (c == '>') {
+            context const tag = contexts.back();
+            contexts.pop_back();
+            if (tag.closing && in(jsx_children))
+                contexts.pop_back();
+            else if (!tag.closing && !tag.closes_itself)
+                contexts.push_back({jsx_children});
+            return at + 1;
+        }
+        if (is_jsx_name_character(c))
+            return jsx_name_end(at);
+        return at + 1;
+    }
+
     std::size_t skip_white_space(std::size_t at, bool& line_break) const {
         while (at < code.size()) {
             if (is_line_break_at(code, at))
@@ -114,6 +242,15 @@ private:
 
     std::size_t token_end(std::size_t at) {
         char const c = code[at];
+        if (in(jsx_children)) {  // a tag or code in braces
+            if (c == '{')
+                contexts.push_back({jsx_expression});
+            else
+                contexts.push_back({jsx_tag, 0, after_blanks(at + 1) < code.size() && code[after_blanks(at + 1)] == '/'});
+            return at + 1;
+        }
+        if (in(jsx_tag) && !is_comment_at(at))
+            return jsx_tag_token_end(at);
         if (code.substr(at, 2) == "//")
             return line_comment_end(at);
         if (code.substr(at, 2) == "/*") {
@@ -124,11 +261,16 @@ private:
             return string_end(at);
         if (c == '`')
             return template_piece_end(at + 1);
-        if (!substitutions.empty() && c == '{')
-            ++substitutions.back();
-        if (!substitutions.empty() && c == '}' && substitutions.back()-- == 0) {
-            substitutions.pop_back();
-            return template_piece_end(at + 1);
+        if (!contexts.empty() && c == '{')
+            ++contexts.back().braces;
+        if (!contexts.empty() && c == '}' && contexts.back().braces-- == 0) {
+            context_kind const closed = contexts.back().kind;
+            contexts.pop_back();
+            return closed == substitution ? template_piece_end(at + 1) : at + 1;
+        }
+        if (c == '<' && regular_expression_may_follow() && begins_an_element(at)) {
+            contexts.push_back({jsx_tag});
+            return at + 1;
         }
         if (c == '/' && regular_expression_may_follow()) {
             std::size_t const end = regular_expression_end(at + 1);
@@ -195,7 +337,7 @@ private:
             } else if (code[at] == '`') {
                 return at + 1;
             } else if (code.substr(at, 2) == "${") {
-                substitutions.push_back(0);
+                contexts.push_back({substitution});
                 return at + 2;
             } else {
                 ++at;
@@ -227,7 +369,8 @@ private:
 
     std::string_view const code;
     std::string_view last;  // the code token before
-    std::vector<int> substitutions;  // for each open substitution of a template literal, its open braces
+    // Open substitutions of template literals, JSX elements, their tags and the code in their braces.
+    std::vector<context> contexts;
 };
 
 }  // namespace

@@ -17,6 +17,7 @@ struct javascript_token {
     bool is_comment = false;
     std::size_t begin = 0;  // the offset of its first byte
     bool line_break_before = false;  // a line ends between the code token before and this one
+    bool in_a_jsx_tag = false;  // read inside the `<...>` of a JSX tag, where no semicolon is inserted
 };
 
 // The tokens of a source, comments among them, in order.

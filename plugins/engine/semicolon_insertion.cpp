@@ -122,7 +122,8 @@ bool line_breaks_keep_the_meaning_of(std::string const& before, std::string cons
         return false;
     std::vector<bool> const closes_a_condition = closers_of_conditions_in(old_tokens);
     for (std::size_t at = 1; at < old_tokens.size(); ++at) {
-        if (old_tokens[at].line_break_before != new_tokens[at].line_break_before &&
+        // Inside the `<...>` of a JSX tag no statement ends.
+        if (old_tokens[at].line_break_before != new_tokens[at].line_break_before && !old_tokens[at].in_a_jsx_tag &&
             !a_line_break_may_move_between(old_tokens[at - 1].text, old_tokens[at].text,
                                            at >= 2 && is_one_of(old_tokens[at - 2].text, {".", "?."}),
                                            closes_a_condition[at - 1], new_tokens[at].line_break_before))

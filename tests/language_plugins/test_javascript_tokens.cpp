@@ -38,6 +38,35 @@ private slots:
         QTest::newRow("private name") << "this.#x" << QStringList{"this", ".", "#x"};
         QTest::newRow("hashbang") << "#!/usr/bin/env node\nx" << QStringList{"#!/usr/bin/env node", "x"};
         QTest::newRow("comment") << "a /* b c */ d" << QStringList{"a", "/*bc*/", "d"};
+        QTest::newRow("JSX text with inner blanks, beside code in braces")
+            << "x = <p>Hello   {name}  world</p>;"
+            << QStringList{"x", "=", "<", "p", ">", "Hello   ", "{", "name", "}", "  world", "<", "/", "p", ">", ";"};
+        QTest::newRow("JSX text across lines") << "x = <p>\n  a  b\n</p>;"
+                                               << QStringList{"x", "=", "<", "p", ">", "\n  a  b\n", "<", "/", "p", ">", ";"};
+        QTest::newRow("JSX elements nested, an apostrophe in their text")
+            << "x = <div className=\"a b\">\n  <b>don't</b> y\n</div>"
+            << QStringList{"x", "=", "<", "div", "className", "=", "\"a b\"", ">", "\n  ", "<", "b", ">", "don't",
+                           "<", "/", "b", ">", " y\n", "<", "/", "div", ">"};
+        QTest::newRow("JSX fragment") << "x = <>a {b}</>" << QStringList{"x", "=", "<", ">", "a ", "{", "b", "}", "<", "/", ">"};
+        QTest::newRow("JSX element closing itself, a name with a dash")
+            << "return <Item data-id={id} />;"
+            << QStringList{"return", "<", "Item", "data-id", "=", "{", "id", "}", "/", ">", ";"};
+        QTest::newRow("JSX in a template literal in JSX")
+            << "x = <p>{`a ${<b>c  d</b>}`} e</p>"
+            << QStringList{"x", "=", "<", "p", ">", "{", "`a ${", "<", "b", ">", "c  d", "<", "/", "b", ">", "}`", "}",
+                           " e", "<", "/", "p", ">"};
+        QTest::newRow("TypeScript type parameter <T,> not taken for JSX")
+            << "const f = <T,>(x: T) => x;"
+            << QStringList{"const", "f", "=", "<", "T", ",", ">", "(", "x", ":", "T", ")", "=>", "x", ";"};
+        QTest::newRow("TypeScript type parameter <T extends U> not taken for JSX")
+            << "f = <T extends U>(x: T) => x;"
+            << QStringList{"f", "=", "<", "T", "extends", "U", ">", "(", "x", ":", "T", ")", "=>", "x", ";"};
+        QTest::newRow("TypeScript type assertion not taken for JSX")
+            << "x = <any>y;" << QStringList{"x", "=", "<", "any", ">", "y", ";"};
+        QTest::newRow("comparisons not taken for JSX")
+            << "if (a <b && c> d) f(<b>c</b>);"
+            << QStringList{"if", "(", "a", "<", "b", "&&", "c", ">", "d", ")", "f", "(", "<", "b", ">", "c", "<", "/",
+                           "b", ">", ")", ";"};
     }
 
     void tokens_are_read_whole() {
@@ -95,6 +124,12 @@ private slots:
         QTest::newRow("before a dot") << "a\n  .b();\n" << "a.b();\n" << true;
         QTest::newRow("before a closing brace") << "{ a\n}\n" << "{ a }\n" << true;
         QTest::newRow("before &&") << "x = a && b;\n" << "x = a\n    && b;\n" << true;
+        QTest::newRow("between the attributes of a JSX tag") << "x = <a b=\"1\" c={d} />;\n"
+                                                             << "x = <a\n  b=\"1\"\n  c={d}\n/>;\n" << true;
+        QTest::newRow("JSX tag joined") << "x = <a\n  b\n>c</a>;\n" << "x = <a b>c</a>;\n" << true;
+        QTest::newRow("TypeScript type parameter <T,> spaced") << "const f = <T,>(x: T) => x;\n"
+                                                               << "const f = <T, >(x : T) => x;\n" << true;
+        QTest::newRow("TypeScript type assertion spaced") << "x = <any>y + 1;\n" << "x = <any> y+1;\n" << true;
     }
 
     void line_breaks_where_a_semicolon_could_be_inserted_stay() {
@@ -115,6 +150,16 @@ private slots:
         QTest::newRow("string") << "x = 'a b';\n" << "x = 'a  b';\n";
         QTest::newRow("=== parted") << "a === b;\n" << "a == = b;\n";
         QTest::newRow("?? parted") << "a ?? b;\n" << "a ? ? b;\n";
+        QTest::newRow("JSX text, inner blanks") << "x = <p>Hello   world</p>;\n" << "x = <p>Hello world</p>;\n";
+        QTest::newRow("JSX text, blanks beside code in braces") << "x = <p>a {b}  c</p>;\n" << "x = <p>a{b} c</p>;\n";
+        QTest::newRow("JSX text, a line break put in") << "x = <p>a b</p>;\n" << "x = <p>a\nb</p>;\n";
+        QTest::newRow("JSX text, a line break taken out") << "x = <p>\n  a\n</p>;\n" << "x = <p>a</p>;\n";
+        QTest::newRow("JSX elements nested, the line breaks between them taken out")
+            << "x = (\n  <div>\n    <b>a</b>\n  </div>\n);\n" << "x = (\n  <div><b>a</b></div>\n);\n";
+        QTest::newRow("JSX elements nested, indented again") << "x = <div>\n  <b>a</b>\n</div>;\n"
+                                                             << "x = <div>\n    <b>a</b>\n</div>;\n";
+        QTest::newRow("JSX fragment's text") << "x = <>a  b</>;\n" << "x = <>a b</>;\n";
+        QTest::newRow("JSX attribute name parted") << "x = <a data-id=\"1\" />;\n" << "x = <a data - id=\"1\" />;\n";
     }
 
     void white_space_inside_a_token_stays() {

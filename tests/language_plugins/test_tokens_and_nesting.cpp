@@ -165,6 +165,14 @@ private slots:
                 QTest::newRow(qPrintable(addon + " @ before a string")) << addon << "NSString  *s = @ \"x\";\n" << "@ \"x\"";
                 QTest::newRow(qPrintable(addon + " @ before a bracket")) << addon << "id  a = @ [ b ];\n" << QString();
             }
+            // The engine takes JSX's text for code: changed, its blanks and line breaks would change
+            // what the page shows. The source stays as it is.
+            if (language_of(addon) == "JavaScript") {
+                QTest::newRow(qPrintable(addon + " JSX text")) << addon << "function  f(){\n  return <p>Hello   {name}  world</p>;\n}\n"
+                                                               << QString();
+                QTest::newRow(qPrintable(addon + " JSX elements nested, a fragment"))
+                    << addon << "function  f(){\n  return <>\n    <b>a</b> b\n  </>;\n}\n" << QString();
+            }
             if (!of_the_c_family(addon))
                 continue;
             QTest::newRow(qPrintable(addon + " ! =")) << addon << "int  y = a ! = b;\n" << QString();
