@@ -3,6 +3,8 @@
 #ifndef TARNEL_ENGINE_BRACKET_BALANCE_H
 #define TARNEL_ENGINE_BRACKET_BALANCE_H
 
+#include "token_sequence.h"
+
 #include <functional>
 #include <string>
 
@@ -12,6 +14,12 @@ namespace tarnel_engine {
 // are skipped; of the branches of a conditional (#if ... #elif/#else ... #endif) the first counts,
 // as the same code opens a block once in each branch in real sources.
 bool brackets_are_balanced_in(std::string const& code);
+
+// The same, with the brackets read among the tokens of the language where its own lexing reads
+// them otherwise than C++'s: a bracket in the text of a JavaScript template literal, a regular
+// expression or JSX text, or in a Java text block, does not count; a template literal's `${` opens
+// a brace that its `}` closes. Other languages: as above.
+bool brackets_are_balanced_in(std::string const& code, lexed_as language);
 
 // What the walk over the brackets tells about each token it reads (those of preprocessor lines
 // included): its spelling, whether it stands in a preprocessor line, and how many brackets of the

@@ -76,7 +76,7 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
             return source;
         // Nested deeper than the engine's stack survives, or larger than memory allows, the code
         // would crash the engine or abort the process: it is refused before the engine sees it.
-        if (!brackets_are_balanced_in(*decoded) || !the_engine_takes(*decoded))
+        if (!brackets_are_balanced_in(*decoded, language.lexing) || !the_engine_takes(*decoded))
             return syntax_error;
         clang::format::FormatStyle style = options_for(addon)->style;
         style.LineEnding = engine_line_ending(encoding.ending());
@@ -138,7 +138,7 @@ std::string answer_for(std::string const& source, std::string const& decoded, st
     // The next revision checks the result as this one checked the source. An unclosed quote
     // (a stray apostrophe) ends at the end of its line; joined with the next line, it takes
     // in brackets that the source had outside it. Such code is no proper source anyway.
-    if (!unchanged && !brackets_are_balanced_in(*kept))
+    if (!unchanged && !brackets_are_balanced_in(*kept, lexing))
         return syntax_error;
     std::optional<std::string> encoded = encoding.encoded(*kept);
     if (!encoded || *encoded == source)
