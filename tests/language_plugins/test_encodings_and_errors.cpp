@@ -147,6 +147,10 @@ private slots:
             << "const t = `a ( ${b + `[`} ]`;\n" << false << QStringList{"JavaScript"};
         QTest::newRow("JavaScript: a substitution without its closing brace")
             << "f(`a ${b`);\n" << true << QStringList{"JavaScript"};
+        QTest::newRow("JavaScript: a regular expression cut short by the end after a backslash")
+            << "x = /a\\" << true << QStringList{"JavaScript"};
+        QTest::newRow("JavaScript: a template literal cut short by the end after a backslash")
+            << "x = `a\\" << true << QStringList{"JavaScript"};
     }
     void answers_syntax_errors() {
         QFETCH(QString, code);
