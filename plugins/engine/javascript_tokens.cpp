@@ -142,11 +142,29 @@ private:
         return std::string_view::npos;
     }
 
+    // Whether a closing tag of that name (none: a fragment's) follows `from`, blanks allowed
+    // between its tokens.
+    bool closing_tag_follows(std::size_t from, std::string_view name) const {
+        for (std::size_t open = code.find('<', from); open != std::string_view::npos; open = code.find('<', open + 1)) {
+            std::size_t const slash = after_blanks(open + 1);
+            if (slash == code.size() || code[slash] != '/')
+                continue;
+            std::size_t const named = after_blanks(slash + 1);
+            if (name.empty() ? named < code.size() && code[named] == '>'
+                             : code.substr(named, name.size()) == name &&
+                                   (named + name.size() == code.size() || !is_jsx_name_character(code[named + name.size()])))
+                return true;
+        }
+        return false;
+    }
+
     // Whether the `<` at `at`, where an expression may begin, opens a JSX element or fragment.
+    // Blanks between the tokens of a tag change nothing of it: the same code with other white
+    // space is read alike.
     bool begins_an_element(std::size_t at) const {
-        std::size_t const name = at + 1;
+        std::size_t const name = after_blanks(at + 1);
         if (name < code.size() && code[name] == '>')
-            return code.find("</>", name) != std::string_view::npos;
+            return closing_tag_follows(name, {});
         if (name >= code.size() || !is_word_character(code[name]) || is_digit(code[name]) || code[name] == '\\')
             return false;
         std::size_t const name_end = jsx_name_end(name);
@@ -164,14 +182,7 @@ private:
             --before_end;
         if (before_end > name_end && code[before_end - 1] == '/')
             return true;
-        std::string_view const tag_name = code.substr(name, name_end - name);
-        for (std::size_t close = code.find("</", end); close != std::string_view::npos; close = code.find("</", close + 2)) {
-            std::size_t const close_name = after_blanks(close + 2);
-            if (code.substr(close_name, tag_name.size()) == tag_name &&
-                (close_name + tag_name.size() == code.size() || !is_jsx_name_character(code[close_name + tag_name.size()])))
-                return true;
-        }
-        return false;
+        return closing_tag_follows(end, code.substr(name, name_end - name));
     }
 
     // A token of a tag: a name, a quoted value, `{` opening code, `/`, the `>` that ends the tag,

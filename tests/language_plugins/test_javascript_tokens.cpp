@@ -159,6 +159,10 @@ private slots:
         QTest::newRow("JSX elements nested, indented again") << "x = <div>\n  <b>a</b>\n</div>;\n"
                                                              << "x = <div>\n    <b>a</b>\n</div>;\n";
         QTest::newRow("JSX fragment's text") << "x = <>a  b</>;\n" << "x = <>a b</>;\n";
+        QTest::newRow("JSX: a blank put between code in braces and a closing tag parted")
+            << "x = <li>{a}</li>;\n" << "x = <li>{a} < /li>;\n";
+        QTest::newRow("JSX fragment: a blank put before its parted closing tag")
+            << "x = <>{a}</>;\n" << "x = < >{a} < / >;\n";
         QTest::newRow("JSX attribute name parted") << "x = <a data-id=\"1\" />;\n" << "x = <a data - id=\"1\" />;\n";
     }
 

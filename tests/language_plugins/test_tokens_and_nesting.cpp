@@ -172,6 +172,10 @@ private slots:
                                                                << QString();
                 QTest::newRow(qPrintable(addon + " JSX elements nested, a fragment"))
                     << addon << "function  f(){\n  return <>\n    <b>a</b> b\n  </>;\n}\n" << QString();
+                // The engine parts `</li>` and puts a blank before it: a blank the page would show.
+                QTest::newRow(qPrintable(addon + " JSX closing tag after code in braces"))
+                    << addon << "function  f( items ){\n  if(items){ return <li key={a}>{a}</li> }\n  return <br/>;\n}\n"
+                    << QString();
             }
             if (!of_the_c_family(addon))
                 continue;
