@@ -121,6 +121,10 @@ bool line_breaks_keep_the_meaning_of(std::string const& before, std::string cons
     if (old_tokens.size() != new_tokens.size())
         return false;
     std::vector<bool> const closes_a_condition = closers_of_conditions_in(old_tokens);
+    // Both read as JSX in the same places, or the white space of one might be JSX text unread.
+    for (std::size_t at = 0; at < old_tokens.size(); ++at)
+        if (old_tokens[at].in_a_jsx_tag != new_tokens[at].in_a_jsx_tag)
+            return false;
     for (std::size_t at = 1; at < old_tokens.size(); ++at) {
         // Inside the `<...>` of a JSX tag no statement ends.
         if (old_tokens[at].line_break_before != new_tokens[at].line_break_before && !old_tokens[at].in_a_jsx_tag &&

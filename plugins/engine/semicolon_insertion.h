@@ -15,7 +15,7 @@ namespace tarnel_engine {
 // after a token that cannot end an expression; and taken away only where no statement can end at
 // it (after an opening bracket, a comma or a binary operator, before a closing bracket, `.` or a
 // binary operator, before a block's brace, `else`, `catch`, `finally`, after the `)` of a
-// condition). Both texts hold the same tokens.
+// condition). Both texts hold the same tokens; false too where one reads JSX the other does not.
 bool line_breaks_keep_the_meaning_of(std::string const& before, std::string const& after);
 
 }  // namespace tarnel_engine
