@@ -112,11 +112,10 @@ bool walk_brackets_of(std::string const& code, std::function<void(bracket_step c
     return balanced && open.empty();
 }
 
-bool brackets_are_balanced_in(std::string const& code) { return walk_brackets_of(code, {}); }
+namespace {
 
-bool brackets_are_balanced_in(std::string const& code, lexed_as language) {
-    if (language != lexed_as::javascript && language != lexed_as::java)
-        return brackets_are_balanced_in(code);
+// Whether the brackets among the tokens of a language read by its own lexing pair up.
+bool brackets_among_tokens_pair_up(std::string const& code, lexed_as language) {
     std::vector<char> open;
     for (std::string const& token : tokens_of(code, language)) {
         // A piece of a template literal between two substitutions closes one and opens the next.
@@ -133,6 +132,14 @@ bool brackets_are_balanced_in(std::string const& code, lexed_as language) {
             open.push_back('{');
     }
     return open.empty();
+}
+
+}  // namespace
+
+bool brackets_are_balanced_in(std::string const& code, lexed_as language) {
+    if (language == lexed_as::javascript || language == lexed_as::java)
+        return brackets_among_tokens_pair_up(code, language);
+    return walk_brackets_of(code, {});
 }
 
 }  // namespace tarnel_engine

@@ -3,23 +3,20 @@
 #ifndef TARNEL_ENGINE_BRACKET_BALANCE_H
 #define TARNEL_ENGINE_BRACKET_BALANCE_H
 
-#include "token_sequence.h"
-
 #include <functional>
 #include <string>
+
+#include "token_sequence.h"
 
 namespace tarnel_engine {
 
 // True when every (, [ and { of the code is closed by its own kind, in order. Preprocessor lines
 // are skipped; of the branches of a conditional (#if ... #elif/#else ... #endif) the first counts,
-// as the same code opens a block once in each branch in real sources.
-bool brackets_are_balanced_in(std::string const& code);
-
-// The same, with the brackets read among the tokens of the language where its own lexing reads
-// them otherwise than C++'s: a bracket in the text of a JavaScript template literal, a regular
+// as the same code opens a block once in each branch in real sources. JavaScript's and Java's
+// brackets are read among their own tokens: one in the text of a template literal, a regular
 // expression or JSX text, or in a Java text block, does not count; a template literal's `${` opens
-// a brace that its `}` closes. Other languages: as above.
-bool brackets_are_balanced_in(std::string const& code, lexed_as language);
+// a brace that its `}` closes.
+bool brackets_are_balanced_in(std::string const& code, lexed_as language = lexed_as::latest_cpp);
 
 // What the walk over the brackets tells about each token it reads (those of preprocessor lines
 // included): its spelling, whether it stands in a preprocessor line, and how many brackets of the
