@@ -9,6 +9,7 @@
 #include "c_language.h"
 #include "cpp_language.h"
 #include "java_language.h"
+#include "javascript_language.h"
 #include "proto_language.h"
 #ifdef FUZZED_OBJECTIVE_C  // only its own target links the Objective-C language
 #include "objc_language.h"
@@ -40,6 +41,8 @@ tarnel_engine::language_description const& fuzzed_language() {
 #endif
     if (std::strcmp(FUZZED_LANGUAGE, "C#") == 0)
         return csharp_language();
+    if (std::strcmp(FUZZED_LANGUAGE, "JavaScript") == 0)
+        return javascript_language();
     return std::strcmp(FUZZED_LANGUAGE, "C") == 0 ? c_language() : cpp_language();
 }
 

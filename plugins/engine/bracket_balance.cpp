@@ -126,6 +126,34 @@ bool walk_brackets_of(std::string const& code, std::function<void(bracket_step c
     return balanced && open.empty();
 }
 
-bool brackets_are_balanced_in(std::string const& code, lexed_as language) { return walk_brackets_of(code, {}, language); }
+namespace {
+
+// Whether the brackets among the tokens of a language read by its own lexing pair up.
+bool brackets_among_tokens_pair_up(std::string const& code, lexed_as language) {
+    std::vector<char> open;
+    for (std::string const& token : tokens_of(code, language)) {
+        // A piece of a template literal between two substitutions closes one and opens the next.
+        bool const piece = language == lexed_as::javascript && token.size() > 1 && (token.front() == '`' || token.front() == '}');
+        char const closed = token == ")" ? '(' : token == "]" ? '[' : token == "}" || (piece && token.front() == '}') ? '{' : 0;
+        if (closed != 0) {
+            if (open.empty() || open.back() != closed)
+                return false;
+            open.pop_back();
+        }
+        if (token == "(" || token == "[" || token == "{")
+            open.push_back(token.front());
+        else if (piece && token.size() >= 2 && token.compare(token.size() - 2, 2, "${") == 0)
+            open.push_back('{');
+    }
+    return open.empty();
+}
+
+}  // namespace
+
+bool brackets_are_balanced_in(std::string const& code, lexed_as language) {
+    if (language == lexed_as::javascript || language == lexed_as::java)
+        return brackets_among_tokens_pair_up(code, language);
+    return walk_brackets_of(code, {}, language);
+}
 
 }  // namespace tarnel_engine

@@ -13,7 +13,10 @@ namespace tarnel_engine {
 // True when every (, [ and { of the code is closed by its own kind, in order. Preprocessor lines
 // are skipped; of the branches of a conditional (#if ... #elif/#else ... #endif) the first counts,
 // as the same code opens a block once in each branch in real sources. Strings and names of C# are
-// read whole, as the language's compiler reads them.
+// read whole, as the language's compiler reads them. JavaScript's and Java's brackets are read
+// among their own tokens: one in the text of a template literal, a regular expression or JSX text,
+// or in a Java text block, does not count; a template literal's `${` opens a brace that its `}`
+// closes.
 bool brackets_are_balanced_in(std::string const& code, lexed_as language = lexed_as::latest_cpp);
 
 // What the walk over the brackets tells about each token it reads (those of preprocessor lines

@@ -121,6 +121,8 @@ char const* configuration_name_of(lexed_as language) {
         return "ObjC";
     case clang::format::FormatStyle::LK_CSharp:
         return "CSharp";
+    case clang::format::FormatStyle::LK_JavaScript:
+        return "JavaScript";
     default:
         return "Cpp";
     }
@@ -135,6 +137,8 @@ bool of_other_languages_only(std::string const& option, lexed_as language) {
     static char const* const names[] = {"SpaceBeforeJsonColon", "BreakArrays", "InsertTrailingCommas"};
     bool const java = engine_kind_of(language) == clang::format::FormatStyle::LK_Java;
     bool const objective_c = engine_kind_of(language) == clang::format::FormatStyle::LK_ObjC;
+    if (engine_kind_of(language) == clang::format::FormatStyle::LK_JavaScript && option.rfind("JavaScript", 0) == 0)
+        return false;
     if (std::find(std::begin(java_names), std::end(java_names), option) != std::end(java_names))
         return !java;
     for (char const* prefix : prefixes)

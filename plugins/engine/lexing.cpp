@@ -1,6 +1,8 @@
 // The lexer settings and the comments of a text, as every check of the engine library reads them.
 #include "lexing.h"
 
+#include "javascript_tokens.h"
+
 #include <clang/Lex/Lexer.h>
 
 namespace tarnel_engine {
@@ -41,6 +43,9 @@ clang::LangOptions lexer_options_for(lexed_as language) {
     case lexed_as::csharp:
         // C#'s strings, verbatim names and operators that clang reads otherwise are read whole
         // after it (token_sequence.cpp); `'` is no digit separator there.
+    case lexed_as::javascript:
+        // Read by a lexer of its own (javascript_tokens.h); clang's serves only what has no
+        // JavaScript of its own to read.
         options.CPlusPlus = options.CPlusPlus11 = true;
         options.Digraphs = false;
         options.RawStringLiterals = false;
@@ -52,6 +57,14 @@ clang::LangOptions lexer_options_for(lexed_as language) {
 }
 
 std::vector<comment_place> comments_in(std::string const& code, lexed_as language) {
+    if (language == lexed_as::javascript) {
+        std::vector<comment_place> comments;
+        for (javascript_token const& each : javascript_tokens_of(code)) {
+            if (each.is_comment)
+                comments.push_back({each.begin, each.end - each.begin});
+        }
+        return comments;
+    }
     clang::LangOptions const options = lexer_options_for(language);
     char const* const begin = code.data();
     clang::Lexer lexer(clang::SourceLocation(), options, begin, begin, begin + code.size());

@@ -159,6 +159,15 @@ std::vector<option_group> make_groups() {
     return groups;
 }
 
+// The C family's groups but those named.
+std::vector<option_group> make_groups_without(std::set<std::string> const& names) {
+    std::vector<option_group> groups = make_groups();
+    groups.erase(std::remove_if(groups.begin(), groups.end(),
+                                [&](option_group const& group) { return names.count(group.name) > 0; }),
+                 groups.end());
+    return groups;
+}
+
 // Java has no pointers, references, namespaces, access labels of their own, templates,
 // constructor initializer lists, structures, unions, preprocessor or bit fields.
 std::vector<option_group> make_java_groups() {
@@ -171,10 +180,7 @@ std::vector<option_group> make_java_groups() {
         "BraceWrapping.AfterUnion", "BraceWrapping.AfterNamespace", "BraceWrapping.AfterExternBlock",
         "AlignConsecutiveMacros", "AlignConsecutiveBitFields", "BitFieldColonSpacing", "IndentExternBlock",
         "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth", "IndentGotoLabels", "AlignArrayOfStructures"};
-    std::vector<option_group> groups = make_groups();
-    groups.erase(std::remove_if(groups.begin(), groups.end(),
-                                [](option_group const& group) { return c_family_only.count(group.name) > 0; }),
-                 groups.end());
+    std::vector<option_group> groups = make_groups_without(c_family_only);
     groups.push_back(flag("BreakAfterJavaFieldAnnotations"));
     return groups;
 }
@@ -224,10 +230,25 @@ std::vector<option_group> make_csharp_groups() {
         "BraceWrapping.AfterExternBlock", "AlignConsecutiveMacros", "AlignConsecutiveBitFields",
         "BitFieldColonSpacing", "IndentExternBlock", "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth",
         "IndentGotoLabels", "AlignArrayOfStructures"};
-    std::vector<option_group> groups = make_groups();
-    groups.erase(std::remove_if(groups.begin(), groups.end(),
-                                [](option_group const& group) { return c_family_only.count(group.name) > 0; }),
-                 groups.end());
+    std::vector<option_group> groups = make_groups_without(c_family_only);
+    return groups;
+}
+
+// JavaScript and TypeScript have neither the preprocessor nor pointers nor C++'s classes; their
+// imports may be wrapped, their object and array literals spaced inside.
+std::vector<option_group> make_javascript_groups() {
+    static std::set<std::string> const c_family_only = {
+        "PointerAlignment", "DerivePointerAlignment", "ReferenceAlignment", "NamespaceIndentation",
+        "AccessModifierOffset", "IndentAccessModifiers", "EmptyLineBeforeAccessModifier",
+        "BreakConstructorInitializers", "PackConstructorInitializers", "ConstructorInitializerIndentWidth",
+        "BreakInheritanceList", "SpaceBeforeCtorInitializerColon", "SpaceBeforeInheritanceColon",
+        "SpaceAfterTemplateKeyword", "BreakTemplateDeclarations", "BraceWrapping.AfterStruct",
+        "BraceWrapping.AfterUnion", "BraceWrapping.AfterNamespace", "BraceWrapping.AfterExternBlock",
+        "AlignConsecutiveMacros", "AlignConsecutiveBitFields", "BitFieldColonSpacing", "IndentExternBlock",
+        "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth", "IndentGotoLabels", "AlignArrayOfStructures"};
+    std::vector<option_group> groups = make_groups_without(c_family_only);
+    groups.push_back(flag("JavaScriptWrapImports"));
+    groups.push_back(flag("SpacesInContainerLiterals"));
     return groups;
 }
 
@@ -243,6 +264,7 @@ std::vector<option_group> const& option_groups(lexed_as language) {
     static std::vector<option_group> const protocol_buffers = make_protocol_buffers_groups();
     static std::vector<option_group> const objective_c = make_objective_c_groups();
     static std::vector<option_group> const csharp = make_csharp_groups();
+    static std::vector<option_group> const javascript = make_javascript_groups();
     switch (language) {
     case lexed_as::java:
         return java;
@@ -252,6 +274,8 @@ std::vector<option_group> const& option_groups(lexed_as language) {
         return objective_c;
     case lexed_as::csharp:
         return csharp;
+    case lexed_as::javascript:
+        return javascript;
     case lexed_as::latest_c:
     case lexed_as::latest_cpp:
         break;

@@ -10,8 +10,8 @@
 namespace tarnel_engine {
 
 // False for code of the style's language that makes the engine crash: in C#, a `{` right after
-// what the engine took for the accessors of a property (source_hazards.cpp says why). True for
-// every other language.
+// what the engine took for the accessors of a property (source_hazards.cpp says why); in
+// JavaScript, a text ending in a backslash. True for every other language.
 bool engine_survives_the_code(std::string const& code, clang::format::FormatStyle const& style);
 
 }  // namespace tarnel_engine

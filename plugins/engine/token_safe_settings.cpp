@@ -56,6 +56,8 @@ clang::format::FormatStyle::LanguageKind engine_kind_of(lexed_as language) {
         return clang::format::FormatStyle::LK_ObjC;
     case lexed_as::csharp:
         return clang::format::FormatStyle::LK_CSharp;
+    case lexed_as::javascript:
+        return clang::format::FormatStyle::LK_JavaScript;
     case lexed_as::latest_c:
     case lexed_as::latest_cpp:
         break;
@@ -71,6 +73,7 @@ std::vector<std::string> const& names_of_predefined_styles(lexed_as language) {
     static std::vector<std::string> const protocol_buffers = {"Google", "LLVM", "Mozilla", "WebKit"};
     static std::vector<std::string> const objective_c = {"Google", "WebKit", "LLVM", "Chromium", "Mozilla"};
     static std::vector<std::string> const csharp = {"Microsoft", "Google", "LLVM", "Mozilla", "WebKit"};
+    static std::vector<std::string> const javascript = {"Google", "Chromium", "Mozilla", "WebKit", "LLVM"};
     switch (language) {
     case lexed_as::java:
         return java;
@@ -80,6 +83,8 @@ std::vector<std::string> const& names_of_predefined_styles(lexed_as language) {
         return objective_c;
     case lexed_as::csharp:
         return csharp;
+    case lexed_as::javascript:
+        return javascript;
     case lexed_as::latest_c:
     case lexed_as::latest_cpp:
         break;

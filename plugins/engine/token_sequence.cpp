@@ -2,7 +2,9 @@
 // space or part of a token, so two texts with the same tokens differ in white space alone.
 #include "token_sequence.h"
 
+#include "javascript_tokens.h"
 #include "lexing.h"
+#include "semicolon_insertion.h"
 #include "white_space.h"
 
 #include <clang/Lex/Lexer.h>
@@ -266,8 +268,13 @@ struct placed_token {
 };
 
 std::vector<placed_token> placed_tokens_of(std::string const& code, lexed_as language) {
-    token_reader reader(code, language);
     std::vector<placed_token> tokens;
+    if (language == lexed_as::javascript) {
+        for (javascript_token& each : javascript_tokens_of(code))
+            tokens.push_back({std::move(each.text), each.end});
+        return tokens;
+    }
+    token_reader reader(code, language);
     std::string_view text;
     std::size_t end = 0;
     while (reader.next(text, end))
@@ -361,6 +368,8 @@ std::optional<std::string> with_template_closers_kept_apart(std::string const& b
 }
 
 bool same_tokens_in(std::string const& before, std::string const& after, lexed_as language) {
+    if (language == lexed_as::javascript)
+        return tokens_of(before, language) == tokens_of(after, language);
     token_reader old_tokens(before, language);
     token_reader new_tokens(after, language);
     std::string_view old_text;
@@ -379,9 +388,12 @@ bool same_tokens_in(std::string const& before, std::string const& after, lexed_a
 std::optional<std::string> result_with_the_tokens_of(std::string const& before, std::string after, lexed_as language) {
     if (!only_white_space_differs(before, after))
         return std::nullopt;
-    if (same_tokens_in(before, after, language))
-        return after;
-    return with_template_closers_kept_apart(before, after, language);
+    std::optional<std::string> kept = same_tokens_in(before, after, language)
+                                          ? std::optional<std::string>(std::move(after))
+                                          : with_template_closers_kept_apart(before, after, language);
+    if (kept && language == lexed_as::javascript && !line_breaks_keep_the_meaning_of(before, *kept))
+        return std::nullopt;
+    return kept;
 }
 
 }  // namespace tarnel_engine

@@ -24,7 +24,9 @@ namespace tarnel_engine {
 // (@"..." with "" inside), interpolated strings ($"...{x}...", $@"...", @$"...", their holes
 // included), raw strings ("""...""", $"""...""" and more quotes), verbatim names (@class),
 // `?.`, `?[`, `??`, `??=`, `=>`, `..`, `>>>` and `>>>=`.
-enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers, objective_c, csharp };
+// JavaScript (and TypeScript): a lexer of its own (javascript_tokens.h), whose results also keep
+// every line break where a semicolon could be inserted or taken away (semicolon_insertion.h).
+enum class lexed_as { latest_c, latest_cpp, java, protocol_buffers, objective_c, csharp, javascript };
 
 // Where a token of C# ends that clang's lexer reads otherwise (it starts at `start` of the code,
 // clang's token ends at `end`): strings verbatim, interpolated or raw, verbatim names, `?.`, `?[`,

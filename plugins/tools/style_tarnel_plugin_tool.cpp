@@ -12,6 +12,7 @@
 #include "cpp_language.h"
 #include "java_language.h"
 #include "objc_language.h"
+#include "javascript_language.h"
 #include "proto_language.h"
 #include "csharp_language.h"
 #include "form_conflicts.h"
@@ -36,7 +37,8 @@ std::string contents_of(std::string const& path) {
 std::vector<tarnel_engine::language_description const*> const& our_languages() {
     static std::vector<tarnel_engine::language_description const*> const languages = {
         &c_language(), &cpp_language(), &java_language(), &proto_language(),
-        &objc_language(), &csharp_language()};
+        &objc_language(), &csharp_language(),
+        &javascript_language()};
     return languages;
 }
 

@@ -213,6 +213,10 @@ void test_ci_and_editors::the_diff_applies_with_git_apply_data() {
         << "C#" << "Microsoft"
         << "a/A.cs=namespace N{\nclass A{\nint F( int a ){\nif(a>0){\nreturn a??1;}\nreturn 0;}}}\n"
            " | b.cs=class B\n{\nstring S=>@\"x\\\";  int P { get; set; }\n}";
+    QTest::newRow("lines joined and split by JavaScript")
+        << "JavaScript" << "Google"
+        << "a/a.js=function f( a ){\nif(a>0)\n{\nreturn a>>>1;}\nreturn `${a}`;}\n"
+           " | b/b.ts=interface B\n{\na: number; b(): void;\n}";
 }
 
 void test_ci_and_editors::the_diff_applies_with_git_apply() {
@@ -224,7 +228,8 @@ void test_ci_and_editors::the_diff_applies_with_git_apply() {
                                                     {"Java", "libjava-language-plugin.so"},
                                                     {"Protocol Buffers", "libproto-language-plugin.so"},
                                                     {"Objective-C", "libobjc-language-plugin.so"},
-                                                    {"C#", "libcsharp-language-plugin.so"}};
+                                                    {"C#", "libcsharp-language-plugin.so"},
+                                                    {"JavaScript", "libjavascript-language-plugin.so"}};
     if (our_plugins.count(language)) {
         bundle.add_plugin(built::build_dir() + "/PlugIns/languages/" + our_plugins.at(language));
         QString const addon = style + "[" + language + "].style";

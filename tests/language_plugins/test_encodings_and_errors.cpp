@@ -1,6 +1,7 @@
 // What a revision keeps and refuses: the file's encoding (UTF-16 and UTF-32 either byte order,
 // byte-order mark included) and line ending (LF, CR LF, CR), the syntax-error text for code whose
 // brackets do not pair up or that the engine cannot format, and binary text left alone.
+#include "bracket_balance.h"
 #include "helpers/our_plugins.h"
 
 
@@ -82,6 +83,32 @@ private slots:
         QCOMPARE(plugin->revise(expected, addon, traits_of(expected)), expected);
     }
 
+    // The brackets the check before the engine pairs up, read among the language's own tokens.
+    // (The engine itself cannot take an unpaired bracket in JSX text or a Java text block.)
+    void brackets_pair_up_among_the_languages_tokens_data() {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<int>("language");
+        QTest::addColumn<bool>("balanced");
+        int const javascript = static_cast<int>(tarnel_engine::lexed_as::javascript);
+        int const java = static_cast<int>(tarnel_engine::lexed_as::java);
+        QTest::newRow("JavaScript: a bracket in a regular expression") << "f(/[(]/);\n" << javascript << true;
+        QTest::newRow("JavaScript: brackets in a template literal's text") << "f(`) ${a({})} [`);\n" << javascript << true;
+        QTest::newRow("JavaScript: a bracket in JSX text") << "x = <p>a ( b {c}</p>;\n" << javascript << true;
+        QTest::newRow("JavaScript: a substitution without its closing brace") << "f(`a ${b`);\n" << javascript << false;
+        QTest::newRow("JavaScript: a call without its closing parenthesis") << "f(`(`, /)/;\n" << javascript << false;
+        QTest::newRow("Java: brackets in a text block")
+            << "class A {\n  String s = \"\"\"\n      ( [ {\n      \"\"\";\n}\n" << java << true;
+        QTest::newRow("Java: a bracket in a character literal") << "class A { char c = '{'; }\n" << java << true;
+        QTest::newRow("Java: a class without its closing brace") << "class A {\n  String s = \"}\";\n" << java << false;
+    }
+    void brackets_pair_up_among_the_languages_tokens() {
+        QFETCH(QString, code);
+        QFETCH(int, language);
+        QFETCH(bool, balanced);
+        QCOMPARE(tarnel_engine::brackets_are_balanced_in(code.toStdString(), static_cast<tarnel_engine::lexed_as>(language)),
+                 balanced);
+    }
+
     void answers_syntax_errors_data() {
         QTest::addColumn<QString>("code");
         QTest::addColumn<bool>("is_error");
@@ -132,6 +159,20 @@ private slots:
                "#if B\n  public int S { get; init; }\n#else\n  public int S { get; set; }\n#endif\n"
                "  void M() {\n    if (o is D { Length: 1 }) {\n      N(new E { F = 1 });\n    }\n  }\n}\n"
             << false << QStringList{"C#"};
+        QTest::newRow("JavaScript: a function without its closing brace")
+            << "function f() {\n  if (a) {\n    g('}');\n}\n" << true << QStringList{"JavaScript"};
+        QTest::newRow("JavaScript: brackets in strings of either quote and comments")
+            << "const a = '{';\nconst c = \"(\"; // }\n" << false << QStringList{"JavaScript"};
+        QTest::newRow("JavaScript: brackets in a regular expression")
+            << "const r = /[(]/;\nconst s = /\\{/.test(a);\n" << false << QStringList{"JavaScript"};
+        QTest::newRow("JavaScript: brackets in the text of a template literal")
+            << "const t = `a ( ${b + `[`} ]`;\n" << false << QStringList{"JavaScript"};
+        QTest::newRow("JavaScript: a substitution without its closing brace")
+            << "f(`a ${b`);\n" << true << QStringList{"JavaScript"};
+        QTest::newRow("JavaScript: a regular expression cut short by the end after a backslash")
+            << "x = /a\\" << true << QStringList{"JavaScript"};
+        QTest::newRow("JavaScript: a template literal cut short by the end after a backslash")
+            << "x = `a\\" << true << QStringList{"JavaScript"};
     }
     void answers_syntax_errors() {
         QFETCH(QString, code);
@@ -142,7 +183,7 @@ private slots:
             {"C", "GNU[C].style"}, {"C++", "Google[C++].style"}, {"Java", "Google[Java].style"},
             {"Protocol Buffers", "Google[Protocol Buffers].style"},
             {"Objective-C", "Google[Objective-C].style"},
-            {"C#", "Microsoft[C#].style"}};
+            {"C#", "Microsoft[C#].style"}, {"JavaScript", "Google[JavaScript].style"}};
         for (QString const& language : languages) {
             loaded_plugin plugin(plugin_file_of(language.toStdString()));
             QVERIFY(plugin.get());

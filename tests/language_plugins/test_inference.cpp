@@ -120,6 +120,14 @@ private slots:
         QTest::newRow("C# Google, indent 4, case labels at the switch, blanks inside parentheses")
             << "C#" << "{BasedOnStyle: Google, IndentWidth: 4, IndentCaseLabels: false, SpacesInParens: Custom, "
                        "SpacesInParensOptions: {InConditionalStatements: true, Other: true}}";
+        QTest::newRow("JavaScript Google, indent 4, braces of classes and functions below, limit 100")
+            << "JavaScript" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
+                               "{AfterClass: true, AfterFunction: true}, ColumnLimit: 100}";
+        QTest::newRow("JavaScript Mozilla, blanks inside container literals, case labels at the switch")
+            << "JavaScript" << "{BasedOnStyle: Mozilla, SpacesInContainerLiterals: true, IndentCaseLabels: false}";
+        QTest::newRow("JavaScript WebKit, tabs of 4, short functions never on one line")
+            << "JavaScript" << "{BasedOnStyle: WebKit, UseTab: Always, TabWidth: 4, "
+                               "AllowShortFunctionsOnASingleLine: None}";
     }
     void option_sets_round_trip() {
         QFETCH(QString, language);

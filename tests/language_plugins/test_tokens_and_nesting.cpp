@@ -109,6 +109,12 @@ private slots:
              {"@\"C:\\x\\\"\"q\"\"  \"", "$\"p {x  +  1} {\"in  ner\"} q\"", "$@\"r\\{y}  \"\"s\"\"\"", "'\"'"}, {"C#"}},
             {"operators of C#", "class A{void f(){var @class=a?.b??c;e?\?=f?[1];g=x=>x>>>2;}}\n",
              {"@class", "a?.b ?? c", "e ?\?= f?[1]", "x => x >>> 2"}, {"C#"}},
+            {"operators of JavaScript", "let  a=b===c!==d>>>e??f**g;\nlet  h=i?.j;\nh?\?=k;\nconst  l=(m)=>m;\n",
+             {"===", "!==", ">>>", "??", "**", "?.", "?\?=", "=>"}, {"JavaScript"}},
+            {"templates and regular expressions", "let  a=`x ${ b+c }  y`;\nlet  d=/ [a-z] +/g.test(e);\n",
+             {"`x ${", "}  y`", "/ [a-z] +/g"}, {"JavaScript"}},
+            {"TypeScript", "interface  A<T>{a:T;b?:number}\nfunction  f<T>(x:A<T>):void{}\n",
+             {"interface A<T>", "b?: number"}, {"JavaScript"}},
         };
         for (QString const& addon : shipped_addons())
             for (snippet const& each : snippets)
@@ -170,6 +176,18 @@ private slots:
                 QTest::newRow(qPrintable(addon + " raw string"))
                     << addon << "class A {\n  string s = \"\"\"\n    raw  \"\" text\n    \"\"\";\n}\n" << QString();
                 QTest::newRow(qPrintable(addon + " ? . apart")) << addon << "var  y = a ? . b;\n" << QString();
+            }
+            // The engine takes JSX's text for code: changed, its blanks and line breaks would change
+            // what the page shows. The source stays as it is.
+            if (language_of(addon) == "JavaScript") {
+                QTest::newRow(qPrintable(addon + " JSX text")) << addon << "function  f(){\n  return <p>Hello   {name}  world</p>;\n}\n"
+                                                               << QString();
+                QTest::newRow(qPrintable(addon + " JSX elements nested, a fragment"))
+                    << addon << "function  f(){\n  return <>\n    <b>a</b> b\n  </>;\n}\n" << QString();
+                // The engine parts `</li>` and puts a blank before it: a blank the page would show.
+                QTest::newRow(qPrintable(addon + " JSX closing tag after code in braces"))
+                    << addon << "function  f( items ){\n  if(items){ return <li key={a}>{a}</li> }\n  return <br/>;\n}\n"
+                    << QString();
             }
             if (!of_the_c_family(addon))
                 continue;

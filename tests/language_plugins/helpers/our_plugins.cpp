@@ -6,6 +6,7 @@
 #include "cpp_language.h"
 #include "engine/traits_of.h"
 #include "java_language.h"
+#include "javascript_language.h"
 #include "proto_language.h"
 #include "objc_language.h"
 #include "csharp_language.h"
@@ -48,10 +49,12 @@ QString plugin_file_of(std::string const& language) {
         return "libobjc-language-plugin.so";
     if (language == "C#")
         return "libcsharp-language-plugin.so";
+    if (language == "JavaScript")
+        return "libjavascript-language-plugin.so";
     return language == "C" ? c_plugin_file() : cpp_plugin_file();
 }
 
-QStringList our_languages() { return {"C", "C++", "Java", "Protocol Buffers", "Objective-C", "C#"}; }
+QStringList our_languages() { return {"C", "C++", "Java", "Protocol Buffers", "Objective-C", "C#", "JavaScript"}; }
 
 tarnel_engine::language_description const& description_of(QString const& language) {
     if (language == "Java")
@@ -62,6 +65,8 @@ tarnel_engine::language_description const& description_of(QString const& languag
         return objc_language();
     if (language == "C#")
         return csharp_language();
+    if (language == "JavaScript")
+        return javascript_language();
     return language == "C" ? c_language() : cpp_language();
 }
 
