@@ -207,6 +207,24 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: DontAlign, ColumnLimit: 100, PenaltyBreakAssignment: 100, "
                       "TabWidth: 4, UseTab: AlignWithSpaces}"
             << QStringList{"ContinuationIndentWidth: 4", "TabWidth: 4"};
+        // A chain of conditions without braces tells the first `if` alone from every `if` and `else`
+        // (a lone short `if` looks alike under three of the four values).
+        QTest::newRow("short ifs, the first of a chain only")
+            << "C" << "{BasedOnStyle: LLVM, AllowShortIfStatementsOnASingleLine: OnlyFirstIf}"
+            << QStringList{"AllowShortIfStatementsOnASingleLine: OnlyFirstIf"};
+        QTest::newRow("short ifs and elses, every one")
+            << "C++" << "{BasedOnStyle: Google, AllowShortIfStatementsOnASingleLine: AllIfsAndElse}"
+            << QStringList{"AllowShortIfStatementsOnASingleLine: AllIfsAndElse"};
+        // An index in brackets (the empty `[]` of an array initializer has no blank inside under either).
+        QTest::newRow("blanks inside square brackets")
+            << "C" << "{BasedOnStyle: LLVM, SpacesInSquareBrackets: true}" << QStringList{"SpacesInSquareBrackets: true"};
+        // Comments at different distances from their code, kept so (read as not lined up before).
+        QTest::newRow("trailing comments left where they stand")
+            << "C" << "{BasedOnStyle: Google, AlignTrailingComments: {Kind: Leave}}" << QStringList{" Kind: Leave"};
+        QTest::newRow("trailing comments left where they stand, over blank lines too")
+            << "C++" << "{BasedOnStyle: LLVM, AlignTrailingComments: {Kind: Leave, OverEmptyLines: 1}, "
+                        "SpacesBeforeTrailingComments: 2}"
+            << QStringList{" Kind: Leave"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -238,7 +256,8 @@ private slots:
         std::string older = shipped;
         for (char const* structure :
              {"kept line break", "long call assignment", "long comment", "long return type", "long string", "nested blocks",
-              "statement macro", "attribute macro", "label in a block"}) {
+              "statement macro", "attribute macro", "label in a block", "comment spacing", "short if else",
+              "subscript"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
