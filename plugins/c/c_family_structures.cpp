@@ -107,6 +107,12 @@ tarnel_engine::structure_catalogue c_family_structures() {
          {"PenaltyBreakAssignment", "PenaltyBreakBeforeFirstCallParameter",
           "AlignAfterOpenBracket", "ContinuationIndentWidth", "ColumnLimit", "BreakBeforeBinaryOperators",
           "AlignOperands"}},
+        {"long call in a function",
+         "type name(void) {\n  name_part(SOME_LONG, SOME_LONG, SOME_LONG, SOME_LONG, SOME_LONG, SOME_LONG);\n}",
+         "A call too long for one line inside a function's body: its arguments packed onto each line, or one a line "
+         "(a call outside any function is read as a declaration, whose parameters other options pack).",
+         {"BinPackArguments", "AllowAllArgumentsOnNextLine", "AlignAfterOpenBracket",
+          "PenaltyBreakBeforeFirstCallParameter", "ColumnLimit", "ContinuationIndentWidth", "BraceWrapping.AfterFunction"}},
         {"long comment", "name_part = SOME_LONG(SOME_LONG, SOME); // SOME comment that reaches past the column limit",
          "How the code before a trailing comment too long for its line breaks; the comment itself is never broken.",
          {"ColumnLimit", "ContinuationIndentWidth", "AlignAfterOpenBracket"}},

@@ -225,6 +225,13 @@ private slots:
             << "C++" << "{BasedOnStyle: LLVM, AlignTrailingComments: {Kind: Leave, OverEmptyLines: 1}, "
                         "SpacesBeforeTrailingComments: 2}"
             << QStringList{" Kind: Leave"};
+        // A call outside any function is read as a declaration: only one inside a body shows how
+        // arguments pack.
+        QTest::newRow("arguments one a line")
+            << "C" << "{BasedOnStyle: LLVM, BinPackArguments: false}" << QStringList{"BinPackArguments: false"};
+        QTest::newRow("arguments one a line, limit 120")
+            << "C++" << "{BasedOnStyle: Google, BinPackArguments: false, ColumnLimit: 120}"
+            << QStringList{"BinPackArguments: false"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -257,7 +264,7 @@ private slots:
         for (char const* structure :
              {"kept line break", "long call assignment", "long comment", "long return type", "long string", "nested blocks",
               "statement macro", "attribute macro", "label in a block", "comment spacing", "short if else",
-              "subscript"}) {
+              "subscript", "long call in a function"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
@@ -303,7 +310,8 @@ private slots:
              {"blank lines", "type name(void) {", "type name(void)\n{"},
              {"for each macro", "type name(void) {", "type name(void)\n{"},
              {"statement macro", "type name(void) {", "type name(void)\n{"},
-             {"label in a block", "type name(void) {", "type name(void)\n{"}},
+             {"label in a block", "type name(void) {", "type name(void)\n{"},
+             {"long call in a function", "type name(void) {", "type name(void)\n{"}},
             {{"cast", "(type *)", "(type*)"},
              {"function declaration", "type *argument", "type* argument"},
              {"pointer", "type *name", "type* name"},
