@@ -32,9 +32,9 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"comment", "type name; // SOME\ntype name_long_part; // SOME\n/* SOME */",
          "How far trailing comments stand from the code, and whether those of neighbouring lines line up.",
          {"SpacesBeforeTrailingComments", "AlignTrailingComments", "AlignConsecutiveDeclarations"}},
-        {"comment spacing", "SOME(name);    // SOME\nname_long_part(SOME); // SOME",
-         "Trailing comments their author set at different distances from the code: kept where they stand, lined up, "
-         "or each the style's distance away.",
+        {"comment spacing", "SOME(name);// SOME\nname_long_part(SOME); // SOME",
+         "Trailing comments their author set at different distances from the code (none and one blank): kept where "
+         "they stand, lined up, or each the style's distance away.",
          {"AlignTrailingComments", "SpacesBeforeTrailingComments"}},
         {"consecutive assignments", "name = SOME;\nname_long_part = SOME;\nname_part = SOME;",
          "Whether the `=` of assignments on neighbouring lines line up.",
@@ -164,7 +164,7 @@ tarnel_engine::structure_catalogue c_family_structures() {
          {"AllowShortFunctionsOnASingleLine", "BraceWrapping.AfterFunction", "BreakAfterReturnType"}},
         {"short if", "if (SOME)\n  SOME;", "A condition without braces: whether its statement may share its line.",
          {"AllowShortIfStatementsOnASingleLine"}},
-        {"short if else", "if (SOME)\n  SOME;\nelse if (SOME)\n  SOME;\nelse\n  SOME;",
+        {"short if else", "if (SOME) SOME;\nelse if (SOME) SOME;\nelse SOME;",
          "A chain of conditions without braces: whether the first statement, or every one, may share the line of its "
          "`if` or `else`.",
          {"AllowShortIfStatementsOnASingleLine"}},

@@ -215,6 +215,10 @@ private slots:
         QTest::newRow("short ifs and elses, every one")
             << "C++" << "{BasedOnStyle: Google, AllowShortIfStatementsOnASingleLine: AllIfsAndElse}"
             << QStringList{"AllowShortIfStatementsOnASingleLine: AllIfsAndElse"};
+        // Without a column limit the author's breaks stay: the chain's form is written joined.
+        QTest::newRow("short ifs and elses, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AllowShortIfStatementsOnASingleLine: AllIfsAndElse}"
+            << QStringList{"AllowShortIfStatementsOnASingleLine: AllIfsAndElse", "ColumnLimit: 0"};
         // An index in brackets (the empty `[]` of an array initializer has no blank inside under either).
         QTest::newRow("blanks inside square brackets")
             << "C" << "{BasedOnStyle: LLVM, SpacesInSquareBrackets: true}" << QStringList{"SpacesInSquareBrackets: true"};
