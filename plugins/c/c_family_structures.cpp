@@ -26,6 +26,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"blank lines", "type name(void) {\n\n  SOME;\n\n\n  SOME;\n}",
          "How many blank lines in a row are kept, and whether a block may begin with one.",
          {"MaxEmptyLinesToKeep", "KeepEmptyLines.AtStartOfBlock"}},
+        {"call without arguments", "name = name_part();",
+         "A call with empty parentheses: whether a blank stands before them where one stands before other calls' "
+         "arguments.",
+         {"SpaceBeforeParens"}},
         {"cast", "name = (type *)SOME;",
          "Whether a blank follows the parentheses of a cast, and where its `*` leans.",
          {"SpaceAfterCStyleCast", "PointerAlignment", "SpacesInParens"}},

@@ -419,7 +419,8 @@ std::string parentheses_read_from(forms_by_name const& forms) {
     std::string reading;
     bool const control = forms.contains("if", "if (");
     bool const call = forms.contains("function call", "name (");
-    bool const empty = forms.contains("access specifiers", "name ()");
+    bool const empty =
+        forms.contains("access specifiers", "name ()") || forms.contains("call without arguments", "name_part ()");
     if (forms.find("if") && forms.find("function call")) {
         char const* value = control ? (call ? (empty ? "Always" : "NonEmptyParentheses") : "ControlStatements")
                                     : (call ? nullptr : "Never");

@@ -219,6 +219,9 @@ private slots:
         QTest::newRow("short ifs and elses, no column limit")
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AllowShortIfStatementsOnASingleLine: AllIfsAndElse}"
             << QStringList{"AllowShortIfStatementsOnASingleLine: AllIfsAndElse", "ColumnLimit: 0"};
+        // A blank before empty parentheses too (C has no member declared without arguments to show it).
+        QTest::newRow("a blank before every (, empty ones too, C")
+            << "C" << "{BasedOnStyle: LLVM, SpaceBeforeParens: Always}" << QStringList{"SpaceBeforeParens: Always"};
         // An index in brackets (the empty `[]` of an array initializer has no blank inside under either).
         QTest::newRow("blanks inside square brackets")
             << "C" << "{BasedOnStyle: LLVM, SpacesInSquareBrackets: true}" << QStringList{"SpacesInSquareBrackets: true"};
@@ -268,7 +271,7 @@ private slots:
         for (char const* structure :
              {"kept line break", "long call assignment", "long comment", "long return type", "long string", "nested blocks",
               "statement macro", "attribute macro", "label in a block", "comment spacing", "short if else",
-              "subscript", "long call in a function"}) {
+              "subscript", "long call in a function", "call without arguments"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
