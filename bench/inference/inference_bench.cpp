@@ -16,7 +16,9 @@
 //       written, the sources revised with it as a user's run does, and compared line by line with
 //       the engine run with the generating options themselves (comments reflowed on neither side).
 //       Fields: set, lines, lines the same, the option groups whose value the inferred options
-//       lose (comma-separated), the generating options.
+//       lose (comma-separated), the generating options, and for each group lost the lines that
+//       the engine under the inferred options gains when that group alone takes the generating
+//       value (group:lines, comma-separated).
 //   inference_bench warm <addon>...
 //       seconds to obtain the options of each addon in this process (from the disk cache when a
 //       previous run filled it).
@@ -232,17 +234,39 @@ int carries(std::string const& language_name, int count, unsigned seed, std::vec
                 same += tarnel_engine::lines_left_between(wanted.text, revised);
         }
         FormatStyle const inferred = tarnel_engine::inference_cache::shared().style_for(addon, language);
-        // The groups that some structure of the language shows, or that apply to every one.
-        std::string lost;
+        std::vector<std::string> wanted_texts;
+        for (std::string const& source : sources)
+            wanted_texts.push_back(tarnel_engine::format_with(style).the_code(source).text);
+        // Lines the engine leaves as the generating options lay them out, under a style.
+        auto const lines_same_under = [&](FormatStyle const& candidate_style) {
+            unsigned long kept = 0;
+            for (std::size_t source = 0; source < sources.size(); ++source)
+                kept += tarnel_engine::lines_left_between(
+                    wanted_texts[source], tarnel_engine::format_with(candidate_style).the_code(sources[source]).text);
+            return kept;
+        };
+        unsigned long const same_inferred = lines_same_under(inferred);
+        // The groups that some structure of the language shows, or that apply to every one; each
+        // lost one with the lines the inferred options gain when it alone takes the generating value.
+        std::string lost, costs;
         for (auto const& group : tarnel_engine::option_groups()) {
             bool shown = tarnel_engine::applies_to_every_structure(group.name);
             for (tarnel_engine::structure const& each : language.structures)
                 shown = shown || std::find(each.decides.begin(), each.decides.end(), group.name) != each.decides.end();
-            if (shown && !same_value_of(group, style, inferred))
-                lost += (lost.empty() ? "" : ",") + group.name;
+            if (!shown || same_value_of(group, style, inferred))
+                continue;
+            lost += (lost.empty() ? "" : ",") + group.name;
+            for (std::string const& candidate : group.candidates) {
+                FormatStyle unchanged, mended;
+                if (moved(style, candidate, unchanged) || !moved(inferred, candidate, mended))
+                    continue;
+                long const gained = static_cast<long>(lines_same_under(mended)) - static_cast<long>(same_inferred);
+                costs += (costs.empty() ? "" : ",") + group.name + ":" + std::to_string(gained);
+                break;
+            }
         }
         std::cout << name << "\t" << lines << "\t" << same << "\t" << (lost.empty() ? "-" : lost) << "\t"
-                  << one_line(configuration) << std::endl;
+                  << one_line(configuration) << "\t" << (costs.empty() ? "-" : costs) << std::endl;
     }
     return 0;
 }

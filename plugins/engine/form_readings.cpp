@@ -419,7 +419,8 @@ std::string parentheses_read_from(forms_by_name const& forms) {
     std::string reading;
     bool const control = forms.contains("if", "if (");
     bool const call = forms.contains("function call", "name (");
-    bool const empty = forms.contains("access specifiers", "name ()");
+    bool const empty =
+        forms.contains("access specifiers", "name ()") || forms.contains("call without arguments", "name_part ()");
     if (forms.find("if") && forms.find("function call")) {
         char const* value = control ? (call ? (empty ? "Always" : "NonEmptyParentheses") : "ControlStatements")
                                     : (call ? nullptr : "Never");
@@ -460,11 +461,31 @@ std::string pointers_read_from(forms_by_name const& forms) {
     return "{" + reading + "}";
 }
 
+// A lone `if` sharing its statement's line, and in a chain without braces the first `if` alone or
+// every `if` and `else` too.
+char const* short_ifs_read_from(forms_by_name const& forms) {
+    char const* value = forms.has_one_line("short if") ? "WithoutElse" : "Never";
+    std::string const* chain = forms.find("short if else");
+    if (!chain)
+        return value;
+    std::vector<std::string> const lines = lines_of(*chain);
+    auto const shares_its_line = [&](std::string const& opening) {
+        for (std::string const& line : lines) {
+            std::string const text = trimmed(line);
+            if (starts_with(text, opening))
+                return !text.empty() && text.back() == ';';
+        }
+        return false;
+    };
+    if (!shares_its_line("if"))
+        return value;
+    return shares_its_line("else if") ? "AllIfsAndElse" : "OnlyFirstIf";
+}
+
 std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
     std::vector<std::string> readings;
     if (forms.find("short if"))
-        readings.push_back(std::string("{AllowShortIfStatementsOnASingleLine: ") +
-                           (forms.has_one_line("short if") ? "WithoutElse}" : "Never}"));
+        readings.push_back(std::string("{AllowShortIfStatementsOnASingleLine: ") + short_ifs_read_from(forms) + "}");
     if (forms.find("short loop"))
         readings.push_back("{AllowShortLoopsOnASingleLine: " + flag(forms.has_one_line("short loop")) + "}");
     if (forms.find("enum"))

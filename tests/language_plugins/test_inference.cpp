@@ -220,6 +220,38 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: DontAlign, ColumnLimit: 100, PenaltyBreakAssignment: 100, "
                       "TabWidth: 4, UseTab: AlignWithSpaces}"
             << QStringList{"ContinuationIndentWidth: 4", "TabWidth: 4"};
+        // A chain of conditions without braces tells the first `if` alone from every `if` and `else`
+        // (a lone short `if` looks alike under three of the four values).
+        QTest::newRow("short ifs, the first of a chain only")
+            << "C" << "{BasedOnStyle: LLVM, AllowShortIfStatementsOnASingleLine: OnlyFirstIf}"
+            << QStringList{"AllowShortIfStatementsOnASingleLine: OnlyFirstIf"};
+        QTest::newRow("short ifs and elses, every one")
+            << "C++" << "{BasedOnStyle: Google, AllowShortIfStatementsOnASingleLine: AllIfsAndElse}"
+            << QStringList{"AllowShortIfStatementsOnASingleLine: AllIfsAndElse"};
+        // Without a column limit the author's breaks stay: the chain's form is written joined.
+        QTest::newRow("short ifs and elses, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AllowShortIfStatementsOnASingleLine: AllIfsAndElse}"
+            << QStringList{"AllowShortIfStatementsOnASingleLine: AllIfsAndElse", "ColumnLimit: 0"};
+        // A blank before empty parentheses too (C has no member declared without arguments to show it).
+        QTest::newRow("a blank before every (, empty ones too, C")
+            << "C" << "{BasedOnStyle: LLVM, SpaceBeforeParens: Always}" << QStringList{"SpaceBeforeParens: Always"};
+        // An index in brackets (the empty `[]` of an array initializer has no blank inside under either).
+        QTest::newRow("blanks inside square brackets")
+            << "C" << "{BasedOnStyle: LLVM, SpacesInSquareBrackets: true}" << QStringList{"SpacesInSquareBrackets: true"};
+        // Comments at different distances from their code, kept so (read as not lined up before).
+        QTest::newRow("trailing comments left where they stand")
+            << "C" << "{BasedOnStyle: Google, AlignTrailingComments: {Kind: Leave}}" << QStringList{" Kind: Leave"};
+        QTest::newRow("trailing comments left where they stand, over blank lines too")
+            << "C++" << "{BasedOnStyle: LLVM, AlignTrailingComments: {Kind: Leave, OverEmptyLines: 1}, "
+                        "SpacesBeforeTrailingComments: 2}"
+            << QStringList{" Kind: Leave"};
+        // A call outside any function is read as a declaration: only one inside a body shows how
+        // arguments pack.
+        QTest::newRow("arguments one a line")
+            << "C" << "{BasedOnStyle: LLVM, BinPackArguments: false}" << QStringList{"BinPackArguments: false"};
+        QTest::newRow("arguments one a line, limit 120")
+            << "C++" << "{BasedOnStyle: Google, BinPackArguments: false, ColumnLimit: 120}"
+            << QStringList{"BinPackArguments: false"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -251,7 +283,8 @@ private slots:
         std::string older = shipped;
         for (char const* structure :
              {"kept line break", "long call assignment", "long comment", "long return type", "long string", "nested blocks",
-              "statement macro", "attribute macro", "label in a block"}) {
+              "statement macro", "attribute macro", "label in a block", "comment spacing", "short if else",
+              "subscript", "long call in a function", "call without arguments"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
@@ -297,7 +330,8 @@ private slots:
              {"blank lines", "type name(void) {", "type name(void)\n{"},
              {"for each macro", "type name(void) {", "type name(void)\n{"},
              {"statement macro", "type name(void) {", "type name(void)\n{"},
-             {"label in a block", "type name(void) {", "type name(void)\n{"}},
+             {"label in a block", "type name(void) {", "type name(void)\n{"},
+             {"long call in a function", "type name(void) {", "type name(void)\n{"}},
             {{"cast", "(type *)", "(type*)"},
              {"function declaration", "type *argument", "type* argument"},
              {"pointer", "type *name", "type* name"},
