@@ -168,10 +168,11 @@ std::vector<option_group> make_groups_without(std::set<std::string> const& names
     return groups;
 }
 
-// Java has no pointers, references, namespaces, access labels of their own, templates,
-// constructor initializer lists, structures, unions, preprocessor or bit fields.
-std::vector<option_group> make_java_groups() {
-    static std::set<std::string> const c_family_only = {
+// The groups of what Java, JavaScript and TypeScript lack: pointers, references, namespaces,
+// access labels of their own, templates, constructor initializer lists, structures, unions, the
+// preprocessor and bit fields.
+std::set<std::string> const& without_pointers_templates_or_preprocessor() {
+    static std::set<std::string> const groups = {
         "PointerAlignment", "DerivePointerAlignment", "ReferenceAlignment", "NamespaceIndentation",
         "AccessModifierOffset", "IndentAccessModifiers", "EmptyLineBeforeAccessModifier",
         "BreakConstructorInitializers", "PackConstructorInitializers", "ConstructorInitializerIndentWidth",
@@ -180,7 +181,12 @@ std::vector<option_group> make_java_groups() {
         "BraceWrapping.AfterUnion", "BraceWrapping.AfterNamespace", "BraceWrapping.AfterExternBlock",
         "AlignConsecutiveMacros", "AlignConsecutiveBitFields", "BitFieldColonSpacing", "IndentExternBlock",
         "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth", "IndentGotoLabels", "AlignArrayOfStructures"};
-    std::vector<option_group> groups = make_groups_without(c_family_only);
+    return groups;
+}
+
+// Java's groups, with its annotations of fields.
+std::vector<option_group> make_java_groups() {
+    std::vector<option_group> groups = make_groups_without(without_pointers_templates_or_preprocessor());
     groups.push_back(flag("BreakAfterJavaFieldAnnotations"));
     return groups;
 }
@@ -234,19 +240,10 @@ std::vector<option_group> make_csharp_groups() {
     return groups;
 }
 
-// JavaScript and TypeScript have neither the preprocessor nor pointers nor C++'s classes; their
-// imports may be wrapped, their object and array literals spaced inside.
+// JavaScript's and TypeScript's groups: their imports may be wrapped, their object and array
+// literals spaced inside.
 std::vector<option_group> make_javascript_groups() {
-    static std::set<std::string> const c_family_only = {
-        "PointerAlignment", "DerivePointerAlignment", "ReferenceAlignment", "NamespaceIndentation",
-        "AccessModifierOffset", "IndentAccessModifiers", "EmptyLineBeforeAccessModifier",
-        "BreakConstructorInitializers", "PackConstructorInitializers", "ConstructorInitializerIndentWidth",
-        "BreakInheritanceList", "SpaceBeforeCtorInitializerColon", "SpaceBeforeInheritanceColon",
-        "SpaceAfterTemplateKeyword", "BreakTemplateDeclarations", "BraceWrapping.AfterStruct",
-        "BraceWrapping.AfterUnion", "BraceWrapping.AfterNamespace", "BraceWrapping.AfterExternBlock",
-        "AlignConsecutiveMacros", "AlignConsecutiveBitFields", "BitFieldColonSpacing", "IndentExternBlock",
-        "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth", "IndentGotoLabels", "AlignArrayOfStructures"};
-    std::vector<option_group> groups = make_groups_without(c_family_only);
+    std::vector<option_group> groups = make_groups_without(without_pointers_templates_or_preprocessor());
     groups.push_back(flag("JavaScriptWrapImports"));
     groups.push_back(flag("SpacesInContainerLiterals"));
     return groups;
