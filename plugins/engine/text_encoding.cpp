@@ -107,9 +107,26 @@ bool text_encoding::contradicts_byte_order_mark_of(std::string const& source) co
     return by_mark.unit != unit || by_mark.little_endian != little_endian;
 }
 
+namespace {
+
+// The line break the host takes a file's line ending from: its first, LF where there is none.
+std::string first_line_break_of(std::string const& text) {
+    std::size_t const at = text.find_first_of("\r\n");
+    if (at == std::string::npos || text[at] == '\n')
+        return "\n";
+    return text.compare(at, 2, "\r\n") == 0 ? "\r\n" : "\r";
+}
+
+}  // namespace
+
 bool text_encoding::result_is_told_alike(std::string const& source, std::string const& result) const {
+    // A result that joined away the line break that told the file's line ending (a lone CR in a
+    // string may come first then) would be read with another ending next time, and revised again
+    // otherwise.
+    if (unit == 1)
+        return first_line_break_of(source) == first_line_break_of(result);
     bool const told_by_mark = of(source, line_ending_traits{}).unit > 1;
-    if (unit == 1 || told_by_mark)
+    if (told_by_mark)
         return true;
     std::size_t at = source.find('\n');
     if (at == std::string::npos) {

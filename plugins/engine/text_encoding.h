@@ -33,7 +33,8 @@ public:
     // Whether the host will take `result` for text of the same encoding as `source`. A UTF-16 or
     // UTF-32 text without byte-order mark is known by the bytes around its first LF byte (or, in a
     // text without any, its first CR byte), which may belong to another character; so the result
-    // must hold that byte at the same place, with the same bytes before and around it.
+    // must hold that byte at the same place, with the same bytes before and around it. An 8-bit
+    // text's line ending is told by its first line break, which the result must keep of its kind.
     bool result_is_told_alike(std::string const& source, std::string const& result) const;
 
     line_ending ending() const { return line_ending_kind; }

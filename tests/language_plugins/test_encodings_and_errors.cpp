@@ -197,7 +197,9 @@ private slots:
     // revision; binary; tidy code; UTF-16 told only by its one line break, which joined would be
     // read as 8-bit text next time (with a byte-order mark it is joined); and bytes the host takes
     // for UTF-16 LE with CR endings by their first CR byte, whose CR become a space would make the
-    // host take the result for UTF-16 BE by the CR byte of another character.
+    // host take the result for UTF-16 BE by the CR byte of another character; and 8-bit text
+    // whose only LF, joined away, would leave a CR inside a template literal to tell the line
+    // ending next time.
     void leaves_these_texts_alone_data() {
         QTest::addColumn<QString>("addon_file");
         QTest::addColumn<QByteArray>("source");
@@ -212,6 +214,8 @@ private slots:
         row("UTF-16 told by its only line break", "Kernighan&Ritchie[C].style", encoded("int\nx;", "UTF-16LE", false));
         row("UTF-16 with a mark", "Kernighan&Ritchie[C].style", encoded("int\nx;", "UTF-16LE", true),
             encoded("int x;", "UTF-16LE", true));
+        row("the line break that tells the line ending, joined away before a lone CR in a template literal",
+            "WebKit[JavaScript].style", std::string("\xd1\n,`\rej\x95\x95`-"));
         row("the line break that tells the encoding", "GNU[C].style", std::string("\xef\xff\x24\x5c\x5c\x5c\x00\x0d\x5c\x5c\x0d\x00\x5c\x5c\x5c\x5c\x5c\x5c\x0d\x00\x5c\xff\xff\x7e\x60\xff\x2e\xef\xb5\x0c\xff\x2e\xef\x5c\x5c\x5c\x5c\x5c\x57\xa3\x5c\x5c\x5c\x5c\x5c\x5c\x5c\xff\x2e\xef\xb5\x0c\xff\x2e\xef\xb5\x0c\xff", 58));
     }
     void leaves_these_texts_alone() {
