@@ -82,7 +82,8 @@ int result_of_run::learn_style_based_on(argument_list const& arguments) const {
     switch (outcome.how) {
     case end::learned:
         std::cout << message::style_learned(task.style, task.language, outcome.files, outcome.lines,
-                                            outcome.lines_left, outcome.forms_of)
+                                            outcome.lines_left, outcome.forms_of,
+                                            outcome.configuration_of)
                   << std::endl;
         return 0;
     case end::no_such_language:

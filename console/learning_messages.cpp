@@ -30,10 +30,14 @@ std::string cannot_install_learned_style(std::string const& style) {
 std::string learning_progress(unsigned percent) { return "Learning... " + std::to_string(percent) + "%"; }
 
 std::string style_learned(std::string const& style, std::string const& language, std::size_t files,
-                          unsigned long lines, unsigned long lines_left, std::string const& forms_of) {
-    std::string const taken =
-        forms_of.empty() ? std::string()
-                         : " It has the forms of style '" + forms_of + "', which leave more of them as they are than any rules learned.";
+                          unsigned long lines, unsigned long lines_left, std::string const& forms_of,
+                          std::string const& configuration_of) {
+    std::string const which = !forms_of.empty()           ? "style '" + forms_of + "'"
+                              : !configuration_of.empty() ? "the project's own '" + configuration_of + "'"
+                                                          : std::string();
+    std::string const taken = which.empty() ? std::string()
+                                            : " It has the forms of " + which +
+                                                  ", which leave more of them as they are than any rules learned.";
     return "Style '" + style + "' of language '" + language + "' was learned from " + std::to_string(files) +
            (files == 1 ? " file" : " files") + ": it leaves " + share(lines_left, lines) + " of their " +
            std::to_string(lines) + " lines as they are." + taken;

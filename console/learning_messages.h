@@ -16,9 +16,11 @@ std::string cannot_install_learned_style(std::string const& style);
 // The progress line's text, without the carriage return before it.
 std::string learning_progress(unsigned percent);
 // The one line a successful run prints on standard output; `forms_of` names the installed style
-// whose forms the new one took, when it did.
+// whose forms the new one took, when it did, and `configuration_of` the project's own engine
+// configuration file, when its forms were taken.
 std::string style_learned(std::string const& style, std::string const& language, std::size_t files,
-                          unsigned long lines, unsigned long lines_left, std::string const& forms_of);
+                          unsigned long lines, unsigned long lines_left, std::string const& forms_of,
+                          std::string const& configuration_of);
 
 }  // namespace message
 }  // namespace console

@@ -63,10 +63,16 @@ QString common_root_of(QStringList const& paths) {
 }
 
 // Where the learning may start: the project's own engine configuration, made into an addon by the
-// plugin's configuration interface, when the task's common root holds one; then every installed
-// style of the language, by name.
-std::vector<learning_start> learning_starts_for(revision_task const& task, plugin_obtainer const& obtain) {
+// plugin's configuration interface, when the task's common root holds one (the first start, and
+// its file's name); then every installed style of the language, by name.
+struct learning_starts {
     std::vector<learning_start> starts;
+    std::string configuration;
+};
+
+learning_starts learning_starts_for(revision_task const& task, plugin_obtainer const& obtain) {
+    learning_starts found;
+    std::vector<learning_start>& starts = found.starts;
     QString const root = common_root_of(task.paths);
     if (interface_to_engine_configuration* const configurations = obtain.engine_configuration(); configurations && !root.isEmpty())
         for (char const* name : engine_configuration_names) {
@@ -74,8 +80,10 @@ std::vector<learning_start> learning_starts_for(revision_task const& task, plugi
             if (!QFileInfo(QDir(root).filePath(name)).isFile() || !read_from(QDir(root).filePath(name)).to(configuration))
                 continue;
             configured_addon const made = configurations->addon_from_configuration(configuration, task.style);
-            if (!made.addon.empty())
+            if (!made.addon.empty()) {
                 starts.push_back({std::string(), made.addon});
+                found.configuration = name;
+            }
             break;
         }
     std::vector<learning_start> installed;
@@ -88,7 +96,7 @@ std::vector<learning_start> learning_starts_for(revision_task const& task, plugi
     std::sort(installed.begin(), installed.end(),
               [](learning_start const& a, learning_start const& b) { return a.style < b.style; });
     starts.insert(starts.end(), installed.begin(), installed.end());
-    return starts;
+    return found;
 }
 
 style_learning_outcome learned(revision_task const& task,
@@ -133,6 +141,7 @@ style_learning_outcome learned(revision_task const& task,
     if (sources.empty())
         return ended(end::no_files);
     std::string forms_of;
+    std::string configuration_of;
 
     bool stopped = false;
     auto const going_on = [&](unsigned long done, unsigned long whole) {
@@ -145,12 +154,15 @@ style_learning_outcome learned(revision_task const& task,
     // learning interface alone learns from the code only.
     style_learned_from_starts style;
     if (interface_to_style_learning_from_starts* const from_starts = obtain.style_learning_from_starts()) {
-        std::vector<learning_start> const starts = learning_starts_for(task, obtain);
+        learning_starts const starts = learning_starts_for(task, obtain);
         if (stop_requested())
             return ended(end::stopped);
-        style = from_starts->learn_style_from(sources, starts, task.style, going_on);
-        if (style.start_taken >= 0 && static_cast<std::size_t>(style.start_taken) < starts.size())
-            forms_of = starts[static_cast<std::size_t>(style.start_taken)].style;
+        style = from_starts->learn_style_from(sources, starts.starts, task.style, going_on);
+        if (style.start_taken >= 0 && static_cast<std::size_t>(style.start_taken) < starts.starts.size()) {
+            forms_of = starts.starts[static_cast<std::size_t>(style.start_taken)].style;
+            if (forms_of.empty())
+                configuration_of = starts.configuration;
+        }
     } else {
         style.learned = learning->learn_style(sources, task.style, going_on);
     }
@@ -164,6 +176,7 @@ style_learning_outcome learned(revision_task const& task,
     outcome.lines = style.learned.lines;
     outcome.lines_left = std::min(style.learned.lines_left, style.learned.lines);
     outcome.forms_of = forms_of;
+    outcome.configuration_of = configuration_of;
     if (addon.empty() || !install_addon_text(addon, task.style, task.language))
         return ended(end::not_installed);
     return outcome;

@@ -27,6 +27,9 @@ struct style_learning_outcome {
     // The installed style whose forms the new style took, because they leave more of the files'
     // lines as they are than the rules learned; empty when the style is the learned one.
     std::string forms_of;
+    // The file name of the project's own engine configuration whose forms the new style took, for
+    // the same reason; empty otherwise.
+    std::string configuration_of;
     std::size_t files = 0;
     unsigned long lines = 0;
     unsigned long lines_left = 0;
