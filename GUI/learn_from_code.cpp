@@ -8,13 +8,52 @@
 #include "GUI/top_window.h"
 #include "GUI/worker_link.h"
 #include "core/kernel.h"
+#include "core/product.h"
 #include "core/style_addon.h"
 
 #include <QAction>
+#include <QMessageBox>
 
 #include <thread>
 
 namespace GUI {
+
+namespace {
+
+// Tenths of a percent, rounded down, as the command line writes them: a style that changes one line
+// of a thousand and one never shows 100.0%.
+QString share(unsigned long part, unsigned long whole) {
+    unsigned long long const tenths = whole == 0 ? 1000ULL : 1000ULL * part / whole;
+    return QString("%1.%2%").arg(tenths / 10).arg(tenths % 10);
+}
+
+QString figure_of(QString const& style, QString const& language, style_learning_outcome const& outcome) {
+    QString taken;
+    if (!outcome.forms_of.empty())
+        taken = QObject::tr(text::learned_forms_of_style) + QString::fromStdString(outcome.forms_of) +
+                QObject::tr(text::learned_leave_more);
+    else if (!outcome.configuration_of.empty())
+        taken = QObject::tr(text::learned_forms_of_configuration) + QString::fromStdString(outcome.configuration_of) +
+                QObject::tr(text::learned_leave_more);
+    return QObject::tr(text::learned_style_prefix) + style + QObject::tr(text::learned_of_language) + language +
+           QObject::tr(text::learned_from) + QString::number(outcome.files) +
+           QObject::tr(outcome.files == 1 ? text::learned_file : text::learned_files) +
+           QObject::tr(text::learned_it_leaves) + share(outcome.lines_left, outcome.lines) +
+           QObject::tr(text::learned_of_their) + QString::number(outcome.lines) +
+           QObject::tr(text::learned_lines_as_they_are) + taken;
+}
+
+// How much of the code the new style leaves as it is: a window-modal box the user closes.
+void show_figure(QString const& figure, QWidget* over) {
+    auto* box = new QMessageBox(QMessageBox::Information, product::title, figure, QMessageBox::Close, over->window());
+    box->setObjectName("learning_result");
+    box->setAccessibleName(figure);
+    box->setWindowModality(Qt::WindowModal);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
+}  // namespace
 
 class learn_from_code::implementation {
 public:
@@ -121,6 +160,7 @@ void learn_from_code::learning_ended(QString const& style, QString const& langua
     switch (outcome.how) {
     case end::learned:
         emit style_was_learned(style);
+        show_figure(figure_of(style, language, outcome), pimpl->main_window);
         emit learning_is_finished(QString());
         return;
     case end::no_such_language:

@@ -136,6 +136,18 @@ constexpr char cannot_install_style[] = "I cannot install style '";
 constexpr char addons_directory_hint[] =
     "'. Please make sure the addons directory exists and you can write in it.";
 constexpr char quote_and_dot[] = "'.";
+// The figure of a learned style, in the command line's words.
+constexpr char learned_style_prefix[] = "Style '";
+constexpr char learned_of_language[] = "' of language '";
+constexpr char learned_from[] = "' was learned from ";
+constexpr char learned_file[] = " file";
+constexpr char learned_files[] = " files";
+constexpr char learned_it_leaves[] = ": it leaves ";
+constexpr char learned_of_their[] = " of their ";
+constexpr char learned_lines_as_they_are[] = " lines as they are.";
+constexpr char learned_forms_of_style[] = " It has the forms of style '";
+constexpr char learned_forms_of_configuration[] = " It has the forms of the project's own '";
+constexpr char learned_leave_more[] = "', which leave more of them as they are than any rules learned.";
 
 // Task tabs.
 constexpr char first_task[] = "Task 1";

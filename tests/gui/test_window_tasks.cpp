@@ -710,7 +710,7 @@ void test_window_tasks::learns_a_style_from_the_task_data() {
     QTest::newRow("empty name") << "" << 1 << false << "Invalid name of style '', name cannot be empty." << true;
 }
 
-// Faults: a learned style left unselected or not installed; a stopped learning, or one under a
+// Faults: a learned style left unselected or not installed, or learned without its figure told; a stopped learning, or one under a
 // refused name, installing a style all the same; an end without a style that says nothing; a
 // control of the name or progress dialog that a screen reader announces without a name.
 void test_window_tasks::learns_a_style_from_the_task() {
@@ -782,8 +782,17 @@ void test_window_tasks::learns_a_style_from_the_task() {
     installed.sort();
     QCOMPARE(installed_addons(), installed);
     QCOMPARE(window->findChild<QListWidget*>("styles")->currentItem()->text(), message.isEmpty() ? name : QString("GNU"));
-    if (!message.isEmpty())
+    if (!message.isEmpty()) {
         QCOMPARE(window->findChild<QMessageBox*>("critical_alert")->text(), message);
+        return;
+    }
+    auto* figure = window->findChild<QMessageBox*>("learning_result");
+    QVERIFY(figure);
+    QVERIFY2(QRegularExpression("^Style '" + name + "' of language 'C\\+\\+' was learned from [0-9]+ files: it "
+                                "leaves [0-9]+\\.[0-9]% of their [0-9]+ lines as they are\\.")
+                 .match(figure->text())
+                 .hasMatch(),
+             qPrintable(figure->text()));
 }
 
 STYLE_TARNEL_WIDGET_TEST_MAIN_IN_BUNDLE(test_window_tasks)
