@@ -308,7 +308,8 @@ private slots:
 
     // Each kind of macro is read from code of its own shape only, in two files: a loop without
     // braces is no statement, a function's name after its class's qualifier no statement, a
-    // structure's tag no attribute, a return type on its own line no attribute, an annotation after
+    // structure's tag no attribute, a return type on its own line no attribute, a parameter's name
+    // before its attribute no attribute, a structure's variable no class head, an annotation after
     // a function's head no loop.
     void finds_the_macros_a_project_uses_data() {
         QTest::addColumn<int>("kind");
@@ -330,6 +331,14 @@ private slots:
         QTest::newRow("an attribute on a line of its own, a return type on its own line none")
             << 2 << "static __always_inline\nvoid f(void)\n{\n}\n\nstatic __poll_t\npoll_it(void)\n{\n}\n"
             << QStringList{"__always_inline"};
+        QTest::newRow("an attribute after a parameter's name, the name none")
+            << 2 << "static int show(const char *refname,\n\t\tvoid *cb_data UNUSED)\n{\n\treturn 0;\n}\n"
+            << QStringList{"UNUSED"};
+        QTest::newRow("a structure's variable over its initialiser is no class head, a class head is")
+            << 2
+            << "struct DLL_API settings\n{\n\tint a;\n};\nvoid f(void)\n{\n\tstruct options_of_call options\n"
+               "\t\t= OPTIONS_INIT;\n\tg(&options);\n}\n"
+            << QStringList{"DLL_API"};
         QTest::newRow("an annotation after a function's head is no loop")
             << 0 << "static void f(void)\n\t__acquires(lock)\n{\n\tg();\n}\n" << QStringList();
     }
