@@ -24,6 +24,7 @@
 #include <future>
 #include <map>
 #include <regex>
+#include <set>
 #include <thread>
 
 namespace tarnel_engine {
@@ -284,6 +285,130 @@ std::string continuation_indent_read_from(std::vector<std::string> const& pieces
     return step > 0 ? "{ContinuationIndentWidth: " + std::to_string(step) + "}" : std::string();
 }
 
+// In code indented with tabs, whether a line continuing an open parenthesis takes tabs beyond its
+// statement's own (`\t\t\t       int flags)` under `\tint f(...,`) or blanks after them, where one
+// way clearly outnumbers the other; only lines at least a tab further in than their statement say.
+std::string continuation_tabs_read_from(std::vector<std::string> const& pieces, int tab_width) {
+    std::map<long, long> tabbed;
+    for (std::string const& piece : pieces) {
+        std::vector<std::string> const lines = lines_of(piece);
+        for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
+            std::string const text = trimmed(lines[i]);
+            if (text.empty() || comment_or_directive(text) || ends_with(text, "\\") ||
+                text.find('"') != std::string::npos ||
+                std::count(text.begin(), text.end(), '(') <= std::count(text.begin(), text.end(), ')'))
+                continue;
+            std::size_t const tabs = lines[i].find_first_not_of('\t');
+            std::size_t const next_tabs = lines[i + 1].find_first_not_of('\t');
+            if (tabs == std::string::npos || next_tabs == std::string::npos || lines[i][tabs] != text[0] ||
+                trimmed(lines[i + 1]).empty() || comment_or_directive(trimmed(lines[i + 1])))
+                continue;
+            std::size_t const further = indentation_of(lines[i + 1], tab_width);
+            if (further < indentation_of(lines[i], tab_width) + static_cast<std::size_t>(tab_width))
+                continue;
+            if (next_tabs > tabs)
+                ++tabbed[1];
+            else if (next_tabs == tabs)
+                ++tabbed[0];
+        }
+    }
+    long const way = clear_majority_of(tabbed, 3);
+    return way < 0 ? std::string() : way ? "{UseTab: ForContinuationAndIndentation}" : "{UseTab: ForIndentation}";
+}
+
+// The columns the text before `end` takes, tabs counted 8 wide.
+std::size_t columns_before(std::string const& line, std::size_t end) {
+    std::size_t width = 0;
+    for (std::size_t i = 0; i < end; ++i)
+        width += line[i] == '\t' ? 8 - width % 8 : 1;
+    return width;
+}
+
+// Whether the backslashes that continue a macro's lines stand one blank after each line's code or
+// line up in one column, where one way clearly outnumbers the other: a run of continued lines of
+// different lengths counts once (runs lined up neither way say nothing). Only the first way is a
+// rule of its own (lined up, the search chooses which column).
+std::string escaped_newlines_read_from(std::vector<std::string> const& pieces) {
+    std::map<long, long> aligned;
+    for (std::string const& piece : pieces) {
+        std::set<std::size_t> columns;
+        std::set<std::size_t> lengths;
+        bool one_blank = true;
+        auto const run_ends = [&] {
+            if (lengths.size() >= 2 && (one_blank || columns.size() == 1))
+                ++aligned[one_blank ? 0 : 1];
+            columns.clear();
+            lengths.clear();
+            one_blank = true;
+        };
+        for (std::string const& line : lines_of(piece)) {
+            bool const continued = line.size() >= 2 && line.back() == '\\';
+            std::size_t const code_end = continued ? line.find_last_not_of(" \t", line.size() - 2) : std::string::npos;
+            if (code_end == std::string::npos) {
+                run_ends();
+                continue;
+            }
+            columns.insert(columns_before(line, line.size() - 1));
+            lengths.insert(code_end + 1);
+            one_blank = one_blank && line.size() - code_end == 3 && line[code_end + 1] == ' ';
+        }
+        run_ends();
+    }
+    return clear_majority_of(aligned, 3) == 0 ? "{AlignEscapedNewlines: DontAlign}" : std::string();
+}
+
+// Braced lists with a blank inside their braces (`{ 1, 2 }`, `{ "name",` opening a line): laid out
+// as blocks, where files that mostly write them so clearly outnumber files that mostly write them
+// without (`{1, 2}`; a table of numbers in one file says little of a project). The other way is
+// no rule of its own: the engine then lays lists out as a call's arguments, which also decides
+// how lists of many lines are indented, and the search weighs that. Strings, comments, blocks of
+// statements, enums and empty braces say nothing.
+std::string braced_lists_read_from(std::vector<std::string> const& pieces) {
+    std::map<long, long> files;
+    for (std::string const& piece : pieces) {
+        long spaced = 0;
+        long tight = 0;
+        for (std::string const& line : lines_of(piece)) {
+            std::string const text = trimmed(line);
+            if (text.empty() || comment_or_directive(text) || text.find('{') == std::string::npos ||
+                text.find("enum") != std::string::npos)
+                continue;
+            // The code with the insides of its strings and characters left out, up to a comment.
+            std::string code;
+            for (std::size_t i = 0; i < text.size(); ++i) {
+                char const c = text[i];
+                if (c == '/' && i + 1 < text.size() && (text[i + 1] == '/' || text[i + 1] == '*'))
+                    break;
+                code += c;
+                if (c != '"' && c != '\'')
+                    continue;
+                for (++i; i < text.size() && text[i] != c; ++i)
+                    i += text[i] == '\\' ? 1 : 0;
+                code += c;
+            }
+            code = trimmed(code);
+            for (std::size_t open = code.find('{'); open != std::string::npos; open = code.find('{', open + 1)) {
+                std::size_t const end = code.find_first_of("{};", open + 1);
+                bool const closed = end != std::string::npos && code[end] == '}';
+                // A list on the line (`{ 1, 2 }`), or one that opens the line and goes on (`{ "name",`).
+                if (closed && end > open + 1) {
+                    bool const blank_in = code[open + 1] == ' ' && code[end - 1] == ' ';
+                    bool const none_in = code[open + 1] != ' ' && code[end - 1] != ' ';
+                    spaced += blank_in && end > open + 2;
+                    tight += none_in;
+                } else if (open == 0 && end == std::string::npos && code.size() > 2) {
+                    (code[1] == ' ' ? spaced : tight) += 1;
+                }
+            }
+        }
+        if (spaced > 2 * tight)
+            ++files[1];
+        else if (tight > 2 * spaced)
+            ++files[0];
+    }
+    return clear_majority_of(files, 3) == 1 ? "{Cpp11BracedListStyle: false}" : std::string();
+}
+
 // Whether the `case` labels of a switch stand further in than the switch, where one way clearly
 // outnumbers the other.
 std::string case_labels_read_from(std::vector<std::string> const& pieces, int tab_width) {
@@ -363,13 +488,7 @@ form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<
          {limit, tab_width, pointers_read_from(pieces), namespace_indentation_read_from(pieces)})
         if (!reading.empty())
             readings.layout.push_back(reading);
-    // Read from every source, as a sample may hold few switches or breaks, and where the code
-    // clearly shows one way, held by every style the search moves to: the sample alone would let
-    // the search trade them for a line of its own pieces.
-    int const tab_columns = columns.tab_width ? columns.tab_width : 8;
-    for (std::string const& reading :
-         {continuation_indent_read_from(sources, tab_columns), case_labels_read_from(sources, tab_columns),
-          trailing_comment_blanks_read_from(sources)})
+    for (std::string const& reading : rules_read_from_every_source(sources, columns.tab_width))
         if (!reading.empty()) {
             readings.layout.push_back(reading);
             readings.certain.push_back(reading);
@@ -501,6 +620,21 @@ std::vector<std::size_t> every_kth_of(std::vector<std::size_t> const& sources, s
 }
 
 }  // namespace
+
+// Read from every source, as a sample may hold few switches, breaks or macros, and where the code
+// clearly shows one way, held by every style the search moves to: the sample alone would let the
+// search trade them for a line of its own pieces.
+std::vector<std::string> rules_read_from_every_source(std::vector<std::string> const& sources, int tab_width) {
+    int const tab_columns = tab_width ? tab_width : 8;
+    std::vector<std::string> rules;
+    for (std::string const& reading :
+         {continuation_indent_read_from(sources, tab_columns), case_labels_read_from(sources, tab_columns),
+          trailing_comment_blanks_read_from(sources), escaped_newlines_read_from(sources),
+          braced_lists_read_from(sources), tab_width ? continuation_tabs_read_from(sources, tab_columns) : std::string()})
+        if (!reading.empty())
+            rules.push_back(reading);
+    return rules;
+}
 
 learned_style learn_style_of::from(std::vector<std::string> const& sources, std::string const& style_name,
                                    going_on_check const& going_on) const {

@@ -353,6 +353,53 @@ private slots:
         QCOMPARE(names, found);
     }
 
+    // Rules read from every source, each only where the code clearly shows it (three files alike
+    // here): a macro's backslashes one blank after its code, not lined up; braced lists with blanks
+    // inside, not without; continued lines with tabs beyond their statement's or blanks after them,
+    // and nothing of tabs in code indented with blanks.
+    void reads_rules_from_every_source_data() {
+        QTest::addColumn<QString>("code");
+        QTest::addColumn<int>("tab_width");
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("rule");
+        QString const macro = "#define CHECK(x) \\\n\tdo { \\\n\t\tif (!(x)) \\\n\t\t\tfail(); \\\n\t} while (0)\n";
+        // Backslashes in column 32, tabs 8 wide.
+        QString const lined_up = "#define CHECK(x)" + QString(16, ' ') + "\\\n\tdo {" + QString(20, ' ') +
+                                 "\\\n\t\tif (!(x))" + QString(7, ' ') + "\\\n\t\t\tfail(); \\\n\t} while (0)\n";
+        QTest::newRow("backslashes one blank after the code") << macro << 8 << "AlignEscapedNewlines"
+                                                              << "{AlignEscapedNewlines: DontAlign}";
+        QTest::newRow("backslashes lined up: the search chooses the column")
+            << lined_up << 8 << "AlignEscapedNewlines" << "";
+        QTest::newRow("braced lists with blanks inside, laid out as blocks")
+            << "static int sizes[] = { 1, 2, 4 };\nstatic struct entry table[] = {\n\t{ \"name\", 1 },\n};\n" << 8
+            << "Cpp11BracedListStyle" << "{Cpp11BracedListStyle: false}";
+        QTest::newRow("braced lists without blanks: the search weighs them")
+            << "static int sizes[] = {1, 2, 4};\nstatic char name[8] = {0};\n" << 8 << "Cpp11BracedListStyle" << "";
+        QTest::newRow("blocks of statements and enums are no braced lists")
+            << "enum { A, B };\nint f(void) { return g(); }\nvoid h(void) { i(); }\n" << 8 << "Cpp11BracedListStyle" << "";
+        QTest::newRow("continued lines with tabs beyond their statement's")
+            << "int f(void)\n{\n\tresult = check_state(dev, flags,\n\t\t\t     other);\n\treturn result;\n}\n" << 8
+            << "UseTab" << "{UseTab: ForContinuationAndIndentation}";
+        QTest::newRow("continued lines with blanks after their statement's tabs")
+            << "int f(void)\n{\n\tresult = check_state(dev, flags,\n\t                     other);\n\treturn result;\n}\n"
+            << 8 << "UseTab" << "{UseTab: ForIndentation}";
+        QTest::newRow("code indented with blanks says nothing of tabs")
+            << "int f(void)\n{\n    result = check_state(dev, flags,\n                         other);\n}\n" << 0
+            << "UseTab" << "";
+    }
+    void reads_rules_from_every_source() {
+        QFETCH(QString, code);
+        QFETCH(int, tab_width);
+        QFETCH(QString, key);
+        QFETCH(QString, rule);
+        std::vector<std::string> const sources(3, code.toStdString());
+        QStringList with_key;
+        for (std::string const& read : tarnel_engine::rules_read_from_every_source(sources, tab_width))
+            if (QString::fromStdString(read).contains(key + ":"))
+                with_key << QString::fromStdString(read);
+        QCOMPARE(with_key, rule.isEmpty() ? QStringList() : QStringList{rule});
+    }
+
     // The width of a tab comes from where tabs and blanks line up, never from the indent step:
     // tabs alone show no width (8), continuation lines under an open parenthesis and a tab-indented
     // line one step in from a blank-indented one do.
