@@ -409,6 +409,30 @@ std::string braced_lists_read_from(std::vector<std::string> const& pieces) {
     return clear_majority_of(files, 3) == 1 ? "{Cpp11BracedListStyle: false}" : std::string();
 }
 
+// Whether the names of the macros used as loops stand close to their parentheses
+// (`for_each_item(item, list) {`) where `if`, `for` and `while` stand a blank away, each way
+// clearly outnumbering the other.
+std::string loop_macro_parentheses_read_from(std::vector<std::string> const& pieces) {
+    std::vector<std::string> const macros = loop_macros().used_in(pieces);
+    if (macros.empty())
+        return std::string();
+    std::map<long, long> keyword_blank;
+    std::map<long, long> macro_blank;
+    for (std::string const& piece : pieces)
+        for (std::string const& line : lines_of(piece)) {
+            std::string const text = trimmed(line);
+            for (char const* keyword : {"if", "for", "while"})
+                if (starts_with(text, std::string(keyword) + " (") || starts_with(text, std::string(keyword) + "("))
+                    ++keyword_blank[text[std::string(keyword).size()] == ' '];
+            for (std::string const& macro : macros)
+                if (starts_with(text, macro + " (") || starts_with(text, macro + "("))
+                    ++macro_blank[text[macro.size()] == ' '];
+        }
+    return clear_majority_of(keyword_blank, 3) == 1 && clear_majority_of(macro_blank, 3) == 0
+               ? "{SpaceBeforeParens: ControlStatementsExceptControlMacros}"
+               : std::string();
+}
+
 // Whether the `case` labels of a switch stand further in than the switch, where one way clearly
 // outnumbers the other.
 std::string case_labels_read_from(std::vector<std::string> const& pieces, int tab_width) {
@@ -528,14 +552,21 @@ unsigned long lines_changed_then_white_space(std::string const& wanted, std::str
     return changed * 1000 + std::min(white_space_distance(wanted, made), 999UL);
 }
 
-// Trailing comments left where the author put them (the engine's "leave" alignment) are no rule a
-// form can show: a form written under it keeps the catalogue's own single blank before its
-// comments, and the addon then says one blank whatever was read from the code. Such a style
-// takes, of lining runs of trailing comments up and not, the one under which the sample changes
-// least (lined up, of equals), with the blanks it holds.
+// Trailing comments left where the author put them (the engine's "leave" alignment) keep most of a
+// project's lines, and a catalogue with a form of trailing comments standing apart carries that
+// rule. Where the forms do not carry it (an addon written under it reads back otherwise), a form
+// written under it keeps the catalogue's own single blank before its comments, and the addon then
+// says one blank whatever was read from the code: such a style takes, of lining runs of trailing
+// comments up and not, the one under which the sample changes least (lined up, of equals), with
+// the blanks it holds.
 clang::format::FormatStyle with_trailing_comments_shown(clang::format::FormatStyle style,
-                                                        std::vector<form_case> const& forms) {
+                                                        std::vector<form_case> const& forms,
+                                                        language_description const& language) {
     if (style.AlignTrailingComments.Kind != clang::format::FormatStyle::TCAS_Leave)
+        return style;
+    std::string const addon = addon_written_in(clang::format::configurationAsText(style), "Trailing comments", language);
+    if (!addon.empty() && inference_cache::shared().style_for(addon, language).AlignTrailingComments.Kind ==
+                              clang::format::FormatStyle::TCAS_Leave)
         return style;
     clang::format::FormatStyle best = style;
     unsigned long best_total = 0;
@@ -630,7 +661,8 @@ std::vector<std::string> rules_read_from_every_source(std::vector<std::string> c
     for (std::string const& reading :
          {continuation_indent_read_from(sources, tab_columns), case_labels_read_from(sources, tab_columns),
           trailing_comment_blanks_read_from(sources), escaped_newlines_read_from(sources),
-          braced_lists_read_from(sources), tab_width ? continuation_tabs_read_from(sources, tab_columns) : std::string()})
+          braced_lists_read_from(sources), loop_macro_parentheses_read_from(sources),
+          tab_width ? continuation_tabs_read_from(sources, tab_columns) : std::string()})
         if (!reading.empty())
             rules.push_back(reading);
     return rules;
@@ -674,7 +706,7 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
         clang::format::FormatStyle const style = with_trailing_comments_shown(
             infer_options(language.lexing, formatting_budget, searching, lines_changed_then_white_space)
                 .from(forms, readings_of_code(forms, pieces, texts)),
-            forms);
+            forms, language);
         if (stopped)
             return nothing;
 
