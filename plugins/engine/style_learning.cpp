@@ -554,7 +554,9 @@ unsigned long lines_changed_then_white_space(std::string const& wanted, std::str
 
 // Trailing comments left where the author put them (the engine's "leave" alignment) keep most of a
 // project's lines, and a catalogue with a form of trailing comments standing apart carries that
-// rule. Where the forms do not carry it (an addon written under it reads back otherwise), a form
+// rule: a style that lines them up or not takes it where the sample changes no more under it (a
+// sample holds few trailing comments, and the search moves only on a gain). Where the forms do
+// not carry it (an addon written under it reads back otherwise), a form
 // written under it keeps the catalogue's own single blank before its comments, and the addon then
 // says one blank whatever was read from the code: such a style takes, of lining runs of trailing
 // comments up and not, the one under which the sample changes least (lined up, of equals), with
@@ -562,20 +564,29 @@ unsigned long lines_changed_then_white_space(std::string const& wanted, std::str
 clang::format::FormatStyle with_trailing_comments_shown(clang::format::FormatStyle style,
                                                         std::vector<form_case> const& forms,
                                                         language_description const& language) {
-    if (style.AlignTrailingComments.Kind != clang::format::FormatStyle::TCAS_Leave)
+    auto const total_of = [&](clang::format::FormatStyle const& tried) {
+        unsigned long total = 0;
+        for (unsigned long distance : distances_of(forms, tried, lines_changed_then_white_space))
+            total += distance;
+        return total;
+    };
+    clang::format::FormatStyle left = style;
+    left.AlignTrailingComments.Kind = clang::format::FormatStyle::TCAS_Leave;
+    if (style.AlignTrailingComments.Kind != clang::format::FormatStyle::TCAS_Leave &&
+        total_of(left) > total_of(style))
         return style;
-    std::string const addon = addon_written_in(clang::format::configurationAsText(style), "Trailing comments", language);
+    std::string const addon = addon_written_in(clang::format::configurationAsText(left), "Trailing comments", language);
     if (!addon.empty() && inference_cache::shared().style_for(addon, language).AlignTrailingComments.Kind ==
                               clang::format::FormatStyle::TCAS_Leave)
+        return left;
+    if (style.AlignTrailingComments.Kind != clang::format::FormatStyle::TCAS_Leave)
         return style;
     clang::format::FormatStyle best = style;
     unsigned long best_total = 0;
     for (auto const kind : {clang::format::FormatStyle::TCAS_Always, clang::format::FormatStyle::TCAS_Never}) {
         clang::format::FormatStyle shown = style;
         shown.AlignTrailingComments.Kind = kind;
-        unsigned long total = 0;
-        for (unsigned long distance : distances_of(forms, shown, lines_changed_then_white_space))
-            total += distance;
+        unsigned long const total = total_of(shown);
         if (kind == clang::format::FormatStyle::TCAS_Always || total < best_total) {
             best = shown;
             best_total = total;
@@ -725,10 +736,14 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
                                                [&](candidate const& other) { return other.addon == addon; }))
                 candidates.push_back({addon, start});
         };
-        auto const with_breaks_kept = [&](clang::format::FormatStyle options) {
+        // The rules learned with the author's breaks kept settle their trailing comments anew: under
+        // a limit, comments left where they stand can push code over it, which no longer holds.
+        auto const with_breaks_kept = [&](clang::format::FormatStyle options, bool learned) {
             if (options.ColumnLimit == 0)
                 return std::string();
             options.ColumnLimit = 0;
+            if (learned)
+                options = with_trailing_comments_shown(options, forms, language);
             return with_fixed_points(addon_written_in(clang::format::configurationAsText(options), style_name, language),
                                      style_name, language);
         };
@@ -737,7 +752,7 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
                    -1);
         if (candidates.empty())
             return nothing;
-        weigh_also(with_breaks_kept(style), -1);
+        weigh_also(with_breaks_kept(style, true), -1);
         std::size_t const learned_candidates = candidates.size();
         // A start as it stands is weighed in its own text (whose inferred options its earlier uses
         // may have kept) and written under the new name only when it wins.
@@ -745,7 +760,7 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
             if (form_cases_in(starts[i].addon, language).empty())
                 continue;
             weigh_also(starts[i].addon, static_cast<long>(i));
-            weigh_also(with_breaks_kept(inference_cache::shared().style_for(starts[i].addon, language)), -1);
+            weigh_also(with_breaks_kept(inference_cache::shared().style_for(starts[i].addon, language), false), -1);
             stopped = stopped || (going_on && !going_on(static_cast<unsigned long>(formatting_budget), whole));
         }
         if (stopped)
