@@ -19,6 +19,7 @@
 #include <clang/Format/Format.h>
 
 #include <algorithm>
+#include <cctype>
 #include <atomic>
 #include <chrono>
 #include <future>
@@ -433,6 +434,61 @@ std::string loop_macro_parentheses_read_from(std::vector<std::string> const& pie
                : std::string();
 }
 
+// The most blank lines in a row that the code keeps in at least three places (outside block
+// comments), up to four: keeping fewer joins them.
+std::string blank_lines_read_from(std::vector<std::string> const& pieces) {
+    std::map<long, long> runs;
+    for (std::string const& piece : pieces) {
+        bool in_comment = false;
+        long blanks = 0;
+        bool code_before = false;
+        for (std::string const& line : lines_of(piece)) {
+            std::string const text = trimmed(line);
+            if (text.empty() && !in_comment) {
+                ++blanks;
+                continue;
+            }
+            if (code_before && blanks > 0)
+                ++runs[std::min(blanks, 4L)];
+            blanks = 0;
+            code_before = true;
+            std::size_t const opened = text.rfind("/*");
+            if (opened != std::string::npos && text.find("*/", opened) == std::string::npos)
+                in_comment = true;
+            else if (in_comment && text.find("*/") != std::string::npos)
+                in_comment = false;
+        }
+    }
+    long most = 0;
+    for (auto const& [blanks, times] : runs)
+        if (times >= 3)
+            most = blanks;
+    return most > 0 ? "{MaxEmptyLinesToKeep: " + std::to_string(most) + "}" : std::string();
+}
+
+// Whether a label (`out:`) inside a nested block stands at the start of its line or further in,
+// where one way clearly outnumbers the other (in a function's own block both ways put it first).
+std::string goto_labels_read_from(std::vector<std::string> const& pieces) {
+    std::map<long, long> indented;
+    for (std::string const& piece : pieces) {
+        int depth = 0;
+        for (std::string const& line : lines_of(piece)) {
+            std::string const text = trimmed(line);
+            bool label = text.size() > 1 && text.back() == ':' && depth > 1 && !comment_or_directive(text) &&
+                         (std::isalpha(static_cast<unsigned char>(text[0])) || text[0] == '_');
+            for (std::size_t i = 0; label && i + 1 < text.size(); ++i)
+                label = std::isalnum(static_cast<unsigned char>(text[i])) || text[i] == '_';
+            if (label && text != "default:" && text != "public:" && text != "private:" && text != "protected:")
+                ++indented[line[0] == ' ' || line[0] == '\t'];
+            if (!comment_or_directive(text))
+                depth += static_cast<int>(std::count(text.begin(), text.end(), '{')) -
+                         static_cast<int>(std::count(text.begin(), text.end(), '}'));
+        }
+    }
+    long const way = clear_majority_of(indented, 3);
+    return way < 0 ? std::string() : way ? "{IndentGotoLabels: true}" : "{IndentGotoLabels: false}";
+}
+
 // Whether the `case` labels of a switch stand further in than the switch, where one way clearly
 // outnumbers the other.
 std::string case_labels_read_from(std::vector<std::string> const& pieces, int tab_width) {
@@ -673,6 +729,7 @@ std::vector<std::string> rules_read_from_every_source(std::vector<std::string> c
          {continuation_indent_read_from(sources, tab_columns), case_labels_read_from(sources, tab_columns),
           trailing_comment_blanks_read_from(sources), escaped_newlines_read_from(sources),
           braced_lists_read_from(sources), loop_macro_parentheses_read_from(sources),
+          blank_lines_read_from(sources), goto_labels_read_from(sources),
           tab_width ? continuation_tabs_read_from(sources, tab_columns) : std::string()})
         if (!reading.empty())
             rules.push_back(reading);

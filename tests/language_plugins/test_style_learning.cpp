@@ -383,7 +383,8 @@ private slots:
 
     // Rules read from every source, each only where the code clearly shows it (three files alike
     // here): a macro's backslashes one blank after its code, not lined up; braced lists with blanks
-    // inside, not without; loop macros close to their parentheses where keywords are not;
+    // inside, not without; loop macros close to their parentheses where keywords are not; the most
+    // blank lines in a row kept; labels of nested blocks first on their line;
     // continued lines with tabs beyond their statement's or blanks after them, and nothing of tabs
     // in code indented with blanks.
     void reads_rules_from_every_source_data() {
@@ -412,6 +413,13 @@ private slots:
             << loops << 8 << "SpaceBeforeParens" << "{SpaceBeforeParens: ControlStatementsExceptControlMacros}";
         QTest::newRow("loop macros a blank away as keywords are: the search weighs them")
             << QString(loops).replace("for_each_item(", "for_each_item (") << 8 << "SpaceBeforeParens" << "";
+        QTest::newRow("two blank lines in a row in three places")
+            << "int a;\n\n\nint b;\n\nint c;\n" << 8 << "MaxEmptyLinesToKeep" << "{MaxEmptyLinesToKeep: 2}";
+        QTest::newRow("labels of nested blocks first on their line")
+            << "int f(void)\n{\n\twhile (g()) {\n\t\tif (h())\n\t\t\tgoto out;\nout:\n\t\ti();\n\t}\n\treturn 0;\n}\n" << 8
+            << "IndentGotoLabels" << "{IndentGotoLabels: false}";
+        QTest::newRow("labels of a function's own block: either way puts them first")
+            << "int f(void)\n{\n\tif (g())\n\t\tgoto out;\n\ti();\nout:\n\treturn 0;\n}\n" << 8 << "IndentGotoLabels" << "";
         QTest::newRow("continued lines with tabs beyond their statement's")
             << "int f(void)\n{\n\tresult = check_state(dev, flags,\n\t\t\t     other);\n\treturn result;\n}\n" << 8
             << "UseTab" << "{UseTab: ForContinuationAndIndentation}";
