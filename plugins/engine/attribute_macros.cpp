@@ -68,13 +68,26 @@ opening_run opening_run_of(std::string const& text) {
     return run;
 }
 
+// `UNUSED`, `MAYBE_UNUSED2`: capitals, digits and underscores, at least two capitals.
+bool in_capitals(std::string const& word) {
+    int capitals = 0;
+    for (char c : word) {
+        if (std::islower(static_cast<unsigned char>(c)))
+            return false;
+        capitals += std::isupper(static_cast<unsigned char>(c)) ? 1 : 0;
+    }
+    return capitals >= 2;
+}
+
 bool could_be_attribute(std::string const& word) {
     return is_name(word) && !is_keyword(word) && !is_type_of_the_language(word);
 }
 
 // The attributes among a declaration's specifiers: every other word before its name when the
 // specifiers hold a type of the language or a tagged type (whose tag is no attribute).
-std::vector<std::string> attributes_declared_in(opening_run const& run) {
+// `next` is the line after (empty at the end): a head that ends its line is a class's only when the
+// next line opens its body or its bases (`struct tag name` over `= init;` declares a variable).
+std::vector<std::string> attributes_declared_in(opening_run const& run, std::string const& next) {
     std::vector<std::string> found;
     std::vector<std::string> const& words = run.words;
     if (words.size() < 3 || opens_no_declaration(words[0]))
@@ -82,8 +95,9 @@ std::vector<std::string> attributes_declared_in(opening_run const& run) {
     bool const declaration_end = run.end == '(' || run.end == ';' || run.end == '=' || run.end == '[' ||
                                  run.end == ',' || run.end == ')' || run.end == '{';
     // `class EXPORT name {` or `class EXPORT name : base`.
+    bool const body_next = !next.empty() && (next[0] == '{' || next[0] == ':');
     bool const type_head = (words[0] == "class" || words[0] == "struct" || words[0] == "union") && !run.marks &&
-                           (run.end == '{' || run.end == ':' || run.end == 0);
+                           (run.end == '{' || run.end == ':' || (run.end == 0 && (next.empty() || body_next)));
     if (type_head) {
         for (std::size_t i = 1; i + 1 < words.size(); ++i)
             if (could_be_attribute(words[i]))
@@ -104,11 +118,16 @@ std::vector<std::string> attributes_declared_in(opening_run const& run) {
     }
     if (!typed)
         return found;
-    // An attribute may follow a variable's name too (`int name __read_mostly;`): a last word with
-    // two underscores first after one that can be a name.
+    // An attribute may follow a variable's or a parameter's name too (`int name __read_mostly;`,
+    // `void *data UNUSED)`): a last word written as macros are (two underscores first, or in
+    // capitals) after one that can be a name. Read as the name, it would make the parameter's
+    // name an attribute.
     std::size_t name = words.size() - 1;
     bool const variable = run.end == ';' || run.end == '=' || run.end == '[';
-    if (variable && words[name].compare(0, 2, "__") == 0 && could_be_attribute(words[name]) &&
+    bool const parameter = run.end == ',' || run.end == ')';
+    bool const macro_written = words[name].compare(0, 2, "__") == 0 ||
+                               ((variable || parameter) && in_capitals(words[name]));
+    if ((variable || parameter) && macro_written && could_be_attribute(words[name]) &&
         could_be_attribute(words[name - 1]) && !tag[name - 1] && words.size() >= 3) {
         found.push_back(words[name]);
         --name;
@@ -168,7 +187,7 @@ std::vector<std::string> attribute_macros_used_in(std::vector<std::string> const
         }
         for (std::size_t i = 0; i < code.size(); ++i) {
             opening_run const run = opening_run_of(code[i]);
-            for (std::string const& name : attributes_declared_in(run))
+            for (std::string const& name : attributes_declared_in(run, i + 1 < code.size() ? code[i + 1] : ""))
                 ++uses[name];
             if (i + 1 < code.size())
                 for (std::string const& name : attributes_over(run, opening_run_of(code[i + 1])))

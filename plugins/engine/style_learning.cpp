@@ -19,11 +19,13 @@
 #include <clang/Format/Format.h>
 
 #include <algorithm>
+#include <cctype>
 #include <atomic>
 #include <chrono>
 #include <future>
 #include <map>
 #include <regex>
+#include <set>
 #include <thread>
 
 namespace tarnel_engine {
@@ -284,6 +286,209 @@ std::string continuation_indent_read_from(std::vector<std::string> const& pieces
     return step > 0 ? "{ContinuationIndentWidth: " + std::to_string(step) + "}" : std::string();
 }
 
+// In code indented with tabs, whether a line continuing an open parenthesis takes tabs beyond its
+// statement's own (`\t\t\t       int flags)` under `\tint f(...,`) or blanks after them, where one
+// way clearly outnumbers the other; only lines at least a tab further in than their statement say.
+std::string continuation_tabs_read_from(std::vector<std::string> const& pieces, int tab_width) {
+    std::map<long, long> tabbed;
+    for (std::string const& piece : pieces) {
+        std::vector<std::string> const lines = lines_of(piece);
+        for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
+            std::string const text = trimmed(lines[i]);
+            if (text.empty() || comment_or_directive(text) || ends_with(text, "\\") ||
+                text.find('"') != std::string::npos ||
+                std::count(text.begin(), text.end(), '(') <= std::count(text.begin(), text.end(), ')'))
+                continue;
+            std::size_t const tabs = lines[i].find_first_not_of('\t');
+            std::size_t const next_tabs = lines[i + 1].find_first_not_of('\t');
+            if (tabs == std::string::npos || next_tabs == std::string::npos || lines[i][tabs] != text[0] ||
+                trimmed(lines[i + 1]).empty() || comment_or_directive(trimmed(lines[i + 1])))
+                continue;
+            std::size_t const further = indentation_of(lines[i + 1], tab_width);
+            if (further < indentation_of(lines[i], tab_width) + static_cast<std::size_t>(tab_width))
+                continue;
+            if (next_tabs > tabs)
+                ++tabbed[1];
+            else if (next_tabs == tabs)
+                ++tabbed[0];
+        }
+    }
+    long const way = clear_majority_of(tabbed, 3);
+    return way < 0 ? std::string() : way ? "{UseTab: ForContinuationAndIndentation}" : "{UseTab: ForIndentation}";
+}
+
+// The columns the text before `end` takes, tabs counted 8 wide.
+std::size_t columns_before(std::string const& line, std::size_t end) {
+    std::size_t width = 0;
+    for (std::size_t i = 0; i < end; ++i)
+        width += line[i] == '\t' ? 8 - width % 8 : 1;
+    return width;
+}
+
+// Whether the backslashes that continue a macro's lines stand one blank after each line's code or
+// line up in one column, where one way clearly outnumbers the other: a run of continued lines of
+// different lengths counts once (runs lined up neither way say nothing). Only the first way is a
+// rule of its own (lined up, the search chooses which column).
+std::string escaped_newlines_read_from(std::vector<std::string> const& pieces) {
+    std::map<long, long> aligned;
+    for (std::string const& piece : pieces) {
+        std::set<std::size_t> columns;
+        std::set<std::size_t> lengths;
+        bool one_blank = true;
+        auto const run_ends = [&] {
+            if (lengths.size() >= 2 && (one_blank || columns.size() == 1))
+                ++aligned[one_blank ? 0 : 1];
+            columns.clear();
+            lengths.clear();
+            one_blank = true;
+        };
+        for (std::string const& line : lines_of(piece)) {
+            bool const continued = line.size() >= 2 && line.back() == '\\';
+            std::size_t const code_end = continued ? line.find_last_not_of(" \t", line.size() - 2) : std::string::npos;
+            if (code_end == std::string::npos) {
+                run_ends();
+                continue;
+            }
+            columns.insert(columns_before(line, line.size() - 1));
+            lengths.insert(code_end + 1);
+            one_blank = one_blank && line.size() - code_end == 3 && line[code_end + 1] == ' ';
+        }
+        run_ends();
+    }
+    return clear_majority_of(aligned, 3) == 0 ? "{AlignEscapedNewlines: DontAlign}" : std::string();
+}
+
+// Braced lists with a blank inside their braces (`{ 1, 2 }`, `{ "name",` opening a line): laid out
+// as blocks, where files that mostly write them so clearly outnumber files that mostly write them
+// without (`{1, 2}`; a table of numbers in one file says little of a project). The other way is
+// no rule of its own: the engine then lays lists out as a call's arguments, which also decides
+// how lists of many lines are indented, and the search weighs that. Strings, comments, blocks of
+// statements, enums and empty braces say nothing.
+std::string braced_lists_read_from(std::vector<std::string> const& pieces) {
+    std::map<long, long> files;
+    for (std::string const& piece : pieces) {
+        long spaced = 0;
+        long tight = 0;
+        for (std::string const& line : lines_of(piece)) {
+            std::string const text = trimmed(line);
+            if (text.empty() || comment_or_directive(text) || text.find('{') == std::string::npos ||
+                text.find("enum") != std::string::npos)
+                continue;
+            // The code with the insides of its strings and characters left out, up to a comment.
+            std::string code;
+            for (std::size_t i = 0; i < text.size(); ++i) {
+                char const c = text[i];
+                if (c == '/' && i + 1 < text.size() && (text[i + 1] == '/' || text[i + 1] == '*'))
+                    break;
+                code += c;
+                if (c != '"' && c != '\'')
+                    continue;
+                for (++i; i < text.size() && text[i] != c; ++i)
+                    i += text[i] == '\\' ? 1 : 0;
+                code += c;
+            }
+            code = trimmed(code);
+            for (std::size_t open = code.find('{'); open != std::string::npos; open = code.find('{', open + 1)) {
+                std::size_t const end = code.find_first_of("{};", open + 1);
+                bool const closed = end != std::string::npos && code[end] == '}';
+                // A list on the line (`{ 1, 2 }`), or one that opens the line and goes on (`{ "name",`).
+                if (closed && end > open + 1) {
+                    bool const blank_in = code[open + 1] == ' ' && code[end - 1] == ' ';
+                    bool const none_in = code[open + 1] != ' ' && code[end - 1] != ' ';
+                    spaced += blank_in && end > open + 2;
+                    tight += none_in;
+                } else if (open == 0 && end == std::string::npos && code.size() > 2) {
+                    (code[1] == ' ' ? spaced : tight) += 1;
+                }
+            }
+        }
+        if (spaced > 2 * tight)
+            ++files[1];
+        else if (tight > 2 * spaced)
+            ++files[0];
+    }
+    return clear_majority_of(files, 3) == 1 ? "{Cpp11BracedListStyle: false}" : std::string();
+}
+
+// Whether the names of the macros used as loops stand close to their parentheses
+// (`for_each_item(item, list) {`) where `if`, `for` and `while` stand a blank away, each way
+// clearly outnumbering the other.
+std::string loop_macro_parentheses_read_from(std::vector<std::string> const& pieces) {
+    std::vector<std::string> const macros = loop_macros().used_in(pieces);
+    if (macros.empty())
+        return std::string();
+    std::map<long, long> keyword_blank;
+    std::map<long, long> macro_blank;
+    for (std::string const& piece : pieces)
+        for (std::string const& line : lines_of(piece)) {
+            std::string const text = trimmed(line);
+            for (char const* keyword : {"if", "for", "while"})
+                if (starts_with(text, std::string(keyword) + " (") || starts_with(text, std::string(keyword) + "("))
+                    ++keyword_blank[text[std::string(keyword).size()] == ' '];
+            for (std::string const& macro : macros)
+                if (starts_with(text, macro + " (") || starts_with(text, macro + "("))
+                    ++macro_blank[text[macro.size()] == ' '];
+        }
+    return clear_majority_of(keyword_blank, 3) == 1 && clear_majority_of(macro_blank, 3) == 0
+               ? "{SpaceBeforeParens: ControlStatementsExceptControlMacros}"
+               : std::string();
+}
+
+// The most blank lines in a row that the code keeps in at least three places (outside block
+// comments), up to four: keeping fewer joins them.
+std::string blank_lines_read_from(std::vector<std::string> const& pieces) {
+    std::map<long, long> runs;
+    for (std::string const& piece : pieces) {
+        bool in_comment = false;
+        long blanks = 0;
+        bool code_before = false;
+        for (std::string const& line : lines_of(piece)) {
+            std::string const text = trimmed(line);
+            if (text.empty() && !in_comment) {
+                ++blanks;
+                continue;
+            }
+            if (code_before && blanks > 0)
+                ++runs[std::min(blanks, 4L)];
+            blanks = 0;
+            code_before = true;
+            std::size_t const opened = text.rfind("/*");
+            if (opened != std::string::npos && text.find("*/", opened) == std::string::npos)
+                in_comment = true;
+            else if (in_comment && text.find("*/") != std::string::npos)
+                in_comment = false;
+        }
+    }
+    long most = 0;
+    for (auto const& [blanks, times] : runs)
+        if (times >= 3)
+            most = blanks;
+    return most > 0 ? "{MaxEmptyLinesToKeep: " + std::to_string(most) + "}" : std::string();
+}
+
+// Whether a label (`out:`) inside a nested block stands at the start of its line or further in,
+// where one way clearly outnumbers the other (in a function's own block both ways put it first).
+std::string goto_labels_read_from(std::vector<std::string> const& pieces) {
+    std::map<long, long> indented;
+    for (std::string const& piece : pieces) {
+        int depth = 0;
+        for (std::string const& line : lines_of(piece)) {
+            std::string const text = trimmed(line);
+            bool label = text.size() > 1 && text.back() == ':' && depth > 1 && !comment_or_directive(text) &&
+                         (std::isalpha(static_cast<unsigned char>(text[0])) || text[0] == '_');
+            for (std::size_t i = 0; label && i + 1 < text.size(); ++i)
+                label = std::isalnum(static_cast<unsigned char>(text[i])) || text[i] == '_';
+            if (label && text != "default:" && text != "public:" && text != "private:" && text != "protected:")
+                ++indented[line[0] == ' ' || line[0] == '\t'];
+            if (!comment_or_directive(text))
+                depth += static_cast<int>(std::count(text.begin(), text.end(), '{')) -
+                         static_cast<int>(std::count(text.begin(), text.end(), '}'));
+        }
+    }
+    long const way = clear_majority_of(indented, 3);
+    return way < 0 ? std::string() : way ? "{IndentGotoLabels: true}" : "{IndentGotoLabels: false}";
+}
+
 // Whether the `case` labels of a switch stand further in than the switch, where one way clearly
 // outnumbers the other.
 std::string case_labels_read_from(std::vector<std::string> const& pieces, int tab_width) {
@@ -363,13 +568,7 @@ form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<
          {limit, tab_width, pointers_read_from(pieces), namespace_indentation_read_from(pieces)})
         if (!reading.empty())
             readings.layout.push_back(reading);
-    // Read from every source, as a sample may hold few switches or breaks, and where the code
-    // clearly shows one way, held by every style the search moves to: the sample alone would let
-    // the search trade them for a line of its own pieces.
-    int const tab_columns = columns.tab_width ? columns.tab_width : 8;
-    for (std::string const& reading :
-         {continuation_indent_read_from(sources, tab_columns), case_labels_read_from(sources, tab_columns),
-          trailing_comment_blanks_read_from(sources)})
+    for (std::string const& reading : rules_read_from_every_source(sources, columns.tab_width))
         if (!reading.empty()) {
             readings.layout.push_back(reading);
             readings.certain.push_back(reading);
@@ -409,13 +608,33 @@ unsigned long lines_changed_then_white_space(std::string const& wanted, std::str
     return changed * 1000 + std::min(white_space_distance(wanted, made), 999UL);
 }
 
-// Trailing comments left where the author put them (the engine's "leave" alignment) are no rule a
-// form can show: a form written under it keeps the catalogue's own single blank before its
-// comments, and the addon then says one blank whatever was read from the code. Such a style
-// takes, of lining runs of trailing comments up and not, the one under which the sample changes
-// least (lined up, of equals), with the blanks it holds.
+// Trailing comments left where the author put them (the engine's "leave" alignment) keep most of a
+// project's lines, and a catalogue with a form of trailing comments standing apart carries that
+// rule: a style that lines them up or not takes it where the sample changes no more under it (a
+// sample holds few trailing comments, and the search moves only on a gain). Where the forms do
+// not carry it (an addon written under it reads back otherwise), a form
+// written under it keeps the catalogue's own single blank before its comments, and the addon then
+// says one blank whatever was read from the code: such a style takes, of lining runs of trailing
+// comments up and not, the one under which the sample changes least (lined up, of equals), with
+// the blanks it holds.
 clang::format::FormatStyle with_trailing_comments_shown(clang::format::FormatStyle style,
-                                                        std::vector<form_case> const& forms) {
+                                                        std::vector<form_case> const& forms,
+                                                        language_description const& language) {
+    auto const total_of = [&](clang::format::FormatStyle const& tried) {
+        unsigned long total = 0;
+        for (unsigned long distance : distances_of(forms, tried, lines_changed_then_white_space))
+            total += distance;
+        return total;
+    };
+    clang::format::FormatStyle left = style;
+    left.AlignTrailingComments.Kind = clang::format::FormatStyle::TCAS_Leave;
+    if (style.AlignTrailingComments.Kind != clang::format::FormatStyle::TCAS_Leave &&
+        total_of(left) > total_of(style))
+        return style;
+    std::string const addon = addon_written_in(clang::format::configurationAsText(left), "Trailing comments", language);
+    if (!addon.empty() && inference_cache::shared().style_for(addon, language).AlignTrailingComments.Kind ==
+                              clang::format::FormatStyle::TCAS_Leave)
+        return left;
     if (style.AlignTrailingComments.Kind != clang::format::FormatStyle::TCAS_Leave)
         return style;
     clang::format::FormatStyle best = style;
@@ -423,9 +642,7 @@ clang::format::FormatStyle with_trailing_comments_shown(clang::format::FormatSty
     for (auto const kind : {clang::format::FormatStyle::TCAS_Always, clang::format::FormatStyle::TCAS_Never}) {
         clang::format::FormatStyle shown = style;
         shown.AlignTrailingComments.Kind = kind;
-        unsigned long total = 0;
-        for (unsigned long distance : distances_of(forms, shown, lines_changed_then_white_space))
-            total += distance;
+        unsigned long const total = total_of(shown);
         if (kind == clang::format::FormatStyle::TCAS_Always || total < best_total) {
             best = shown;
             best_total = total;
@@ -502,6 +719,23 @@ std::vector<std::size_t> every_kth_of(std::vector<std::size_t> const& sources, s
 
 }  // namespace
 
+// Read from every source, as a sample may hold few switches, breaks or macros, and where the code
+// clearly shows one way, held by every style the search moves to: the sample alone would let the
+// search trade them for a line of its own pieces.
+std::vector<std::string> rules_read_from_every_source(std::vector<std::string> const& sources, int tab_width) {
+    int const tab_columns = tab_width ? tab_width : 8;
+    std::vector<std::string> rules;
+    for (std::string const& reading :
+         {continuation_indent_read_from(sources, tab_columns), case_labels_read_from(sources, tab_columns),
+          trailing_comment_blanks_read_from(sources), escaped_newlines_read_from(sources),
+          braced_lists_read_from(sources), loop_macro_parentheses_read_from(sources),
+          blank_lines_read_from(sources), goto_labels_read_from(sources),
+          tab_width ? continuation_tabs_read_from(sources, tab_columns) : std::string()})
+        if (!reading.empty())
+            rules.push_back(reading);
+    return rules;
+}
+
 learned_style learn_style_of::from(std::vector<std::string> const& sources, std::string const& style_name,
                                    going_on_check const& going_on) const {
     return from(sources, {}, style_name, going_on).learned;
@@ -540,7 +774,7 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
         clang::format::FormatStyle const style = with_trailing_comments_shown(
             infer_options(language.lexing, formatting_budget, searching, lines_changed_then_white_space)
                 .from(forms, readings_of_code(forms, pieces, texts)),
-            forms);
+            forms, language);
         if (stopped)
             return nothing;
 
@@ -559,10 +793,14 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
                                                [&](candidate const& other) { return other.addon == addon; }))
                 candidates.push_back({addon, start});
         };
-        auto const with_breaks_kept = [&](clang::format::FormatStyle options) {
+        // The rules learned with the author's breaks kept settle their trailing comments anew: under
+        // a limit, comments left where they stand can push code over it, which no longer holds.
+        auto const with_breaks_kept = [&](clang::format::FormatStyle options, bool learned) {
             if (options.ColumnLimit == 0)
                 return std::string();
             options.ColumnLimit = 0;
+            if (learned)
+                options = with_trailing_comments_shown(options, forms, language);
             return with_fixed_points(addon_written_in(clang::format::configurationAsText(options), style_name, language),
                                      style_name, language);
         };
@@ -571,7 +809,7 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
                    -1);
         if (candidates.empty())
             return nothing;
-        weigh_also(with_breaks_kept(style), -1);
+        weigh_also(with_breaks_kept(style, true), -1);
         std::size_t const learned_candidates = candidates.size();
         // A start as it stands is weighed in its own text (whose inferred options its earlier uses
         // may have kept) and written under the new name only when it wins.
@@ -579,7 +817,7 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
             if (form_cases_in(starts[i].addon, language).empty())
                 continue;
             weigh_also(starts[i].addon, static_cast<long>(i));
-            weigh_also(with_breaks_kept(inference_cache::shared().style_for(starts[i].addon, language)), -1);
+            weigh_also(with_breaks_kept(inference_cache::shared().style_for(starts[i].addon, language), false), -1);
             stopped = stopped || (going_on && !going_on(static_cast<unsigned long>(formatting_budget), whole));
         }
         if (stopped)

@@ -40,6 +40,16 @@ private:
     language_description const& language;
 };
 
+// The rules the code shows clearly enough for the learning to hold them whatever its sample shows,
+// in the engine's configuration syntax ("{IndentCaseLabels: false}"), read from all the sources:
+// the step of a continued line, case labels, blanks before trailing comments, backslashes that
+// continue a macro one blank after its code, blanks inside braced lists, loop macros close to their
+// parentheses where keywords are not, the most blank lines in a row kept, labels of nested blocks
+// first on their line or not, and, in code indented
+// with tabs `tab_width` wide (0: blanks), whether continued lines take tabs beyond their
+// statement's.
+std::vector<std::string> rules_read_from_every_source(std::vector<std::string> const& sources, int tab_width);
+
 // How many lines of `before` stand unchanged in `after`, a revision of it, as the host counts them.
 using style_tarnel::lines_left_between;
 
