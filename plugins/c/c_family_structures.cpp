@@ -98,6 +98,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "A short call its author wrote over two lines: kept so where the style has no column limit and keeps the "
          "author's breaks, joined otherwise.",
          {"ColumnLimit", "AlignAfterOpenBracket", "ContinuationIndentWidth", "SpaceBeforeParens"}},
+        {"kept line break in a function", "type name(void) {\n  name_long_part(SOME,\n                 SOME);\n}",
+         "A call inside a function its author wrote over two lines: kept so where the style has no column limit, and "
+         "then how its second line lines up and whether tabs fill the way there.",
+         {"ColumnLimit", "UseTab", "AlignAfterOpenBracket", "ContinuationIndentWidth", "BraceWrapping.AfterFunction"}},
         {"label in a block", "type name(void) {\n  if (SOME) {\n    SOME;\n    goto label;\n  label:\n    SOME;\n  }\n}",
          "How far a label inside a nested block is indented: one step out from the block's statements, or at the "
          "start of the line.",

@@ -277,16 +277,38 @@ struct continuation {
     bool with_tab = false;
 };
 
+// How many tabs the indentation of a line holds.
+long tabs_in_indent_of(std::string const& line) {
+    std::size_t const text = line.find_first_not_of(" \t");
+    return std::count(line.begin(), line.begin() + static_cast<long>(std::min(text, line.size())), '\t');
+}
+
+// A call its author continued on a second line inside a function, kept so (no column limit): a
+// tab in the second line's indentation beyond those of the call's own line fills the way to where
+// the arguments line up, which only tabs used for continuation do.
+bool kept_continuation_with_tab(forms_by_name const& forms) {
+    std::string const* code = forms.find("kept line break in a function");
+    if (!code)
+        return false;
+    std::vector<std::string> const lines = lines_of(*code);
+    for (std::size_t i = 0; i + 1 < lines.size(); ++i)
+        if (starts_with(trimmed(lines[i]), "name_long_part("))
+            return column_after_open_parenthesis(lines[i], 8) >= 0 &&
+                   tabs_in_indent_of(lines[i + 1]) > tabs_in_indent_of(lines[i]);
+    return false;
+}
+
 continuation continuation_read_from(forms_by_name const& forms, int tab_width) {
     std::string const* code = forms.find("long function call");
     std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
     continuation read;
+    read.with_tab = kept_continuation_with_tab(forms);
     if (lines.size() < 2 || width_of_indent(lines[0], tab_width) > 0)
         return read;
     int const width = width_of_indent(lines[1], tab_width);
     if (width > 0 && width <= 8 && width != column_after_open_parenthesis(lines[0], tab_width)) {
         read.width = width;
-        read.with_tab = indented_with_tab(lines[1]);
+        read.with_tab = read.with_tab || indented_with_tab(lines[1]);
     }
     return read;
 }

@@ -252,6 +252,16 @@ private slots:
         QTest::newRow("arguments one a line, limit 120")
             << "C++" << "{BasedOnStyle: Google, BinPackArguments: false, ColumnLimit: 120}"
             << QStringList{"BinPackArguments: false"};
+        // Without a column limit no long call breaks: a call its author continued inside a function
+        // shows the tabs that fill the way to its parenthesis (read as tabs for indentation alone).
+        QTest::newRow("tabs for continuation, indent 8, arguments aligned, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: ForContinuationAndIndentation, "
+                      "AlignAfterOpenBracket: Align, ColumnLimit: 0}"
+            << QStringList{"UseTab: ForContinuationAndIndentation", "ColumnLimit: 0"};
+        QTest::newRow("tabs for continuation, GNU, indent 2, no column limit")
+            << "C" << "{BasedOnStyle: GNU, IndentWidth: 2, TabWidth: 8, UseTab: ForContinuationAndIndentation, "
+                      "AlignAfterOpenBracket: Align, ColumnLimit: 0}"
+            << QStringList{"UseTab: ForContinuationAndIndentation", "IndentWidth: 2"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
