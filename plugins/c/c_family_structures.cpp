@@ -157,6 +157,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"macro definitions", "#define name SOME\n#define name_long_part SOME\n#define name_part(argument) (argument)",
          "Whether the bodies of macros defined on neighbouring lines line up.",
          {"AlignConsecutiveMacros"}},
+        {"mixed pointers", "type* name;\ntype* name_part;\ntype *name_long_part;",
+         "Declarations whose `*` lean two ways, most of them on the type: all of them lean as most do where the style "
+         "derives the leaning from the file, as the style says otherwise.",
+         {"DerivePointerAlignment", "PointerAlignment", "AlignConsecutiveDeclarations"}},
         {"nested blocks",
          "if (SOME) {\n  while (SOME) {\n    if (SOME) {\n      while (SOME) {\n        SOME;\n        SOME;\n      }\n    }\n  }\n}",
          "Blocks four deep: how each level is indented, and where tabs take over from blanks.",

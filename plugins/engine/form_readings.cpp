@@ -472,10 +472,14 @@ std::string leaning_of(std::string const* code, char mark) {
     return before && after ? "Middle" : before ? "Right" : after ? "Left" : std::string();
 }
 
+// Declarations leaning two ways, written so, that all lean as most of them do while a lone pointer
+// leans the other way: the style derives the leaning from the code it formats.
 std::string pointers_read_from(forms_by_name const& forms) {
     std::string const pointer = leaning_of(forms.find("pointer"), '*');
     std::string const reference = leaning_of(forms.find("reference"), '&');
-    std::string reading = "DerivePointerAlignment: false";
+    std::string const mixed = leaning_of(forms.find("mixed pointers"), '*');
+    bool const derived = !pointer.empty() && !mixed.empty() && mixed != pointer;
+    std::string reading = std::string("DerivePointerAlignment: ") + flag(derived);
     if (!pointer.empty())
         reading += ", PointerAlignment: " + pointer;
     if (!reference.empty())
@@ -668,6 +672,11 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     std::string const* call = named.find("long function call");
     if (!kept_breaks && call && call->find('\n') != std::string::npos)
         readings.ruled_out.push_back("{ColumnLimit: 0}");
+    if (named.find("pointer") && named.find("mixed pointers"))
+        readings.telling.push_back(std::string("{DerivePointerAlignment: ") +
+                                   (pointers_read_from(named).find("DerivePointerAlignment: true") != std::string::npos
+                                        ? "true}"
+                                        : "false}"));
     readings.braces = braces_read_from(named);
     std::string const blank_lines = blank_lines_read_from(named);
     if (!blank_lines.empty())

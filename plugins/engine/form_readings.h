@@ -30,6 +30,10 @@ struct form_readings {
     // is told), and how many blank lines are kept (the engine keeps blank lines and never adds
     // one). Every style the search tries, and the one it ends on, holds them.
     std::vector<std::string> passed;
+    // What the forms show that some predefined style's forms do not tell apart from another value
+    // (a leaning derived from the code, where the forms all lean one way): a predefined style is
+    // taken as it stands only where it holds these.
+    std::vector<std::string> telling;
 };
 
 form_readings readings_of(std::vector<form_case> const& forms);

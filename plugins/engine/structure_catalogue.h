@@ -12,7 +12,8 @@ namespace tarnel_engine {
 struct structure {
     // Lower-case words separated by single blanks, as addons and manuals name it.
     std::string name;
-    // The token sequence, written out as code (its own white space does not matter).
+    // The token sequence, written out as code (its own white space does not matter, but where a
+    // style derives a layout from the code it formats: where the `*` of "mixed pointers" lean).
     std::string tokens;
     // One sentence for the manual: what the structure shows a reader of the style.
     std::string purpose;

@@ -262,6 +262,17 @@ private slots:
             << "C" << "{BasedOnStyle: GNU, IndentWidth: 2, TabWidth: 8, UseTab: ForContinuationAndIndentation, "
                       "AlignAfterOpenBracket: Align, ColumnLimit: 0}"
             << QStringList{"UseTab: ForContinuationAndIndentation", "IndentWidth: 2"};
+        // A lone pointer keeps its leaning where the style derives it, declarations leaning two ways
+        // take their majority's: the forms lean two ways (read as the lone pointer's leaning, not derived).
+        QTest::newRow("* leaning derived from the code, on the type otherwise")
+            << "C++" << "{BasedOnStyle: LLVM, DerivePointerAlignment: true, PointerAlignment: Left}"
+            << QStringList{"DerivePointerAlignment: true"};
+        QTest::newRow("* leaning derived from the code, C")
+            << "C" << "{BasedOnStyle: Mozilla, DerivePointerAlignment: true, PointerAlignment: Right}"
+            << QStringList{"DerivePointerAlignment: true"};
+        QTest::newRow("* on the type, not derived")
+            << "C++" << "{BasedOnStyle: Google, DerivePointerAlignment: false, PointerAlignment: Left}"
+            << QStringList{"DerivePointerAlignment: false", "PointerAlignment: Left"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
