@@ -98,6 +98,12 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "A short call its author wrote over two lines: kept so where the style has no column limit and keeps the "
          "author's breaks, joined otherwise.",
          {"ColumnLimit", "AlignAfterOpenBracket", "ContinuationIndentWidth", "SpaceBeforeParens"}},
+        {"kept line break in a condition", "if (SOME &&\n    SOME)\n{\n  SOME;\n}",
+         "A condition its author wrote over two lines, its brace on a line of its own: kept so where the style has no "
+         "column limit, and then whether the brace stays there, as it does where the style leaves it where the author "
+         "put it.",
+         {"BraceWrapping.AfterControlStatement", "ColumnLimit", "AlignOperands", "BreakBeforeBinaryOperators",
+          "ContinuationIndentWidth"}},
         {"kept line break in a function", "type name(void) {\n  name_long_part(SOME,\n                 SOME);\n}",
          "A call inside a function its author wrote over two lines: kept so where the style has no column limit, and "
          "then how its second line lines up and whether tabs fill the way there.",

@@ -536,14 +536,24 @@ std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
     return readings;
 }
 
+// A short call, or a short condition, its author wrote over two lines: joined under any column
+// limit, kept where there is none (some ways of breaking after a `(` join a call under no limit
+// too, none joins the condition).
+bool keeps_line_breaks(forms_by_name const& forms) {
+    std::string const* call = forms.find("kept line break");
+    if (call && call->find('\n') != std::string::npos)
+        return true;
+    int const head = forms.line_starting("kept line break in a condition", "if");
+    std::string const* condition = forms.find("kept line break in a condition");
+    return head >= 0 && lines_of(*condition)[static_cast<std::size_t>(head)].find(')') == std::string::npos;
+}
+
 // Backslashes lined up at the column limit show it exactly; otherwise, the narrowest limit of the
 // table that every line of every form fits in, or none when the longest line passes them all.
 std::string column_limit_read_from(std::vector<form_case> const& forms) {
     // A short call written over two lines is joined under any limit; kept, there is none.
-    forms_by_name const by_name(forms);
-    if (std::string const* kept = by_name.find("kept line break"))
-        if (kept->find('\n') != std::string::npos)
-            return "{ColumnLimit: 0}";
+    if (keeps_line_breaks(forms_by_name(forms)))
+        return "{ColumnLimit: 0}";
     int const tab_width = tab_width_read_from(forms);
     std::size_t longest = 0;
     std::set<int> backslash_columns;
@@ -594,7 +604,8 @@ int control_brace_read_from(forms_by_name const& forms) {
     int own_line = -1;
     for (char const* structure : {"if", "for", "while"})
         own_line = std::max(own_line, forms.brace_on_own_line(structure));
-    if (own_line == 0 && forms.brace_on_own_line("long condition") == 1)
+    if (own_line == 0 && (forms.brace_on_own_line("long condition") == 1 ||
+                          forms.brace_on_own_line("kept line break in a condition") == 1))
         return 2;
     return own_line;
 }
@@ -664,8 +675,7 @@ form_readings readings_of(std::vector<form_case> const& forms) {
         readings.certain.push_back(limit);
     // A short call kept over two lines shows no limit for certain (joined, it shows nothing: some
     // ways of breaking after a `(` join it under no limit too).
-    std::string const* kept = named.find("kept line break");
-    bool const kept_breaks = kept && kept->find('\n') != std::string::npos;
+    bool const kept_breaks = keeps_line_breaks(named);
     if (kept_breaks)
         readings.certain.push_back("{ColumnLimit: 0}");
     // Without a limit the engine keeps a call on the line it was written on, as in the catalogue.

@@ -273,6 +273,16 @@ private slots:
         QTest::newRow("* on the type, not derived")
             << "C++" << "{BasedOnStyle: Google, DerivePointerAlignment: false, PointerAlignment: Left}"
             << QStringList{"DerivePointerAlignment: false", "PointerAlignment: Left"};
+        // Without a column limit a condition's brace stays where its author put it under `MultiLine`:
+        // a condition written over two lines with its brace below tells it from `Never` (read as `Never`).
+        QTest::newRow("brace below conditions over several lines only, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeBraces: Custom, "
+                      "BraceWrapping: {AfterControlStatement: MultiLine}}"
+            << QStringList{" AfterControlStatement: MultiLine", "ColumnLimit: 0"};
+        QTest::newRow("brace below every condition, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeBraces: Custom, "
+                      "BraceWrapping: {AfterControlStatement: Always}}"
+            << QStringList{" AfterControlStatement: Always", "ColumnLimit: 0"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
