@@ -283,6 +283,18 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeBraces: Custom, "
                       "BraceWrapping: {AfterControlStatement: Always}}"
             << QStringList{" AfterControlStatement: Always", "ColumnLimit: 0"};
+        // Without a column limit a statement stays on the line its author wrote it on: the short
+        // condition and loop are written joined (written split, they were read as never joined).
+        QTest::newRow("short ifs on one line, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AllowShortIfStatementsOnASingleLine: WithoutElse}"
+            << QStringList{"AllowShortIfStatementsOnASingleLine: WithoutElse"};
+        QTest::newRow("short loops on one line, no column limit")
+            << "C++" << "{BasedOnStyle: Mozilla, ColumnLimit: 0, AllowShortLoopsOnASingleLine: true}"
+            << QStringList{"AllowShortLoopsOnASingleLine: true"};
+        QTest::newRow("short ifs and loops never on one line, no column limit")
+            << "C" << "{BasedOnStyle: Google, ColumnLimit: 0, AllowShortIfStatementsOnASingleLine: Never, "
+                      "AllowShortLoopsOnASingleLine: false}"
+            << QStringList{"AllowShortIfStatementsOnASingleLine: Never", "AllowShortLoopsOnASingleLine: false"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
