@@ -164,8 +164,8 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "Whether the bodies of macros defined on neighbouring lines line up.",
          {"AlignConsecutiveMacros"}},
         {"mixed pointers", "type* name;\ntype* name_part;\ntype *name_long_part;",
-         "Declarations whose `*` lean two ways, most of them on the type: all of them lean as most do where the style "
-         "derives the leaning from the file, as the style says otherwise.",
+         "Declarations whose `*` lean two ways, most of them on the type: all lean as most do where the style takes "
+         "the leaning from each file, all the style's own way otherwise.",
          {"DerivePointerAlignment", "PointerAlignment", "AlignConsecutiveDeclarations"}},
         {"nested blocks",
          "if (SOME) {\n  while (SOME) {\n    if (SOME) {\n      while (SOME) {\n        SOME;\n        SOME;\n      }\n    }\n  }\n}",
