@@ -373,6 +373,22 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
             best = restart;
     }
 
+    // Where several styles give every form back, the one that places braces as the forms show
+    // directly is the closer (without a column limit, braces left where their author put them
+    // give back braces placed by any rule): the brace placement read is applied, held while the
+    // style descends anew, and kept if every form still comes back.
+    if (best.total == 0 && !readings.braces.empty() && search.within_budget()) {
+        clang::format::FormatStyle kicked = best.style;
+        if (apply_candidate(kicked, readings.braces) && !same_options(kicked, best.style)) {
+            scored_style restart = search.scored(kicked);
+            std::vector<std::string> pinned = readings.certain;
+            pinned.push_back(readings.braces);
+            search.descend(restart, pinned);
+            if (restart.total == 0)
+                best = restart;
+        }
+    }
+
     // Values the forms rule out are likely, not certain (a hand-written addon may keep its breaks
     // under no column limit): a last descent may reach them.
     if (best.total > 0 && !readings.ruled_out.empty() && search.within_budget()) {

@@ -283,6 +283,15 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeBraces: Custom, "
                       "BraceWrapping: {AfterControlStatement: Always}}"
             << QStringList{" AfterControlStatement: Always", "ColumnLimit: 0"};
+        // Under no column limit `MultiLine` leaves every brace where its author put it, so it gives
+        // back the forms of `Always` too, and the `do` that short loops and blocks keep joined to its
+        // brace lets it reach them first: the brace placement read from the forms wins the tie
+        // (read as `MultiLine`, and every `if (…) {` of real code kept so).
+        QTest::newRow("brace below every condition, no column limit, short loops and empty blocks")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AllowShortBlocksOnASingleLine: Empty, "
+                      "AllowShortLoopsOnASingleLine: true, BreakBeforeBraces: Custom, "
+                      "BraceWrapping: {AfterControlStatement: Always}}"
+            << QStringList{" AfterControlStatement: Always"};
         // Without a column limit a statement stays on the line its author wrote it on: the short
         // condition and loop are written joined (written split, they were read as never joined).
         QTest::newRow("short ifs on one line, no column limit")
