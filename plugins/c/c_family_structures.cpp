@@ -122,7 +122,7 @@ tarnel_engine::structure_catalogue c_family_structures() {
           "AlignAfterOpenBracket", "ContinuationIndentWidth", "ColumnLimit", "BreakBeforeBinaryOperators",
           "AlignOperands"}},
         {"long call in a function",
-         "type name(void) {\n  name_part(SOME_LONG, SOME_LONG, SOME_LONG, SOME_LONG, SOME_LONG, SOME_LONG);\n}",
+         "type name(void) {\n  name_part(SOME_LONG, SOME_LONG, SOME_LONG,\n            SOME_LONG, SOME_LONG, SOME_LONG);\n}",
          "A call too long for one line inside a function's body: its arguments packed onto each line, or one a line "
          "(a call outside any function is read as a declaration, whose parameters other options pack).",
          {"BinPackArguments", "AllowAllArgumentsOnNextLine", "AlignAfterOpenBracket",

@@ -548,6 +548,23 @@ bool keeps_line_breaks(forms_by_name const& forms) {
     return head >= 0 && lines_of(*condition)[static_cast<std::size_t>(head)].find(')') == std::string::npos;
 }
 
+// Without a column limit a call its author wrote over two lines, its arguments packed, stays so
+// where arguments are packed; not packed, the engine joins them all, having no line to break
+// them at. Read where a short call inside a function keeps its break too, so that the way the
+// style breaks after a `(` joins no call.
+std::string packed_arguments_read_from(forms_by_name const& forms) {
+    if (!keeps_line_breaks(forms))
+        return std::string();
+    auto const broken = [&](std::string const& structure, std::string const& opening) {
+        int const line = forms.line_starting(structure, opening);
+        return line >= 0 && lines_of(*forms.find(structure))[static_cast<std::size_t>(line)].find(");") == std::string::npos;
+    };
+    if (!broken("kept line break in a function", "name_long_part(") ||
+        forms.line_starting("long call in a function", "name_part(") < 0)
+        return std::string();
+    return "{BinPackArguments: " + flag(broken("long call in a function", "name_part(")) + "}";
+}
+
 // Backslashes lined up at the column limit show it exactly; otherwise, the narrowest limit of the
 // table that every line of every form fits in, or none when the longest line passes them all.
 std::string column_limit_read_from(std::vector<form_case> const& forms) {
@@ -665,7 +682,7 @@ form_readings readings_of(std::vector<form_case> const& forms) {
          {indentation_read_from(forms), continuation_indent_read_from(forms), access_offset_read_from(named),
           return_type_read_from(named), case_labels_read_from(named), directives_read_from(named),
           namespace_indentation_read_from(named), parentheses_read_from(named), pointers_read_from(named),
-          column_limit_read_from(forms)})
+          column_limit_read_from(forms), packed_arguments_read_from(named)})
         if (!reading.empty())
             readings.layout.push_back(reading);
     for (std::string const& reading : short_lines_read_from(named))

@@ -292,6 +292,14 @@ private slots:
                       "AllowShortLoopsOnASingleLine: true, BreakBeforeBraces: Custom, "
                       "BraceWrapping: {AfterControlStatement: Always}}"
             << QStringList{" AfterControlStatement: Always"};
+        // Without a column limit a long call its author packed over two lines stays so only where
+        // arguments are packed (written on one line, it stayed so either way, and read as packed).
+        QTest::newRow("arguments one a line, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BinPackArguments: false}"
+            << QStringList{"BinPackArguments: false", "ColumnLimit: 0"};
+        QTest::newRow("arguments packed, not aligned, no column limit")
+            << "C++" << "{BasedOnStyle: Mozilla, ColumnLimit: 0, BinPackArguments: true, AlignAfterOpenBracket: DontAlign}"
+            << QStringList{"BinPackArguments: true", "AlignAfterOpenBracket: DontAlign"};
         // Without a column limit a statement stays on the line its author wrote it on: the short
         // condition and loop are written joined (written split, they were read as never joined).
         QTest::newRow("short ifs on one line, no column limit")
