@@ -214,6 +214,11 @@ tarnel_engine::structure_catalogue c_family_structures() {
          {"BraceWrapping.AfterStruct"}},
         {"union", "union name {\n  type name;\n  type name_part;\n};", "A union: where its brace goes.",
          {"BraceWrapping.AfterUnion"}},
+        {"very long assignment",
+         "name = SOME_LONG + SOME_LONG * SOME_LONG - SOME_LONG + SOME_LONG * SOME_LONG - SOME_LONG;",
+         "An expression too long for the widest column limit: before or after which operators it breaks, whether "
+         "its operands line up, and how far its later lines are indented.",
+         {"BreakBeforeBinaryOperators", "AlignOperands", "ContinuationIndentWidth", "ColumnLimit"}},
         {"while", "while (SOME) {\n  SOME;\n}", "A while loop: the blanks around its condition and where its braces go.",
          {"BraceWrapping.AfterControlStatement", "SpaceBeforeParens", "SpacesInParens"}},
     };

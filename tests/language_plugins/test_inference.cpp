@@ -300,6 +300,12 @@ private slots:
         QTest::newRow("arguments packed, not aligned, no column limit")
             << "C++" << "{BasedOnStyle: Mozilla, ColumnLimit: 0, BinPackArguments: true, AlignAfterOpenBracket: DontAlign}"
             << QStringList{"BinPackArguments: true", "AlignAfterOpenBracket: DontAlign"};
+        // Under a limit of 120 no other long form breaks: an expression longer than that shows where
+        // operators go, whether operands line up and the continuation indent (read as the base's).
+        QTest::newRow("operators first, operands not aligned, continuation 8, limit 120")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 120, BreakBeforeBinaryOperators: All, AlignOperands: DontAlign, "
+                      "ContinuationIndentWidth: 8}"
+            << QStringList{"AlignOperands: DontAlign", "ContinuationIndentWidth: 8", "!BreakBeforeBinaryOperators: None"};
         // Without a column limit a statement stays on the line its author wrote it on: the short
         // condition and loop are written joined (written split, they were read as never joined).
         QTest::newRow("short ifs on one line, no column limit")
