@@ -565,6 +565,30 @@ std::string packed_arguments_read_from(forms_by_name const& forms) {
     return "{BinPackArguments: " + flag(broken("long call in a function", "name_part(")) + "}";
 }
 
+// Two trailing comments their author set none and one blank away: kept so, comments stay where
+// they stand; in one column, they line up; each as far from its code, they are set the style's
+// distance away.
+std::string trailing_comments_read_from(forms_by_name const& forms, int tab_width) {
+    std::string const* code = forms.find("comment spacing");
+    if (!code)
+        return std::string();
+    std::vector<int> columns, gaps;
+    for (std::string const& line : lines_of(*code)) {
+        std::size_t const comment = line.find("//");
+        if (comment == std::string::npos || comment == 0)
+            continue;
+        std::size_t const code_end = line.find_last_not_of(" \t", comment - 1);
+        int const column = width_of_line(line.substr(0, comment), tab_width);
+        columns.push_back(column);
+        gaps.push_back(code_end == std::string::npos ? -1
+                                                     : column - width_of_line(line.substr(0, code_end + 1), tab_width));
+    }
+    if (columns.size() != 2)
+        return std::string();
+    char const* kind = columns[0] == columns[1] ? "Always" : gaps[0] == gaps[1] ? "Never" : "Leave";
+    return std::string("{AlignTrailingComments: {Kind: ") + kind + "}}";
+}
+
 // Backslashes lined up at the column limit show it exactly; otherwise, the narrowest limit of the
 // table that every line of every form fits in, or none when the longest line passes them all.
 std::string column_limit_read_from(std::vector<form_case> const& forms) {
@@ -705,6 +729,11 @@ form_readings readings_of(std::vector<form_case> const& forms) {
                                         ? "true}"
                                         : "false}"));
     readings.braces = braces_read_from(named);
+    if (!readings.braces.empty())
+        readings.preferred.push_back(readings.braces);
+    std::string const comments = trailing_comments_read_from(named, tab_width_read_from(forms));
+    if (!comments.empty())
+        readings.preferred.push_back(comments);
     std::string const blank_lines = blank_lines_read_from(named);
     if (!blank_lines.empty())
         readings.passed.push_back(blank_lines);

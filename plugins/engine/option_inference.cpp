@@ -373,20 +373,23 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
             best = restart;
     }
 
-    // Where several styles give every form back, the one that places braces as the forms show
+    // Where several styles give every form back, the one that follows what the forms show
     // directly is the closer (without a column limit, braces left where their author put them
-    // give back braces placed by any rule): the brace placement read is applied, held while the
-    // style descends anew, and kept if every form still comes back.
-    if (best.total == 0 && !readings.braces.empty() && search.within_budget()) {
+    // give back braces placed by any rule; comments left where they stand give back comments
+    // lined up): each such reading is applied, held while the style descends anew, and kept if
+    // every form still comes back.
+    for (std::string const& reading : readings.preferred) {
+        if (best.total != 0 || !search.within_budget())
+            break;
         clang::format::FormatStyle kicked = best.style;
-        if (apply_candidate(kicked, readings.braces) && !same_options(kicked, best.style)) {
-            scored_style restart = search.scored(kicked);
-            std::vector<std::string> pinned = readings.certain;
-            pinned.push_back(readings.braces);
-            search.descend(restart, pinned);
-            if (restart.total == 0)
-                best = restart;
-        }
+        if (!apply_candidate(kicked, reading) || same_options(kicked, best.style))
+            continue;
+        scored_style restart = search.scored(kicked);
+        std::vector<std::string> pinned = readings.certain;
+        pinned.push_back(reading);
+        search.descend(restart, pinned);
+        if (restart.total == 0)
+            best = restart;
     }
 
     // Values the forms rule out are likely, not certain (a hand-written addon may keep its breaks

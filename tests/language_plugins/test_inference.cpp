@@ -306,6 +306,14 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 120, BreakBeforeBinaryOperators: All, AlignOperands: DontAlign, "
                       "ContinuationIndentWidth: 8}"
             << QStringList{"AlignOperands: DontAlign", "ContinuationIndentWidth: 8", "!BreakBeforeBinaryOperators: None"};
+        // Comments left where they stand give back comments lined up too: the reading of "comment
+        // spacing" wins the tie (the search reached the "leave" alignment first, real code's
+        // comments then kept wherever they stood).
+        QTest::newRow("trailing comments lined up over a blank line, reached past leaving them")
+            << "C" << "{BasedOnStyle: LLVM, AlignTrailingComments: {Kind: Always, OverEmptyLines: 1}, "
+                      "BreakBeforeBinaryOperators: All, SpaceBeforeAssignmentOperators: false, SpacesInParens: Custom, "
+                      "SpacesInParensOptions: {InConditionalStatements: true, Other: true}}"
+            << QStringList{" Kind: Always", " OverEmptyLines: 1"};
         // Without a column limit a statement stays on the line its author wrote it on: the short
         // condition and loop are written joined (written split, they were read as never joined).
         QTest::newRow("short ifs on one line, no column limit")
