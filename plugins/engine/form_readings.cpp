@@ -292,7 +292,7 @@ bool kept_continuation_with_tab(forms_by_name const& forms) {
         return false;
     std::vector<std::string> const lines = lines_of(*code);
     for (std::size_t i = 0; i + 1 < lines.size(); ++i)
-        if (starts_with(trimmed(lines[i]), "name_long_part("))
+        if (starts_with(trimmed(lines[i]), "name_long_part"))
             return column_after_open_parenthesis(lines[i], 8) >= 0 &&
                    tabs_in_indent_of(lines[i + 1]) > tabs_in_indent_of(lines[i]);
     return false;
@@ -559,10 +559,10 @@ std::string packed_arguments_read_from(forms_by_name const& forms) {
         int const line = forms.line_starting(structure, opening);
         return line >= 0 && lines_of(*forms.find(structure))[static_cast<std::size_t>(line)].find(");") == std::string::npos;
     };
-    if (!broken("kept line break in a function", "name_long_part(") ||
-        forms.line_starting("long call in a function", "name_part(") < 0)
+    if (!broken("kept line break in a function", "name_long_part") ||
+        forms.line_starting("long call in a function", "name_part") < 0)
         return std::string();
-    return "{BinPackArguments: " + flag(broken("long call in a function", "name_part(")) + "}";
+    return "{BinPackArguments: " + flag(broken("long call in a function", "name_part")) + "}";
 }
 
 // Two trailing comments their author set none and one blank away: kept so, comments stay where

@@ -297,6 +297,9 @@ private slots:
         QTest::newRow("arguments one a line, no column limit")
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BinPackArguments: false}"
             << QStringList{"BinPackArguments: false", "ColumnLimit: 0"};
+        QTest::newRow("arguments one a line, a blank before every (, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BinPackArguments: false, SpaceBeforeParens: Always}"
+            << QStringList{"BinPackArguments: false"};
         QTest::newRow("arguments packed, not aligned, no column limit")
             << "C++" << "{BasedOnStyle: Mozilla, ColumnLimit: 0, BinPackArguments: true, AlignAfterOpenBracket: DontAlign}"
             << QStringList{"BinPackArguments: true", "AlignAfterOpenBracket: DontAlign"};
