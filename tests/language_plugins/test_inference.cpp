@@ -361,7 +361,8 @@ private slots:
         for (char const* structure :
              {"kept line break", "long call assignment", "long comment", "long return type", "long string", "nested blocks",
               "statement macro", "attribute macro", "label in a block", "comment spacing", "short if else",
-              "subscript", "long call in a function", "call without arguments"}) {
+              "subscript", "long call in a function", "call without arguments", "kept line break in a condition",
+              "kept line break in a function", "mixed pointers", "very long assignment"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
@@ -409,7 +410,9 @@ private slots:
              {"statement macro", "type name(void) {", "type name(void)\n{"},
              {"label in a block", "type name(void) {", "type name(void)\n{"},
              {"long call in a function", "type name(void) {", "type name(void)\n{"}},
-            {{"cast", "(type *)", "(type*)"},
+            {{"attribute macro", "type *name", "type* name"},
+             {"cast", "(type *)", "(type*)"},
+             {"consecutive declarations", "type *name_long_part", "type* name_long_part"},
              {"function declaration", "type *argument", "type* argument"},
              {"pointer", "type *name", "type* name"},
              {"range for", "type &name", "type& name"},
