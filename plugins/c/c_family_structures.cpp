@@ -98,6 +98,16 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "A short call its author wrote over two lines: kept so where the style has no column limit and keeps the "
          "author's breaks, joined otherwise.",
          {"ColumnLimit", "AlignAfterOpenBracket", "ContinuationIndentWidth", "SpaceBeforeParens"}},
+        {"kept line break in a condition", "if (SOME &&\n    SOME)\n{\n  SOME;\n}",
+         "A condition its author wrote over two lines, its brace on a line of its own: kept so where the style has no "
+         "column limit, and then whether the brace stays there, as it does where the style leaves it where the author "
+         "put it.",
+         {"BraceWrapping.AfterControlStatement", "ColumnLimit", "AlignOperands", "BreakBeforeBinaryOperators",
+          "ContinuationIndentWidth"}},
+        {"kept line break in a function", "type name(void) {\n  name_long_part(SOME,\n                 SOME);\n}",
+         "A call inside a function its author wrote over two lines: kept so where the style has no column limit, and "
+         "then how its second line lines up and whether tabs fill the way there.",
+         {"ColumnLimit", "UseTab", "AlignAfterOpenBracket", "ContinuationIndentWidth", "BraceWrapping.AfterFunction"}},
         {"label in a block", "type name(void) {\n  if (SOME) {\n    SOME;\n    goto label;\n  label:\n    SOME;\n  }\n}",
          "How far a label inside a nested block is indented: one step out from the block's statements, or at the "
          "start of the line.",
@@ -112,7 +122,7 @@ tarnel_engine::structure_catalogue c_family_structures() {
           "AlignAfterOpenBracket", "ContinuationIndentWidth", "ColumnLimit", "BreakBeforeBinaryOperators",
           "AlignOperands"}},
         {"long call in a function",
-         "type name(void) {\n  name_part(SOME_LONG, SOME_LONG, SOME_LONG, SOME_LONG, SOME_LONG, SOME_LONG);\n}",
+         "type name(void) {\n  name_part(SOME_LONG, SOME_LONG, SOME_LONG,\n            SOME_LONG, SOME_LONG, SOME_LONG);\n}",
          "A call too long for one line inside a function's body: its arguments packed onto each line, or one a line "
          "(a call outside any function is read as a declaration, whose parameters other options pack).",
          {"BinPackArguments", "AllowAllArgumentsOnNextLine", "AlignAfterOpenBracket",
@@ -153,6 +163,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"macro definitions", "#define name SOME\n#define name_long_part SOME\n#define name_part(argument) (argument)",
          "Whether the bodies of macros defined on neighbouring lines line up.",
          {"AlignConsecutiveMacros"}},
+        {"mixed pointers", "type* name;\ntype* name_part;\ntype *name_long_part;",
+         "Declarations whose `*` lean two ways, most of them on the type: all lean as most do where the style takes "
+         "the leaning from each file, all the style's own way otherwise.",
+         {"DerivePointerAlignment", "PointerAlignment", "AlignConsecutiveDeclarations"}},
         {"nested blocks",
          "if (SOME) {\n  while (SOME) {\n    if (SOME) {\n      while (SOME) {\n        SOME;\n        SOME;\n      }\n    }\n  }\n}",
          "Blocks four deep: how each level is indented, and where tabs take over from blanks.",
@@ -166,13 +180,13 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"short function", "type name(type argument) { return SOME; }",
          "A function whose body is one short statement: on one line or not.",
          {"AllowShortFunctionsOnASingleLine", "BraceWrapping.AfterFunction", "BreakAfterReturnType"}},
-        {"short if", "if (SOME)\n  SOME;", "A condition without braces: whether its statement may share its line.",
+        {"short if", "if (SOME) SOME;", "A condition without braces: whether its statement may share its line.",
          {"AllowShortIfStatementsOnASingleLine"}},
         {"short if else", "if (SOME) SOME;\nelse if (SOME) SOME;\nelse SOME;",
          "A chain of conditions without braces: whether the first statement, or every one, may share the line of its "
          "`if` or `else`.",
          {"AllowShortIfStatementsOnASingleLine"}},
-        {"short loop", "while (SOME)\n  SOME;", "A loop without braces: whether its statement may share its line.",
+        {"short loop", "while (SOME) SOME;", "A loop without braces: whether its statement may share its line.",
          {"AllowShortLoopsOnASingleLine"}},
         {tarnel_engine::statement_macros().structure,
          tarnel_engine::macros_form_for(tarnel_engine::statement_macros(), {"DECLARE_ITEM"}),
@@ -200,6 +214,11 @@ tarnel_engine::structure_catalogue c_family_structures() {
          {"BraceWrapping.AfterStruct"}},
         {"union", "union name {\n  type name;\n  type name_part;\n};", "A union: where its brace goes.",
          {"BraceWrapping.AfterUnion"}},
+        {"very long assignment",
+         "name = SOME_LONG + SOME_LONG * SOME_LONG - SOME_LONG + SOME_LONG * SOME_LONG - SOME_LONG;",
+         "An expression too long for the widest column limit: before or after which operators it breaks, whether "
+         "its operands line up, and how far its later lines are indented.",
+         {"BreakBeforeBinaryOperators", "AlignOperands", "ContinuationIndentWidth", "ColumnLimit"}},
         {"while", "while (SOME) {\n  SOME;\n}", "A while loop: the blanks around its condition and where its braces go.",
          {"BraceWrapping.AfterControlStatement", "SpaceBeforeParens", "SpacesInParens"}},
     };

@@ -277,16 +277,38 @@ struct continuation {
     bool with_tab = false;
 };
 
+// How many tabs the indentation of a line holds.
+long tabs_in_indent_of(std::string const& line) {
+    std::size_t const text = line.find_first_not_of(" \t");
+    return std::count(line.begin(), line.begin() + static_cast<long>(std::min(text, line.size())), '\t');
+}
+
+// A call its author continued on a second line inside a function, kept so (no column limit): a
+// tab in the second line's indentation beyond those of the call's own line fills the way to where
+// the arguments line up, which only tabs used for continuation do.
+bool kept_continuation_with_tab(forms_by_name const& forms) {
+    std::string const* code = forms.find("kept line break in a function");
+    if (!code)
+        return false;
+    std::vector<std::string> const lines = lines_of(*code);
+    for (std::size_t i = 0; i + 1 < lines.size(); ++i)
+        if (starts_with(trimmed(lines[i]), "name_long_part"))
+            return column_after_open_parenthesis(lines[i], 8) >= 0 &&
+                   tabs_in_indent_of(lines[i + 1]) > tabs_in_indent_of(lines[i]);
+    return false;
+}
+
 continuation continuation_read_from(forms_by_name const& forms, int tab_width) {
     std::string const* code = forms.find("long function call");
     std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
     continuation read;
+    read.with_tab = kept_continuation_with_tab(forms);
     if (lines.size() < 2 || width_of_indent(lines[0], tab_width) > 0)
         return read;
     int const width = width_of_indent(lines[1], tab_width);
     if (width > 0 && width <= 8 && width != column_after_open_parenthesis(lines[0], tab_width)) {
         read.width = width;
-        read.with_tab = indented_with_tab(lines[1]);
+        read.with_tab = read.with_tab || indented_with_tab(lines[1]);
     }
     return read;
 }
@@ -450,10 +472,14 @@ std::string leaning_of(std::string const* code, char mark) {
     return before && after ? "Middle" : before ? "Right" : after ? "Left" : std::string();
 }
 
+// Declarations leaning two ways, written so, that all lean as most of them do while a lone pointer
+// leans the other way: the style derives the leaning from the code it formats.
 std::string pointers_read_from(forms_by_name const& forms) {
     std::string const pointer = leaning_of(forms.find("pointer"), '*');
     std::string const reference = leaning_of(forms.find("reference"), '&');
-    std::string reading = "DerivePointerAlignment: false";
+    std::string const mixed = leaning_of(forms.find("mixed pointers"), '*');
+    bool const derived = !pointer.empty() && !mixed.empty() && mixed != pointer;
+    std::string reading = std::string("DerivePointerAlignment: ") + flag(derived);
     if (!pointer.empty())
         reading += ", PointerAlignment: " + pointer;
     if (!reference.empty())
@@ -510,14 +536,65 @@ std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
     return readings;
 }
 
+// A short call, or a short condition, its author wrote over two lines: joined under any column
+// limit, kept where there is none (some ways of breaking after a `(` join a call under no limit
+// too, none joins the condition).
+bool keeps_line_breaks(forms_by_name const& forms) {
+    std::string const* call = forms.find("kept line break");
+    if (call && call->find('\n') != std::string::npos)
+        return true;
+    int const head = forms.line_starting("kept line break in a condition", "if");
+    std::string const* condition = forms.find("kept line break in a condition");
+    return head >= 0 && lines_of(*condition)[static_cast<std::size_t>(head)].find(')') == std::string::npos;
+}
+
+// Without a column limit a call its author wrote over two lines, its arguments packed, stays so
+// where arguments are packed; not packed, the engine joins them all, having no line to break
+// them at. Read where a short call inside a function keeps its break too, so that the way the
+// style breaks after a `(` joins no call.
+std::string packed_arguments_read_from(forms_by_name const& forms) {
+    if (!keeps_line_breaks(forms))
+        return std::string();
+    auto const broken = [&](std::string const& structure, std::string const& opening) {
+        int const line = forms.line_starting(structure, opening);
+        return line >= 0 && lines_of(*forms.find(structure))[static_cast<std::size_t>(line)].find(");") == std::string::npos;
+    };
+    if (!broken("kept line break in a function", "name_long_part") ||
+        forms.line_starting("long call in a function", "name_part") < 0)
+        return std::string();
+    return "{BinPackArguments: " + flag(broken("long call in a function", "name_part")) + "}";
+}
+
+// Two trailing comments their author set none and one blank away: kept so, comments stay where
+// they stand; in one column, they line up; each as far from its code, they are set the style's
+// distance away.
+std::string trailing_comments_read_from(forms_by_name const& forms, int tab_width) {
+    std::string const* code = forms.find("comment spacing");
+    if (!code)
+        return std::string();
+    std::vector<int> columns, gaps;
+    for (std::string const& line : lines_of(*code)) {
+        std::size_t const comment = line.find("//");
+        if (comment == std::string::npos || comment == 0)
+            continue;
+        std::size_t const code_end = line.find_last_not_of(" \t", comment - 1);
+        int const column = width_of_line(line.substr(0, comment), tab_width);
+        columns.push_back(column);
+        gaps.push_back(code_end == std::string::npos ? -1
+                                                     : column - width_of_line(line.substr(0, code_end + 1), tab_width));
+    }
+    if (columns.size() != 2)
+        return std::string();
+    char const* kind = columns[0] == columns[1] ? "Always" : gaps[0] == gaps[1] ? "Never" : "Leave";
+    return std::string("{AlignTrailingComments: {Kind: ") + kind + "}}";
+}
+
 // Backslashes lined up at the column limit show it exactly; otherwise, the narrowest limit of the
 // table that every line of every form fits in, or none when the longest line passes them all.
 std::string column_limit_read_from(std::vector<form_case> const& forms) {
     // A short call written over two lines is joined under any limit; kept, there is none.
-    forms_by_name const by_name(forms);
-    if (std::string const* kept = by_name.find("kept line break"))
-        if (kept->find('\n') != std::string::npos)
-            return "{ColumnLimit: 0}";
+    if (keeps_line_breaks(forms_by_name(forms)))
+        return "{ColumnLimit: 0}";
     int const tab_width = tab_width_read_from(forms);
     std::size_t longest = 0;
     std::set<int> backslash_columns;
@@ -568,7 +645,8 @@ int control_brace_read_from(forms_by_name const& forms) {
     int own_line = -1;
     for (char const* structure : {"if", "for", "while"})
         own_line = std::max(own_line, forms.brace_on_own_line(structure));
-    if (own_line == 0 && forms.brace_on_own_line("long condition") == 1)
+    if (own_line == 0 && (forms.brace_on_own_line("long condition") == 1 ||
+                          forms.brace_on_own_line("kept line break in a condition") == 1))
         return 2;
     return own_line;
 }
@@ -628,7 +706,7 @@ form_readings readings_of(std::vector<form_case> const& forms) {
          {indentation_read_from(forms), continuation_indent_read_from(forms), access_offset_read_from(named),
           return_type_read_from(named), case_labels_read_from(named), directives_read_from(named),
           namespace_indentation_read_from(named), parentheses_read_from(named), pointers_read_from(named),
-          column_limit_read_from(forms)})
+          column_limit_read_from(forms), packed_arguments_read_from(named)})
         if (!reading.empty())
             readings.layout.push_back(reading);
     for (std::string const& reading : short_lines_read_from(named))
@@ -638,15 +716,24 @@ form_readings readings_of(std::vector<form_case> const& forms) {
         readings.certain.push_back(limit);
     // A short call kept over two lines shows no limit for certain (joined, it shows nothing: some
     // ways of breaking after a `(` join it under no limit too).
-    std::string const* kept = named.find("kept line break");
-    bool const kept_breaks = kept && kept->find('\n') != std::string::npos;
+    bool const kept_breaks = keeps_line_breaks(named);
     if (kept_breaks)
         readings.certain.push_back("{ColumnLimit: 0}");
     // Without a limit the engine keeps a call on the line it was written on, as in the catalogue.
     std::string const* call = named.find("long function call");
     if (!kept_breaks && call && call->find('\n') != std::string::npos)
         readings.ruled_out.push_back("{ColumnLimit: 0}");
+    if (named.find("pointer") && named.find("mixed pointers"))
+        readings.telling.push_back(std::string("{DerivePointerAlignment: ") +
+                                   (pointers_read_from(named).find("DerivePointerAlignment: true") != std::string::npos
+                                        ? "true}"
+                                        : "false}"));
     readings.braces = braces_read_from(named);
+    if (!readings.braces.empty())
+        readings.preferred.push_back(readings.braces);
+    std::string const comments = trailing_comments_read_from(named, tab_width_read_from(forms));
+    if (!comments.empty())
+        readings.preferred.push_back(comments);
     std::string const blank_lines = blank_lines_read_from(named);
     if (!blank_lines.empty())
         readings.passed.push_back(blank_lines);

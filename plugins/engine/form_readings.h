@@ -30,6 +30,15 @@ struct form_readings {
     // is told), and how many blank lines are kept (the engine keeps blank lines and never adds
     // one). Every style the search tries, and the one it ends on, holds them.
     std::vector<std::string> passed;
+    // What the forms show that some predefined style's forms do not tell apart from another value
+    // (a leaning derived from the code, where the forms all lean one way): a predefined style is
+    // taken as it stands only where it holds these.
+    std::vector<std::string> telling;
+    // Readings that decide between styles which all give every form back (brace placement, which
+    // braces left where their author put them give back too; trailing comments lined up or set
+    // apart, which comments left where they stand give back too): the search ends on them where
+    // every form still comes back.
+    std::vector<std::string> preferred;
 };
 
 form_readings readings_of(std::vector<form_case> const& forms);

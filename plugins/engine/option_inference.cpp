@@ -254,16 +254,37 @@ private:
 
 }  // namespace
 
+namespace {
+
+// A style that derives where `*` leans from the code it formats takes the leaning of most of that
+// code: the forms that show it are formatted each on its own, so that their own majority decides.
+bool formatted_alone(form_case const& form) {
+    return std::find(form.decides.begin(), form.decides.end(), "DerivePointerAlignment") != form.decides.end();
+}
+
+}  // namespace
+
 std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, clang::format::FormatStyle const& style,
                                         infer_options::distance_measure const& measure) {
     std::string joined;
-    for (std::size_t i = 0; i < forms.size(); ++i)
-        joined += (i == 0 ? "" : "\n\n" + boundary + "\n\n") + forms[i].code;
-    engine_outcome const outcome = format_with(style).the_code(joined + "\n");
-    std::vector<std::string> const pieces = pieces_of(outcome.text);
+    std::vector<std::size_t> together;
+    std::vector<std::string> pieces(forms.size());
+    for (std::size_t i = 0; i < forms.size(); ++i) {
+        if (style.DerivePointerAlignment && formatted_alone(forms[i])) {
+            pieces[i] = format_with(style).the_code(forms[i].code + "\n").text;
+            continue;
+        }
+        joined += (together.empty() ? "" : "\n\n" + boundary + "\n\n") + forms[i].code;
+        together.push_back(i);
+    }
     std::vector<unsigned long> distances(forms.size(), 1000000000UL);
-    if (pieces.size() != forms.size())
-        return distances;
+    if (!together.empty()) {
+        std::vector<std::string> const joined_pieces = pieces_of(format_with(style).the_code(joined + "\n").text);
+        if (joined_pieces.size() != together.size())
+            return distances;
+        for (std::size_t j = 0; j < together.size(); ++j)
+            pieces[together[j]] = joined_pieces[j];
+    }
     for (std::size_t i = 0; i < forms.size(); ++i)
         distances[i] = measure ? measure(form_as_code(forms[i].code), form_as_code(pieces[i]))
                                : white_space_distance(form_as_code(forms[i].code), form_as_code(pieces[i]));
@@ -280,7 +301,9 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
     option_search search(option_groups(language), forms, readings.ruled_out, formatting_budget, going_on, measure);
 
     // A style that is a predefined one keeps all its rules, Google's "the file's majority decides
-    // where * leans" included; holding what the forms pass, as every style the search tries.
+    // where * leans" included; holding what the forms pass, as every style the search tries, and
+    // only where it holds what the forms tell that its own forms would not (forms that all lean
+    // one way, where a lone pointer and a majority leaning the other way would show a derived leaning).
     std::vector<clang::format::FormatStyle> bases;
     scored_style best_base;
     for (std::string const& name : names_of_predefined_styles(language)) {
@@ -288,14 +311,19 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         for (std::string const& names : readings.passed)
             apply_candidate(bases.back(), names);
         scored_style base = search.scored(bases.back());
-        if (base.total == 0)
+        bool const tells_apart = std::all_of(readings.telling.begin(), readings.telling.end(), [&](auto const& reading) {
+            clang::format::FormatStyle held = base.style;
+            return apply_candidate(held, reading) && same_options(held, base.style);
+        });
+        if (base.total == 0 && tells_apart)
             return base.style;
-        if (bases.size() == 1 || base.total < best_base.total)
+        if (tells_apart && (best_base.distances.empty() || base.total < best_base.total))
             best_base = std::move(base);
     }
 
     // Any other style shows where * and & lean in its forms (the readings say so), and those
-    // forms, not the file being revised, decide.
+    // forms, not the file being revised, decide; unless its forms lean two ways as a derived
+    // leaning makes them.
     std::vector<scored_style> starts;
     for (clang::format::FormatStyle const& base : bases)
         for (bool const with_braces : {true, false}) {
@@ -311,7 +339,7 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
     std::stable_sort(starts.begin(), starts.end(), [](auto const& a, auto const& b) { return a.total < b.total; });
 
     // A predefined style as it stands is a result too: the search never ends further from the forms.
-    scored_style best = best_base.total < starts.front().total ? best_base : starts.front();
+    scored_style best = !best_base.distances.empty() && best_base.total < starts.front().total ? best_base : starts.front();
     std::vector<clang::format::FormatStyle> descended;
     for (scored_style& start : starts) {
         if (best.total == 0 || descended.size() == beam_width || !search.within_budget())
@@ -342,6 +370,25 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         search.descend(restart, pinned);
         search.descend(restart, readings.certain);
         if (restart.total < best.total)
+            best = restart;
+    }
+
+    // Where several styles give every form back, the one that follows what the forms show
+    // directly is the closer (without a column limit, braces left where their author put them
+    // give back braces placed by any rule; comments left where they stand give back comments
+    // lined up): each such reading is applied, held while the style descends anew, and kept if
+    // every form still comes back.
+    for (std::string const& reading : readings.preferred) {
+        if (best.total != 0 || !search.within_budget())
+            break;
+        clang::format::FormatStyle kicked = best.style;
+        if (!apply_candidate(kicked, reading) || same_options(kicked, best.style))
+            continue;
+        scored_style restart = search.scored(kicked);
+        std::vector<std::string> pinned = readings.certain;
+        pinned.push_back(reading);
+        search.descend(restart, pinned);
+        if (restart.total == 0)
             best = restart;
     }
 

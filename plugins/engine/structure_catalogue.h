@@ -12,7 +12,10 @@ namespace tarnel_engine {
 struct structure {
     // Lower-case words separated by single blanks, as addons and manuals name it.
     std::string name;
-    // The token sequence, written out as code (its own white space does not matter).
+    // The token sequence, written out as code. Its white space is no part of the form's promise,
+    // but it is the text the engine lays out: where a style keeps what the author wrote (no
+    // column limit: "kept line break", "short if") or derives from it (where the `*` of "mixed
+    // pointers" lean), the form shows the style through it.
     std::string tokens;
     // One sentence for the manual: what the structure shows a reader of the style.
     std::string purpose;

@@ -252,6 +252,83 @@ private slots:
         QTest::newRow("arguments one a line, limit 120")
             << "C++" << "{BasedOnStyle: Google, BinPackArguments: false, ColumnLimit: 120}"
             << QStringList{"BinPackArguments: false"};
+        // Without a column limit no long call breaks: a call its author continued inside a function
+        // shows the tabs that fill the way to its parenthesis (read as tabs for indentation alone).
+        QTest::newRow("tabs for continuation, indent 8, arguments aligned, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 8, UseTab: ForContinuationAndIndentation, "
+                      "AlignAfterOpenBracket: Align, ColumnLimit: 0}"
+            << QStringList{"UseTab: ForContinuationAndIndentation", "ColumnLimit: 0"};
+        QTest::newRow("tabs for continuation, GNU, indent 2, no column limit")
+            << "C" << "{BasedOnStyle: GNU, IndentWidth: 2, TabWidth: 8, UseTab: ForContinuationAndIndentation, "
+                      "AlignAfterOpenBracket: Align, ColumnLimit: 0}"
+            << QStringList{"UseTab: ForContinuationAndIndentation", "IndentWidth: 2"};
+        // A lone pointer keeps its leaning where the style derives it, declarations leaning two ways
+        // take their majority's: the forms lean two ways (read as the lone pointer's leaning, not derived).
+        QTest::newRow("* leaning derived from the code, on the type otherwise")
+            << "C++" << "{BasedOnStyle: LLVM, DerivePointerAlignment: true, PointerAlignment: Left}"
+            << QStringList{"DerivePointerAlignment: true"};
+        QTest::newRow("* leaning derived from the code, C")
+            << "C" << "{BasedOnStyle: Mozilla, DerivePointerAlignment: true, PointerAlignment: Right}"
+            << QStringList{"DerivePointerAlignment: true"};
+        QTest::newRow("* on the type, not derived")
+            << "C++" << "{BasedOnStyle: Google, DerivePointerAlignment: false, PointerAlignment: Left}"
+            << QStringList{"DerivePointerAlignment: false", "PointerAlignment: Left"};
+        // Without a column limit a condition's brace stays where its author put it under `MultiLine`:
+        // a condition written over two lines with its brace below tells it from `Never` (read as `Never`).
+        QTest::newRow("brace below conditions over several lines only, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeBraces: Custom, "
+                      "BraceWrapping: {AfterControlStatement: MultiLine}}"
+            << QStringList{" AfterControlStatement: MultiLine", "ColumnLimit: 0"};
+        QTest::newRow("brace below every condition, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeBraces: Custom, "
+                      "BraceWrapping: {AfterControlStatement: Always}}"
+            << QStringList{" AfterControlStatement: Always", "ColumnLimit: 0"};
+        // Under no column limit `MultiLine` leaves every brace where its author put it, so it gives
+        // back the forms of `Always` too, and the `do` that short loops and blocks keep joined to its
+        // brace lets it reach them first: the brace placement read from the forms wins the tie
+        // (read as `MultiLine`, and every `if (…) {` of real code kept so).
+        QTest::newRow("brace below every condition, no column limit, short loops and empty blocks")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AllowShortBlocksOnASingleLine: Empty, "
+                      "AllowShortLoopsOnASingleLine: true, BreakBeforeBraces: Custom, "
+                      "BraceWrapping: {AfterControlStatement: Always}}"
+            << QStringList{" AfterControlStatement: Always"};
+        // Without a column limit a long call its author packed over two lines stays so only where
+        // arguments are packed (written on one line, it stayed so either way, and read as packed).
+        QTest::newRow("arguments one a line, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BinPackArguments: false}"
+            << QStringList{"BinPackArguments: false", "ColumnLimit: 0"};
+        QTest::newRow("arguments one a line, a blank before every (, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BinPackArguments: false, SpaceBeforeParens: Always}"
+            << QStringList{"BinPackArguments: false"};
+        QTest::newRow("arguments packed, not aligned, no column limit")
+            << "C++" << "{BasedOnStyle: Mozilla, ColumnLimit: 0, BinPackArguments: true, AlignAfterOpenBracket: DontAlign}"
+            << QStringList{"BinPackArguments: true", "AlignAfterOpenBracket: DontAlign"};
+        // Under a limit of 120 no other long form breaks: an expression longer than that shows where
+        // operators go, whether operands line up and the continuation indent (read as the base's).
+        QTest::newRow("operators first, operands not aligned, continuation 8, limit 120")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 120, BreakBeforeBinaryOperators: All, AlignOperands: DontAlign, "
+                      "ContinuationIndentWidth: 8}"
+            << QStringList{"AlignOperands: DontAlign", "ContinuationIndentWidth: 8", "!BreakBeforeBinaryOperators: None"};
+        // Comments left where they stand give back comments lined up too: the reading of "comment
+        // spacing" wins the tie (the search reached the "leave" alignment first, real code's
+        // comments then kept wherever they stood).
+        QTest::newRow("trailing comments lined up over a blank line, reached past leaving them")
+            << "C" << "{BasedOnStyle: LLVM, AlignTrailingComments: {Kind: Always, OverEmptyLines: 1}, "
+                      "BreakBeforeBinaryOperators: All, SpaceBeforeAssignmentOperators: false, SpacesInParens: Custom, "
+                      "SpacesInParensOptions: {InConditionalStatements: true, Other: true}}"
+            << QStringList{" Kind: Always", " OverEmptyLines: 1"};
+        // Without a column limit a statement stays on the line its author wrote it on: the short
+        // condition and loop are written joined (written split, they were read as never joined).
+        QTest::newRow("short ifs on one line, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AllowShortIfStatementsOnASingleLine: WithoutElse}"
+            << QStringList{"AllowShortIfStatementsOnASingleLine: WithoutElse"};
+        QTest::newRow("short loops on one line, no column limit")
+            << "C++" << "{BasedOnStyle: Mozilla, ColumnLimit: 0, AllowShortLoopsOnASingleLine: true}"
+            << QStringList{"AllowShortLoopsOnASingleLine: true"};
+        QTest::newRow("short ifs and loops never on one line, no column limit")
+            << "C" << "{BasedOnStyle: Google, ColumnLimit: 0, AllowShortIfStatementsOnASingleLine: Never, "
+                      "AllowShortLoopsOnASingleLine: false}"
+            << QStringList{"AllowShortIfStatementsOnASingleLine: Never", "AllowShortLoopsOnASingleLine: false"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -284,7 +361,8 @@ private slots:
         for (char const* structure :
              {"kept line break", "long call assignment", "long comment", "long return type", "long string", "nested blocks",
               "statement macro", "attribute macro", "label in a block", "comment spacing", "short if else",
-              "subscript", "long call in a function", "call without arguments"}) {
+              "subscript", "long call in a function", "call without arguments", "kept line break in a condition",
+              "kept line break in a function", "mixed pointers", "very long assignment"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
@@ -332,7 +410,9 @@ private slots:
              {"statement macro", "type name(void) {", "type name(void)\n{"},
              {"label in a block", "type name(void) {", "type name(void)\n{"},
              {"long call in a function", "type name(void) {", "type name(void)\n{"}},
-            {{"cast", "(type *)", "(type*)"},
+            {{"attribute macro", "type *name", "type* name"},
+             {"cast", "(type *)", "(type*)"},
+             {"consecutive declarations", "type *name_long_part", "type* name_long_part"},
              {"function declaration", "type *argument", "type* argument"},
              {"pointer", "type *name", "type* name"},
              {"range for", "type &name", "type& name"},
