@@ -121,20 +121,39 @@ column_reading column_limit_read_from(std::vector<std::string> const& pieces) {
     return best;
 }
 
-// The side `*` and `&` lean to in declarations, where one side clearly outnumbers the other.
+// The side `*` and `&` lean to in declarations, where one side clearly outnumbers the other; or,
+// where each piece leans its own way and the pieces do not agree (a project whose files follow
+// their own leaning, as a style that derives it writes them), the leaning derived from each file.
 std::string pointers_read_from(std::vector<std::string> const& pieces) {
     static std::regex const left(R"([A-Za-z0-9_>][*&]+ [A-Za-z_])");
     static std::regex const right(R"([A-Za-z0-9_>] [*&]+[A-Za-z_])");
     long lean_left = 0;
     long lean_right = 0;
-    for (std::string const& piece : pieces)
+    long pieces_left = 0;
+    long pieces_right = 0;
+    long with_their_piece = 0;  // leanings that agree with their own piece's majority
+    for (std::string const& piece : pieces) {
+        long piece_left = 0;
+        long piece_right = 0;
         for (std::string const& line : lines_of(piece)) {
             std::string const text = trimmed(line);
             if (starts_with(text, "//") || starts_with(text, "*") || starts_with(text, "/*") || starts_with(text, "#"))
                 continue;
-            lean_left += std::distance(std::sregex_iterator(text.begin(), text.end(), left), std::sregex_iterator());
-            lean_right += std::distance(std::sregex_iterator(text.begin(), text.end(), right), std::sregex_iterator());
+            piece_left += std::distance(std::sregex_iterator(text.begin(), text.end(), left), std::sregex_iterator());
+            piece_right += std::distance(std::sregex_iterator(text.begin(), text.end(), right), std::sregex_iterator());
         }
+        lean_left += piece_left;
+        lean_right += piece_right;
+        pieces_left += piece_left > piece_right;
+        pieces_right += piece_right > piece_left;
+        with_their_piece += std::max(piece_left, piece_right);
+    }
+    char const* const majority = lean_left >= lean_right ? "Left" : "Right";
+    long const minority_pieces = std::min(pieces_left, pieces_right);
+    if (minority_pieces >= 2 && minority_pieces * 5 >= pieces_left + pieces_right &&
+        with_their_piece * 10 >= (lean_left + lean_right) * 9)
+        return std::string("{DerivePointerAlignment: true, PointerAlignment: ") + majority +
+               ", ReferenceAlignment: Pointer}";
     if (lean_left > 2 * lean_right && lean_left >= 3)
         return "{DerivePointerAlignment: false, PointerAlignment: Left, ReferenceAlignment: Pointer}";
     if (lean_right > 2 * lean_left && lean_right >= 3)
