@@ -14,24 +14,12 @@ import argparse, collections, copy, os, shutil, subprocess, sys, tempfile
 import yaml
 
 
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), '..', 'learning'))
+import lines_left as counting  # noqa: E402
+
+
 def lines_left(original_dir, revised_dir):
-    total = left = 0
-    for root, _, files in os.walk(original_dir):
-        for name in files:
-            a_path = os.path.join(root, name)
-            b_path = os.path.join(revised_dir, os.path.relpath(a_path, original_dir))
-            a = open(a_path, 'rb').read()
-            b = open(b_path, 'rb').read() if os.path.exists(b_path) else a
-            a_lines = a.split(b'\n')
-            if a_lines and a_lines[-1] == b'':
-                a_lines.pop()
-            unmatched = collections.Counter(line.rstrip(b'\r') for line in b.split(b'\n'))
-            for line in a_lines:
-                total += 1
-                key = line.rstrip(b'\r')
-                if unmatched[key] > 0:
-                    unmatched[key] -= 1
-                    left += 1
+    left, total, _ = counting.count(original_dir, revised_dir)
     return left, total
 
 
