@@ -96,6 +96,12 @@ private slots:
         QTest::newRow("C LLVM, case labels indented, continuation lines 2 further in")
             << "C" << "{BasedOnStyle: LLVM, IndentCaseLabels: true, ContinuationIndentWidth: 2}" << QStringList()
             << QStringList{"IndentCaseLabels: true", "ContinuationIndentWidth: 2"};
+        // The sample's few macros stand apart, so nothing shows their alignment: only the lines count.
+        QTest::newRow("C LLVM, assignments and declarations lined up, operators first, a penalty")
+            << "C" << "{BasedOnStyle: LLVM, AlignConsecutiveAssignments: Consecutive, AlignConsecutiveDeclarations: "
+                      "Consecutive, BreakBeforeBinaryOperators: All, PenaltyBreakAssignment: 200}" << QStringList()
+            << QStringList{"AlignConsecutiveAssignments:\n  Enabled:         true",
+                           "AlignConsecutiveDeclarations:\n  Enabled:         true", "BreakBeforeBinaryOperators: All"};
         QTest::newRow("Objective-C Google, indent 4, blocks indented 4, a blank after @property")
             << "Objective-C" << "{BasedOnStyle: Google, IndentWidth: 4, ObjCBlockIndentWidth: 4, "
                                 "ObjCSpaceAfterProperty: true}" << QStringList() << QStringList();
