@@ -104,6 +104,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "put it.",
          {"BraceWrapping.AfterControlStatement", "ColumnLimit", "AlignOperands", "BreakBeforeBinaryOperators",
           "ContinuationIndentWidth"}},
+        {"kept line break in a declaration", "type name =\n    SOME_LONG;\ntype name_part = name_long_part(\n    SOME, SOME);",
+         "Declarations their author broke after the `=` and after a call's `(`: kept so where the style has no column "
+         "limit, and then how far their second lines are indented.",
+         {"ColumnLimit", "ContinuationIndentWidth", "UseTab", "BreakBeforeBinaryOperators", "BinPackArguments"}},
         {"kept line break in a function", "type name(void) {\n  name_long_part(SOME,\n                 SOME);\n}",
          "A call inside a function its author wrote over two lines: kept so where the style has no column limit, and "
          "then how its second line lines up and whether tabs fill the way there.",

@@ -298,13 +298,31 @@ bool kept_continuation_with_tab(forms_by_name const& forms) {
     return false;
 }
 
+// A declaration its author broke after a call's `(`, kept so (no column limit): how far in its
+// arguments stand is the continuation indent; 0 where the form is missing or joined.
+int kept_continuation_width(forms_by_name const& forms, int tab_width) {
+    std::string const* code = forms.find("kept line break in a declaration");
+    if (!code)
+        return 0;
+    std::vector<std::string> const lines = lines_of(*code);
+    for (std::size_t i = 0; i + 1 < lines.size(); ++i)
+        if (!lines[i].empty() && lines[i].back() == '(' && width_of_indent(lines[i], tab_width) == 0)
+            return width_of_indent(lines[i + 1], tab_width);
+    return 0;
+}
+
 continuation continuation_read_from(forms_by_name const& forms, int tab_width) {
     std::string const* code = forms.find("long function call");
     std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
     continuation read;
     read.with_tab = kept_continuation_with_tab(forms);
-    if (lines.size() < 2 || width_of_indent(lines[0], tab_width) > 0)
+    if (lines.size() < 2 || width_of_indent(lines[0], tab_width) > 0) {
+        // Without a limit the long call stays on its line: the kept declaration shows the width.
+        int const kept = kept_continuation_width(forms, tab_width);
+        if (kept > 0 && kept <= 8)
+            read.width = kept;
         return read;
+    }
     int const width = width_of_indent(lines[1], tab_width);
     if (width > 0 && width <= 8 && width != column_after_open_parenthesis(lines[0], tab_width)) {
         read.width = width;

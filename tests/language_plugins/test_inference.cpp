@@ -329,6 +329,14 @@ private slots:
             << "C" << "{BasedOnStyle: Google, ColumnLimit: 0, AllowShortIfStatementsOnASingleLine: Never, "
                       "AllowShortLoopsOnASingleLine: false}"
             << QStringList{"AllowShortIfStatementsOnASingleLine: Never", "AllowShortLoopsOnASingleLine: false"};
+        // Without a column limit no long form breaks and arguments line up under their `(`: a
+        // declaration broken after its `(` shows the continuation indent (read as the base's).
+        QTest::newRow("continuation 8, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, ContinuationIndentWidth: 8}"
+            << QStringList{"ContinuationIndentWidth: 8", "ColumnLimit: 0"};
+        QTest::newRow("continuation 8, operators first, no column limit")
+            << "C++" << "{BasedOnStyle: GNU, ColumnLimit: 0, ContinuationIndentWidth: 8}"
+            << QStringList{"ContinuationIndentWidth: 8"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -362,7 +370,8 @@ private slots:
              {"kept line break", "long call assignment", "long comment", "long return type", "long string", "nested blocks",
               "statement macro", "attribute macro", "label in a block", "comment spacing", "short if else",
               "subscript", "long call in a function", "call without arguments", "kept line break in a condition",
-              "kept line break in a function", "mixed pointers", "very long assignment"}) {
+              "kept line break in a function", "mixed pointers", "very long assignment",
+              "kept line break in a declaration"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
