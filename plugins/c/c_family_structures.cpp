@@ -112,6 +112,11 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "A call inside a function its author wrote over two lines: kept so where the style has no column limit, and "
          "then how its second line lines up and whether tabs fill the way there.",
          {"ColumnLimit", "UseTab", "AlignAfterOpenBracket", "ContinuationIndentWidth", "BraceWrapping.AfterFunction"}},
+        {"kept line breaks around operators", "name = SOME_LONG +\n       SOME_LONG;\nname_part = SOME_LONG\n            - SOME_LONG;",
+         "Two expressions their author broke, one after an operator and one before: where the style has no column "
+         "limit, the break on the side the style puts operators stays and the other is joined, and then whether the "
+         "operands line up.",
+         {"ColumnLimit", "BreakBeforeBinaryOperators", "AlignOperands", "ContinuationIndentWidth"}},
         {"label in a block", "type name(void) {\n  if (SOME) {\n    SOME;\n    goto label;\n  label:\n    SOME;\n  }\n}",
          "How far a label inside a nested block is indented: one step out from the block's statements, or at the "
          "start of the line.",

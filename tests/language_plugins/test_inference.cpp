@@ -337,6 +337,11 @@ private slots:
         QTest::newRow("continuation 8, operators first, no column limit")
             << "C++" << "{BasedOnStyle: GNU, ColumnLimit: 0, ContinuationIndentWidth: 8}"
             << QStringList{"ContinuationIndentWidth: 8"};
+        // Without a column limit an expression broken on the other side of its operator is joined:
+        // expressions broken after and before an operator tell where operators go (read as `None`).
+        QTest::newRow("operators first but after =, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeBinaryOperators: NonAssignment}"
+            << QStringList{"BreakBeforeBinaryOperators: NonAssignment", "ColumnLimit: 0"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -371,7 +376,7 @@ private slots:
               "statement macro", "attribute macro", "label in a block", "comment spacing", "short if else",
               "subscript", "long call in a function", "call without arguments", "kept line break in a condition",
               "kept line break in a function", "mixed pointers", "very long assignment",
-              "kept line break in a declaration"}) {
+              "kept line break in a declaration", "kept line breaks around operators"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
