@@ -176,6 +176,11 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "Declarations whose `*` lean two ways, most of them on the type: all lean as most do where the style takes "
          "the leaning from each file, all the style's own way otherwise.",
          {"DerivePointerAlignment", "PointerAlignment", "AlignConsecutiveDeclarations"}},
+        {"multiline string",
+         "name = \"a string \"\n       \"in two parts\";\nname_part(SOME, \"a string \"\n                \"in two parts\");",
+         "Strings written in parts on lines of their own, after an `=` and as an argument: whether the line breaks "
+         "before them, and how far their parts are then indented.",
+         {"AlwaysBreakBeforeMultilineStrings", "ContinuationIndentWidth", "AlignAfterOpenBracket"}},
         {"nested blocks",
          "if (SOME) {\n  while (SOME) {\n    if (SOME) {\n      while (SOME) {\n        SOME;\n        SOME;\n      }\n    }\n  }\n}",
          "Blocks four deep: how each level is indented, and where tabs take over from blanks.",

@@ -583,6 +583,20 @@ std::string packed_arguments_read_from(forms_by_name const& forms) {
     return "{BinPackArguments: " + flag(broken("long call in a function", "name_part")) + "}";
 }
 
+// Strings written in parts: a line that ends before the first part (its `=` or `(` line, the
+// part starting the next) is a break before strings in parts. Without a column limit the author's
+// layout stays under either value, so this reading decides between them.
+std::string multiline_strings_read_from(forms_by_name const& forms) {
+    std::string const* code = forms.find("multiline string");
+    if (!code)
+        return std::string();
+    std::vector<std::string> const lines = lines_of(*code);
+    bool broken = false;
+    for (std::size_t i = 0; i + 1 < lines.size(); ++i)
+        broken = broken || (trimmed(lines[i]).find('"') == std::string::npos && starts_with(trimmed(lines[i + 1]), "\""));
+    return "{AlwaysBreakBeforeMultilineStrings: " + flag(broken) + "}";
+}
+
 // Two trailing comments their author set none and one blank away: kept so, comments stay where
 // they stand; in one column, they line up; each as far from its code, they are set the style's
 // distance away.
@@ -749,6 +763,9 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     readings.braces = braces_read_from(named);
     if (!readings.braces.empty())
         readings.preferred.push_back(readings.braces);
+    std::string const strings = multiline_strings_read_from(named);
+    if (!strings.empty())
+        readings.preferred.push_back(strings);
     std::string const comments = trailing_comments_read_from(named, tab_width_read_from(forms));
     if (!comments.empty())
         readings.preferred.push_back(comments);

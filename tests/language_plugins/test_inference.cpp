@@ -342,6 +342,20 @@ private slots:
         QTest::newRow("operators first but after =, no column limit")
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeBinaryOperators: NonAssignment}"
             << QStringList{"BreakBeforeBinaryOperators: NonAssignment", "ColumnLimit: 0"};
+        // Operands not lined up show only in an expression broken at an operator, kept so without a
+        // column limit (read as aligned).
+        QTest::newRow("operands not aligned, no column limit")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AlignOperands: DontAlign}"
+            << QStringList{"AlignOperands: DontAlign", "ColumnLimit: 0"};
+        // A string in parts on lines of their own shows whether a line breaks before it (read as the
+        // base's either way).
+        QTest::newRow("no break before strings in parts, Google, no column limit")
+            << "C++" << "{BasedOnStyle: Google, ColumnLimit: 0, AlignOperands: DontAlign, AlwaysBreakBeforeMultilineStrings: false}"
+            << QStringList{"AlignOperands: DontAlign", "AlwaysBreakBeforeMultilineStrings: false"};
+        QTest::newRow("a break before strings in parts, continuation 8, tabs, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, IndentWidth: 8, TabWidth: 8, UseTab: ForContinuationAndIndentation, "
+                      "BreakBeforeBraces: Linux, ContinuationIndentWidth: 8, AlwaysBreakBeforeMultilineStrings: true}"
+            << QStringList{"AlwaysBreakBeforeMultilineStrings: true", "ContinuationIndentWidth: 8"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -376,7 +390,7 @@ private slots:
               "statement macro", "attribute macro", "label in a block", "comment spacing", "short if else",
               "subscript", "long call in a function", "call without arguments", "kept line break in a condition",
               "kept line break in a function", "mixed pointers", "very long assignment",
-              "kept line break in a declaration", "kept line breaks around operators"}) {
+              "kept line break in a declaration", "kept line breaks around operators", "multiline string"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
