@@ -191,6 +191,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "Whether directives inside a conditional block are indented, and how.",
          {"IndentPPDirectives", "PPIndentWidth"}},
         {"return", "return SOME;", "A return statement.", {}},
+        {"short case label", "switch (SOME) {\ncase SOME: SOME; break;\ndefault: return SOME;\n}",
+         "Cases whose statements their author wrote on the line of their label: kept so where the style joins short "
+         "cases, split otherwise.",
+         {"AllowShortCaseLabelsOnASingleLine", "IndentCaseLabels", "BraceWrapping.AfterControlStatement"}},
         {"short function", "type name(type argument) { return SOME; }",
          "A function whose body is one short statement: on one line or not.",
          {"AllowShortFunctionsOnASingleLine", "BraceWrapping.AfterFunction", "BreakAfterReturnType"}},

@@ -356,6 +356,11 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, IndentWidth: 8, TabWidth: 8, UseTab: ForContinuationAndIndentation, "
                       "BreakBeforeBraces: Linux, ContinuationIndentWidth: 8, AlwaysBreakBeforeMultilineStrings: true}"
             << QStringList{"AlwaysBreakBeforeMultilineStrings: true", "ContinuationIndentWidth: 8"};
+        // Without a column limit a case split by its author stays split: one written on the line of its
+        // label shows whether short cases are joined (read as never).
+        QTest::newRow("short cases on one line, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AllowShortCaseLabelsOnASingleLine: true}"
+            << QStringList{"AllowShortCaseLabelsOnASingleLine: true"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -390,7 +395,8 @@ private slots:
               "statement macro", "attribute macro", "label in a block", "comment spacing", "short if else",
               "subscript", "long call in a function", "call without arguments", "kept line break in a condition",
               "kept line break in a function", "mixed pointers", "very long assignment",
-              "kept line break in a declaration", "kept line breaks around operators", "multiline string"}) {
+              "kept line break in a declaration", "kept line breaks around operators", "multiline string",
+              "short case label"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
