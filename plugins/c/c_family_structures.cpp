@@ -26,6 +26,9 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"blank lines", "type name(void) {\n\n  SOME;\n\n\n  SOME;\n}",
          "How many blank lines in a row are kept, and whether a block may begin with one.",
          {"MaxEmptyLinesToKeep", "KeepEmptyLines.AtStartOfBlock"}},
+        {"blank lines in a row", "type name(void) {\n  SOME;\n\n\n\n  SOME;\n}",
+         "Three blank lines in a row inside a function: how many of them are kept.",
+         {"MaxEmptyLinesToKeep"}},
         {"call without arguments", "name = name_part();",
          "A call with empty parentheses: whether a blank stands before them where one stands before other calls' "
          "arguments.",

@@ -646,7 +646,7 @@ std::string column_limit_read_from(std::vector<form_case> const& forms) {
     return "{ColumnLimit: 0}";
 }
 
-// The most blank lines in a row the form keeps, and whether its block begins with one. The engine
+// The most blank lines in a row the forms keep, and whether a block begins with one. The engine
 // keeps blank lines and never adds one, so a form with fewer comes back under a larger limit too:
 // only this reading tells the values apart.
 std::string blank_lines_read_from(forms_by_name const& forms) {
@@ -655,10 +655,14 @@ std::string blank_lines_read_from(forms_by_name const& forms) {
         return std::string();
     std::vector<std::string> const lines = lines_of(*code);
     int most = 0;
-    int run = 0;
-    for (std::string const& line : lines) {
-        run = trimmed(line).empty() ? run + 1 : 0;
-        most = std::max(most, run);
+    // The form of more blank lines in a row shows a larger limit where the first form's two are kept.
+    std::string const* more = forms.find("blank lines in a row");
+    for (std::vector<std::string> const& each : {lines, more ? lines_of(*more) : std::vector<std::string>()}) {
+        int run = 0;
+        for (std::string const& line : each) {
+            run = trimmed(line).empty() ? run + 1 : 0;
+            most = std::max(most, run);
+        }
     }
     std::string reading = "{MaxEmptyLinesToKeep: " + std::to_string(most);
     auto const opening = std::find_if(lines.begin(), lines.end(), [](std::string const& line) {

@@ -137,7 +137,7 @@ std::vector<option_group> make_groups() {
         one_of("BitFieldColonSpacing", {"Both", "None", "Before", "After"}),
         one_of("AlignArrayOfStructures", {"None", "Left", "Right"}),
         flag("SpaceBeforeCaseColon"),
-        one_of("MaxEmptyLinesToKeep", {"1", "2"}),
+        one_of("MaxEmptyLinesToKeep", {"1", "2", "3"}),
         {"KeepEmptyLines.AtStartOfBlock",
          {"{KeepEmptyLines: {AtStartOfBlock: true}}", "{KeepEmptyLines: {AtStartOfBlock: false}}"}},
     };

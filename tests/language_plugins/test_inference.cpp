@@ -361,6 +361,11 @@ private slots:
         QTest::newRow("short cases on one line, no column limit")
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AllowShortCaseLabelsOnASingleLine: true}"
             << QStringList{"AllowShortCaseLabelsOnASingleLine: true"};
+        // The engine never adds a blank line: three in a row kept show a limit the form of two cannot
+        // (read as 2).
+        QTest::newRow("three blank lines kept, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, MaxEmptyLinesToKeep: 3}"
+            << QStringList{"MaxEmptyLinesToKeep: 3"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -396,7 +401,7 @@ private slots:
               "subscript", "long call in a function", "call without arguments", "kept line break in a condition",
               "kept line break in a function", "mixed pointers", "very long assignment",
               "kept line break in a declaration", "kept line breaks around operators", "multiline string",
-              "short case label"}) {
+              "short case label", "blank lines in a row"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
@@ -440,6 +445,7 @@ private slots:
             {{"function definition", "type name(type argument, type argument) {", "type name(type argument, type argument)\n{"},
              {"goto", "type name(void) {", "type name(void)\n{"},
              {"blank lines", "type name(void) {", "type name(void)\n{"},
+             {"blank lines in a row", "type name(void) {", "type name(void)\n{"},
              {"for each macro", "type name(void) {", "type name(void)\n{"},
              {"statement macro", "type name(void) {", "type name(void)\n{"},
              {"label in a block", "type name(void) {", "type name(void)\n{"},
