@@ -26,6 +26,9 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"blank lines", "type name(void) {\n\n  SOME;\n\n\n  SOME;\n}",
          "How many blank lines in a row are kept, and whether a block may begin with one.",
          {"MaxEmptyLinesToKeep", "KeepEmptyLines.AtStartOfBlock"}},
+        {"blank lines in a row", "type name(void) {\n  SOME;\n\n\n\n  SOME;\n}",
+         "Three blank lines in a row inside a function: how many of them are kept.",
+         {"MaxEmptyLinesToKeep"}},
         {"call without arguments", "name = name_part();",
          "A call with empty parentheses: whether a blank stands before them where one stands before other calls' "
          "arguments.",
@@ -104,10 +107,19 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "put it.",
          {"BraceWrapping.AfterControlStatement", "ColumnLimit", "AlignOperands", "BreakBeforeBinaryOperators",
           "ContinuationIndentWidth"}},
+        {"kept line break in a declaration", "type name =\n    SOME_LONG;\ntype name_part = name_long_part(\n    SOME, SOME);",
+         "Declarations their author broke after the `=` and after a call's `(`: kept so where the style has no column "
+         "limit, and then how far their second lines are indented.",
+         {"ColumnLimit", "ContinuationIndentWidth", "UseTab", "BreakBeforeBinaryOperators", "BinPackArguments"}},
         {"kept line break in a function", "type name(void) {\n  name_long_part(SOME,\n                 SOME);\n}",
          "A call inside a function its author wrote over two lines: kept so where the style has no column limit, and "
          "then how its second line lines up and whether tabs fill the way there.",
          {"ColumnLimit", "UseTab", "AlignAfterOpenBracket", "ContinuationIndentWidth", "BraceWrapping.AfterFunction"}},
+        {"kept line breaks around operators", "name = SOME_LONG +\n       SOME_LONG;\nname_part = SOME_LONG\n            - SOME_LONG;",
+         "Two expressions their author broke, one after an operator and one before: where the style has no column "
+         "limit, the break on the side the style puts operators stays and the other is joined, and then whether the "
+         "operands line up.",
+         {"ColumnLimit", "BreakBeforeBinaryOperators", "AlignOperands", "ContinuationIndentWidth"}},
         {"label in a block", "type name(void) {\n  if (SOME) {\n    SOME;\n    goto label;\n  label:\n    SOME;\n  }\n}",
          "How far a label inside a nested block is indented: one step out from the block's statements, or at the "
          "start of the line.",
@@ -167,6 +179,11 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "Declarations whose `*` lean two ways, most of them on the type: all lean as most do where the style takes "
          "the leaning from each file, all the style's own way otherwise.",
          {"DerivePointerAlignment", "PointerAlignment", "AlignConsecutiveDeclarations"}},
+        {"multiline string",
+         "name = \"a string \"\n       \"in two parts\";\nname_part(SOME, \"a string \"\n                \"in two parts\");",
+         "Strings written in parts on lines of their own, after an `=` and as an argument: whether the line breaks "
+         "before them, and how far their parts are then indented.",
+         {"AlwaysBreakBeforeMultilineStrings", "ContinuationIndentWidth", "AlignAfterOpenBracket"}},
         {"nested blocks",
          "if (SOME) {\n  while (SOME) {\n    if (SOME) {\n      while (SOME) {\n        SOME;\n        SOME;\n      }\n    }\n  }\n}",
          "Blocks four deep: how each level is indented, and where tabs take over from blanks.",
@@ -177,6 +194,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "Whether directives inside a conditional block are indented, and how.",
          {"IndentPPDirectives", "PPIndentWidth"}},
         {"return", "return SOME;", "A return statement.", {}},
+        {"short case label", "switch (SOME) {\ncase SOME: SOME; break;\ndefault: return SOME;\n}",
+         "Cases whose statements their author wrote on the line of their label: kept so where the style joins short "
+         "cases, split otherwise.",
+         {"AllowShortCaseLabelsOnASingleLine", "IndentCaseLabels", "BraceWrapping.AfterControlStatement"}},
         {"short function", "type name(type argument) { return SOME; }",
          "A function whose body is one short statement: on one line or not.",
          {"AllowShortFunctionsOnASingleLine", "BraceWrapping.AfterFunction", "BreakAfterReturnType"}},

@@ -298,13 +298,31 @@ bool kept_continuation_with_tab(forms_by_name const& forms) {
     return false;
 }
 
+// A declaration its author broke after a call's `(`, kept so (no column limit): how far in its
+// arguments stand is the continuation indent; 0 where the form is missing or joined.
+int kept_continuation_width(forms_by_name const& forms, int tab_width) {
+    std::string const* code = forms.find("kept line break in a declaration");
+    if (!code)
+        return 0;
+    std::vector<std::string> const lines = lines_of(*code);
+    for (std::size_t i = 0; i + 1 < lines.size(); ++i)
+        if (!lines[i].empty() && lines[i].back() == '(' && width_of_indent(lines[i], tab_width) == 0)
+            return width_of_indent(lines[i + 1], tab_width);
+    return 0;
+}
+
 continuation continuation_read_from(forms_by_name const& forms, int tab_width) {
     std::string const* code = forms.find("long function call");
     std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
     continuation read;
     read.with_tab = kept_continuation_with_tab(forms);
-    if (lines.size() < 2 || width_of_indent(lines[0], tab_width) > 0)
+    if (lines.size() < 2 || width_of_indent(lines[0], tab_width) > 0) {
+        // Without a limit the long call stays on its line: the kept declaration shows the width.
+        int const kept = kept_continuation_width(forms, tab_width);
+        if (kept > 0 && kept <= 8)
+            read.width = kept;
         return read;
+    }
     int const width = width_of_indent(lines[1], tab_width);
     if (width > 0 && width <= 8 && width != column_after_open_parenthesis(lines[0], tab_width)) {
         read.width = width;
@@ -565,6 +583,20 @@ std::string packed_arguments_read_from(forms_by_name const& forms) {
     return "{BinPackArguments: " + flag(broken("long call in a function", "name_part")) + "}";
 }
 
+// Strings written in parts: a line that ends before the first part (its `=` or `(` line, the
+// part starting the next) is a break before strings in parts. Without a column limit the author's
+// layout stays under either value, so this reading decides between them.
+std::string multiline_strings_read_from(forms_by_name const& forms) {
+    std::string const* code = forms.find("multiline string");
+    if (!code)
+        return std::string();
+    std::vector<std::string> const lines = lines_of(*code);
+    bool broken = false;
+    for (std::size_t i = 0; i + 1 < lines.size(); ++i)
+        broken = broken || (trimmed(lines[i]).find('"') == std::string::npos && starts_with(trimmed(lines[i + 1]), "\""));
+    return "{AlwaysBreakBeforeMultilineStrings: " + flag(broken) + "}";
+}
+
 // Two trailing comments their author set none and one blank away: kept so, comments stay where
 // they stand; in one column, they line up; each as far from its code, they are set the style's
 // distance away.
@@ -614,7 +646,7 @@ std::string column_limit_read_from(std::vector<form_case> const& forms) {
     return "{ColumnLimit: 0}";
 }
 
-// The most blank lines in a row the form keeps, and whether its block begins with one. The engine
+// The most blank lines in a row the forms keep, and whether a block begins with one. The engine
 // keeps blank lines and never adds one, so a form with fewer comes back under a larger limit too:
 // only this reading tells the values apart.
 std::string blank_lines_read_from(forms_by_name const& forms) {
@@ -623,10 +655,14 @@ std::string blank_lines_read_from(forms_by_name const& forms) {
         return std::string();
     std::vector<std::string> const lines = lines_of(*code);
     int most = 0;
-    int run = 0;
-    for (std::string const& line : lines) {
-        run = trimmed(line).empty() ? run + 1 : 0;
-        most = std::max(most, run);
+    // The form of more blank lines in a row shows a larger limit where the first form's two are kept.
+    std::string const* more = forms.find("blank lines in a row");
+    for (std::vector<std::string> const& each : {lines, more ? lines_of(*more) : std::vector<std::string>()}) {
+        int run = 0;
+        for (std::string const& line : each) {
+            run = trimmed(line).empty() ? run + 1 : 0;
+            most = std::max(most, run);
+        }
     }
     std::string reading = "{MaxEmptyLinesToKeep: " + std::to_string(most);
     auto const opening = std::find_if(lines.begin(), lines.end(), [](std::string const& line) {
@@ -731,6 +767,9 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     readings.braces = braces_read_from(named);
     if (!readings.braces.empty())
         readings.preferred.push_back(readings.braces);
+    std::string const strings = multiline_strings_read_from(named);
+    if (!strings.empty())
+        readings.preferred.push_back(strings);
     std::string const comments = trailing_comments_read_from(named, tab_width_read_from(forms));
     if (!comments.empty())
         readings.preferred.push_back(comments);

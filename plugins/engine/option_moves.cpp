@@ -137,7 +137,7 @@ std::vector<option_group> make_groups() {
         one_of("BitFieldColonSpacing", {"Both", "None", "Before", "After"}),
         one_of("AlignArrayOfStructures", {"None", "Left", "Right"}),
         flag("SpaceBeforeCaseColon"),
-        one_of("MaxEmptyLinesToKeep", {"1", "2"}),
+        one_of("MaxEmptyLinesToKeep", {"1", "2", "3"}),
         {"KeepEmptyLines.AtStartOfBlock",
          {"{KeepEmptyLines: {AtStartOfBlock: true}}", "{KeepEmptyLines: {AtStartOfBlock: false}}"}},
     };
@@ -156,6 +156,9 @@ std::vector<option_group> make_groups() {
         one_of("PenaltyBreakBeforeFirstCallParameter", {"19", "100"}),
     };
     groups.insert(groups.end(), breaks.begin(), breaks.end());
+    // Strings written in parts on lines of their own (the C family's adjacent literals): whether a
+    // line breaks before them.
+    groups.push_back(flag("AlwaysBreakBeforeMultilineStrings"));
     return groups;
 }
 
@@ -170,7 +173,7 @@ std::vector<option_group> make_groups_without(std::set<std::string> const& names
 
 // The groups of what Java, JavaScript and TypeScript lack: pointers, references, namespaces,
 // access labels of their own, templates, constructor initializer lists, structures, unions, the
-// preprocessor and bit fields.
+// preprocessor, bit fields and strings written in parts.
 std::set<std::string> const& without_pointers_templates_or_preprocessor() {
     static std::set<std::string> const groups = {
         "PointerAlignment", "DerivePointerAlignment", "ReferenceAlignment", "NamespaceIndentation",
@@ -180,7 +183,8 @@ std::set<std::string> const& without_pointers_templates_or_preprocessor() {
         "SpaceAfterTemplateKeyword", "BreakTemplateDeclarations", "BraceWrapping.AfterStruct",
         "BraceWrapping.AfterUnion", "BraceWrapping.AfterNamespace", "BraceWrapping.AfterExternBlock",
         "AlignConsecutiveMacros", "AlignConsecutiveBitFields", "BitFieldColonSpacing", "IndentExternBlock",
-        "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth", "IndentGotoLabels", "AlignArrayOfStructures"};
+        "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth", "IndentGotoLabels", "AlignArrayOfStructures",
+        "AlwaysBreakBeforeMultilineStrings"};
     return groups;
 }
 
@@ -235,7 +239,7 @@ std::vector<option_group> make_csharp_groups() {
         "SpaceAfterTemplateKeyword", "BreakTemplateDeclarations", "BraceWrapping.AfterUnion",
         "BraceWrapping.AfterExternBlock", "AlignConsecutiveMacros", "AlignConsecutiveBitFields",
         "BitFieldColonSpacing", "IndentExternBlock", "AlignEscapedNewlines", "IndentPPDirectives", "PPIndentWidth",
-        "IndentGotoLabels", "AlignArrayOfStructures"};
+        "IndentGotoLabels", "AlignArrayOfStructures", "AlwaysBreakBeforeMultilineStrings"};
     std::vector<option_group> groups = make_groups_without(c_family_only);
     return groups;
 }

@@ -329,6 +329,43 @@ private slots:
             << "C" << "{BasedOnStyle: Google, ColumnLimit: 0, AllowShortIfStatementsOnASingleLine: Never, "
                       "AllowShortLoopsOnASingleLine: false}"
             << QStringList{"AllowShortIfStatementsOnASingleLine: Never", "AllowShortLoopsOnASingleLine: false"};
+        // Without a column limit no long form breaks and arguments line up under their `(`: a
+        // declaration broken after its `(` shows the continuation indent (read as the base's).
+        QTest::newRow("continuation 8, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, ContinuationIndentWidth: 8}"
+            << QStringList{"ContinuationIndentWidth: 8", "ColumnLimit: 0"};
+        QTest::newRow("continuation 8, operators first, no column limit")
+            << "C++" << "{BasedOnStyle: GNU, ColumnLimit: 0, ContinuationIndentWidth: 8}"
+            << QStringList{"ContinuationIndentWidth: 8"};
+        // Without a column limit an expression broken on the other side of its operator is joined:
+        // expressions broken after and before an operator tell where operators go (read as `None`).
+        QTest::newRow("operators first but after =, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeBinaryOperators: NonAssignment}"
+            << QStringList{"BreakBeforeBinaryOperators: NonAssignment", "ColumnLimit: 0"};
+        // Operands not lined up show only in an expression broken at an operator, kept so without a
+        // column limit (read as aligned).
+        QTest::newRow("operands not aligned, no column limit")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AlignOperands: DontAlign}"
+            << QStringList{"AlignOperands: DontAlign", "ColumnLimit: 0"};
+        // A string in parts on lines of their own shows whether a line breaks before it (read as the
+        // base's either way).
+        QTest::newRow("no break before strings in parts, Google, no column limit")
+            << "C++" << "{BasedOnStyle: Google, ColumnLimit: 0, AlignOperands: DontAlign, AlwaysBreakBeforeMultilineStrings: false}"
+            << QStringList{"AlignOperands: DontAlign", "AlwaysBreakBeforeMultilineStrings: false"};
+        QTest::newRow("a break before strings in parts, continuation 8, tabs, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, IndentWidth: 8, TabWidth: 8, UseTab: ForContinuationAndIndentation, "
+                      "BreakBeforeBraces: Linux, ContinuationIndentWidth: 8, AlwaysBreakBeforeMultilineStrings: true}"
+            << QStringList{"AlwaysBreakBeforeMultilineStrings: true", "ContinuationIndentWidth: 8"};
+        // Without a column limit a case split by its author stays split: one written on the line of its
+        // label shows whether short cases are joined (read as never).
+        QTest::newRow("short cases on one line, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AllowShortCaseLabelsOnASingleLine: true}"
+            << QStringList{"AllowShortCaseLabelsOnASingleLine: true"};
+        // The engine never adds a blank line: three in a row kept show a limit the form of two cannot
+        // (read as 2).
+        QTest::newRow("three blank lines kept, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, MaxEmptyLinesToKeep: 3}"
+            << QStringList{"MaxEmptyLinesToKeep: 3"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -362,7 +399,9 @@ private slots:
              {"kept line break", "long call assignment", "long comment", "long return type", "long string", "nested blocks",
               "statement macro", "attribute macro", "label in a block", "comment spacing", "short if else",
               "subscript", "long call in a function", "call without arguments", "kept line break in a condition",
-              "kept line break in a function", "mixed pointers", "very long assignment"}) {
+              "kept line break in a function", "mixed pointers", "very long assignment",
+              "kept line break in a declaration", "kept line breaks around operators", "multiline string",
+              "short case label", "blank lines in a row"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
@@ -406,6 +445,7 @@ private slots:
             {{"function definition", "type name(type argument, type argument) {", "type name(type argument, type argument)\n{"},
              {"goto", "type name(void) {", "type name(void)\n{"},
              {"blank lines", "type name(void) {", "type name(void)\n{"},
+             {"blank lines in a row", "type name(void) {", "type name(void)\n{"},
              {"for each macro", "type name(void) {", "type name(void)\n{"},
              {"statement macro", "type name(void) {", "type name(void)\n{"},
              {"label in a block", "type name(void) {", "type name(void)\n{"},

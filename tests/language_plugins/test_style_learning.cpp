@@ -212,7 +212,7 @@ private slots:
         QTest::addColumn<QString>("middle");
         QTest::newRow("C, Linux kernel with the author's breaks kept")
             << "C" << "Linux kernel" << true << "{BasedOnStyle: LLVM, IndentWidth: 3}";
-        QTest::newRow("C, GNU as it stands") << "C" << "GNU" << false << "{BasedOnStyle: LLVM, IndentWidth: 3}";
+        QTest::newRow("C, GNU as it stands") << "C" << "GNU" << false << "{BasedOnStyle: GNU, IndentWidth: 3}";
         QTest::newRow("C++, Mozilla with the author's breaks kept")
             << "C++" << "Mozilla" << true << "{BasedOnStyle: Google, IndentWidth: 3}";
     }
