@@ -252,10 +252,6 @@ private:
     }
 };
 
-}  // namespace
-
-namespace {
-
 // A style that derives where `*` leans from the code it formats takes the leaning of most of that
 // code: the forms that show it are formatted each on its own, so that their own majority decides.
 bool formatted_alone(form_case const& form) {
