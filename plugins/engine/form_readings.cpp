@@ -400,8 +400,21 @@ std::string access_offset_read_from(forms_by_name const& forms) {
     return "{AccessModifierOffset: " + std::to_string(step - member_step) + ", IndentAccessModifiers: false}";
 }
 
-// The return type on a line of its own in declarations, or in definitions only; the name indented
-// under it or not.
+// Whether some line of a form is a return type alone (a member function's in a class, a
+// declaration's in an extern block), or the form is missing.
+bool return_type_alone_in(forms_by_name const& forms, std::string const& structure) {
+    std::string const* code = forms.find(structure);
+    if (!code)
+        return true;
+    for (std::string const& line : lines_of(*code))
+        if (trimmed(line) == "type")
+            return true;
+    return false;
+}
+
+// The return type on a line of its own in declarations, or in definitions only; inside classes
+// and extern blocks too or at the top level alone (with neither form, as everywhere); the name
+// indented under it or not.
 std::string return_type_read_from(forms_by_name const& forms) {
     std::string const* declaration = forms.find("function declaration");
     std::string const* definition = forms.find("function definition");
@@ -409,8 +422,13 @@ std::string return_type_read_from(forms_by_name const& forms) {
         return std::string();
     bool const declarations_break = starts_with(*declaration, "type\n");
     bool const definitions_break = starts_with(*definition, "type\n");
-    std::string reading = std::string("BreakAfterReturnType: ") +
-                          (declarations_break ? "All" : definitions_break ? "AllDefinitions" : "None");
+    std::string reading =
+        std::string("BreakAfterReturnType: ") +
+        (declarations_break ? (return_type_alone_in(forms, "class") && return_type_alone_in(forms, "extern block")
+                                   ? "All"
+                                   : "TopLevel")
+         : definitions_break ? (return_type_alone_in(forms, "inline method") ? "AllDefinitions" : "TopLevelDefinitions")
+                             : "None");
     if (definitions_break)
         reading += ", IndentWrappedFunctionNames: " + flag(forms.indent_of_line("function definition", 1) > 0);
     return "{" + reading + "}";
@@ -767,6 +785,11 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     readings.braces = braces_read_from(named);
     if (!readings.braces.empty())
         readings.preferred.push_back(readings.braces);
+    // Without a limit the engine keeps a return type on the line its author put it on, so styles
+    // that break only where the line is too long give the broken forms back too.
+    std::string const return_type = return_type_read_from(named);
+    if (!return_type.empty() && return_type.find("BreakAfterReturnType: None") == std::string::npos)
+        readings.preferred.push_back(return_type);
     std::string const strings = multiline_strings_read_from(named);
     if (!strings.empty())
         readings.preferred.push_back(strings);

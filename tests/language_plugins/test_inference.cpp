@@ -366,6 +366,19 @@ private slots:
         QTest::newRow("three blank lines kept, no column limit")
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, MaxEmptyLinesToKeep: 3}"
             << QStringList{"MaxEmptyLinesToKeep: 3"};
+        // Without a column limit the engine keeps a return type where its author put it, so breaking
+        // only where a line is too long gives the broken forms back too (read as `Automatic`); a
+        // member of a class or a declaration in an indented extern block tells the top level alone
+        // from every function (read as `All`).
+        QTest::newRow("return types on their own line at the top level, no column limit")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakAfterReturnType: TopLevel}"
+            << QStringList{"BreakAfterReturnType: TopLevel"};
+        QTest::newRow("return types of definitions on their own line at the top level, no column limit")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakAfterReturnType: TopLevelDefinitions}"
+            << QStringList{"BreakAfterReturnType: TopLevelDefinitions"};
+        QTest::newRow("return types on their own line at the top level, C, extern blocks indented, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakAfterReturnType: TopLevel, IndentExternBlock: Indent}"
+            << QStringList{"BreakAfterReturnType: TopLevel"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
