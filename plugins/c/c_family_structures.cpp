@@ -127,6 +127,12 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"long assignment", "name = SOME_LONG + SOME_LONG * SOME_LONG - SOME_LONG;",
          "How an expression too long for one line breaks: before or after its operators, and how far the rest is indented.",
          {"BreakBeforeBinaryOperators", "AlignOperands", "ContinuationIndentWidth", "ColumnLimit"}},
+        {"long assignment to an element",
+         "name_long_part[SOME_LONG]\n    = SOME_LONG.SOME_LONG.SOME_LONG.SOME_LONG;",
+         "An assignment too long for its line whose value cannot break, its author's line broken before the `=`: "
+         "broken at the `=` under any column limit, before it or after it, and without a limit kept so only where "
+         "the style puts every operator, `=` too, first on a line.",
+         {"BreakBeforeBinaryOperators", "ContinuationIndentWidth", "ColumnLimit"}},
         {"long call assignment",
          "type name = SOME_LONG(SOME_LONG, SOME_LONG, SOME_LONG);\nname_part = SOME_LONG(SOME_LONG, SOME_LONG) + SOME_LONG;",
          "How assignments of calls too long for one line break: after the `=`, after the `(`, or between the arguments.",

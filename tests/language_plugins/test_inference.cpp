@@ -379,6 +379,21 @@ private slots:
         QTest::newRow("return types on their own line at the top level, C, extern blocks indented, no column limit")
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakAfterReturnType: TopLevel, IndentExternBlock: Indent}"
             << QStringList{"BreakAfterReturnType: TopLevel"};
+        // An assignment whose value cannot break breaks at its `=`, on the side of the style's
+        // operators; without a limit a break its author made before the `=` stays only where `=`
+        // goes first too (each read as the other: no form broke at an `=`).
+        QTest::newRow("every operator first, = too, breaking after = costs more")
+            << "C++" << "{BasedOnStyle: LLVM, BreakBeforeBinaryOperators: All, BreakBeforeTernaryOperators: false, "
+                        "BreakConstructorInitializers: BeforeComma, PenaltyBreakAssignment: 100, "
+                        "PenaltyReturnTypeOnItsOwnLine: 1000, SpacesInParens: Custom, "
+                        "SpacesInParensOptions: {InConditionalStatements: true, Other: true}}"
+            << QStringList{"BreakBeforeBinaryOperators: All"};
+        QTest::newRow("operators first but after =, breaking after = costs more")
+            << "C++" << "{BasedOnStyle: LLVM, PenaltyBreakAssignment: 100, BreakBeforeBinaryOperators: NonAssignment}"
+            << QStringList{"BreakBeforeBinaryOperators: NonAssignment"};
+        QTest::newRow("every operator first, = too, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeBinaryOperators: All}"
+            << QStringList{"BreakBeforeBinaryOperators: All", "ColumnLimit: 0"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
