@@ -30,6 +30,15 @@ tarnel_engine::structure_catalogue cpp_only_structures() {
          "auto name = [&](type argument) { return SOME; };\nname_part(SOME, [](type argument) {\n  SOME;\n  SOME;\n});",
          "A lambda: a short one on one line, and how the body of a longer one is indented.",
          {"AllowShortLambdasOnASingleLine", "BraceWrapping.BeforeLambdaBody", "LambdaBodyIndentation"}},
+        {"long constructor initializers",
+         "name::name(type SOME_LONG, type SOME_LONG) : name_part(SOME_LONG), name(SOME_LONG) {\n  SOME;\n}\n"
+         "name::name(type SOME_LONG) : name_part(SOME_LONG), name(SOME_LONG), name_long_part(SOME_LONG), name_part(SOME), "
+         "name(SOME) {\n  SOME;\n}",
+         "Two constructors whose initializers do not fit on the line of their parameters, the first's together on "
+         "the next line under any column limit and the second's on no line: where the colon and the commas go, "
+         "whether the initializers share lines, and how far they are indented.",
+         {"BreakConstructorInitializers", "PackConstructorInitializers", "ConstructorInitializerIndentWidth",
+          "ColumnLimit", "BraceWrapping.AfterFunction"}},
         {"namespace", "namespace name {\nnamespace name_part {\ntype name();\n}\ntype name_long_part();\n}",
          "Namespaces: where their braces go and whether their content is indented.",
          {"NamespaceIndentation", "BraceWrapping.AfterNamespace"}},

@@ -394,6 +394,21 @@ private slots:
         QTest::newRow("every operator first, = too, no column limit")
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeBinaryOperators: All}"
             << QStringList{"BreakBeforeBinaryOperators: All", "ColumnLimit: 0"};
+        // Initializers too long for the line of their constructor (the short ones fit on it under
+        // any value, and read as the base's).
+        QTest::newRow("initializers after a comma first, together on the next line, 8 in")
+            << "C++" << "{BasedOnStyle: LLVM, BreakConstructorInitializers: BeforeComma, PackConstructorInitializers: NextLine, "
+                        "ConstructorInitializerIndentWidth: 8}"
+            << QStringList{"BreakConstructorInitializers: BeforeComma", "PackConstructorInitializers: NextLine",
+                           "ConstructorInitializerIndentWidth: 8"};
+        QTest::newRow("initializers after the colon, packed, 2 in")
+            << "C++" << "{BasedOnStyle: LLVM, BreakConstructorInitializers: AfterColon, PackConstructorInitializers: BinPack, "
+                        "ConstructorInitializerIndentWidth: 2}"
+            << QStringList{"BreakConstructorInitializers: AfterColon", "PackConstructorInitializers: BinPack",
+                           "ConstructorInitializerIndentWidth: 2"};
+        QTest::newRow("initializers one a line unless they fit on the current one, limit of 120")
+            << "C++" << "{BasedOnStyle: Google, ColumnLimit: 120, PackConstructorInitializers: CurrentLine}"
+            << QStringList{"PackConstructorInitializers: CurrentLine"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
