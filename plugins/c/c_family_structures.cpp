@@ -237,6 +237,13 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"trailing comments", "type name; // SOME\n\ntype name_long_part; // SOME",
          "Trailing comments with a blank line between them: whether they still line up.",
          {"AlignTrailingComments", "AlignTrailingComments.OverEmptyLines", "SpacesBeforeTrailingComments"}},
+        {"trailing comments after a long comment",
+         "// SOME_LONG comment on a line of its own, longer than any column limit: SOME_LONG SOME_LONG\n"
+         "type name;// SOME",
+         "A trailing comment its author set right after the code, below a comment too long for any column limit: "
+         "under a limit the engine sets it the style's distance away even where it leaves other comments where "
+         "they stand (it does so to every trailing comment after such a line).",
+         {"SpacesBeforeTrailingComments", "AlignTrailingComments", "ColumnLimit"}},
         {"typedef", "typedef struct {\n  type name;\n} name;", "A type definition of an unnamed structure.",
          {"BraceWrapping.AfterStruct"}},
         {"union", "union name {\n  type name;\n  type name_part;\n};", "A union: where its brace goes.",

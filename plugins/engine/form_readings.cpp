@@ -640,7 +640,8 @@ std::string trailing_comments_read_from(forms_by_name const& forms, int tab_widt
 }
 
 // Backslashes lined up at the column limit show it exactly; otherwise, the narrowest limit of the
-// table that every line of every form fits in, or none when the longest line passes them all.
+// table that every line of every form fits in, or none when the longest line passes them all (a
+// comment on a line of its own is never broken, and passes any limit).
 std::string column_limit_read_from(std::vector<form_case> const& forms) {
     // A short call written over two lines is joined under any limit; kept, there is none.
     if (keeps_line_breaks(forms_by_name(forms)))
@@ -650,7 +651,8 @@ std::string column_limit_read_from(std::vector<form_case> const& forms) {
     std::set<int> backslash_columns;
     for (form_case const& form : forms)
         for (std::string const& line : lines_of(form.code)) {
-            longest = std::max(longest, static_cast<std::size_t>(width_of_line(line, tab_width)));
+            if (!starts_with(trimmed(line), "//"))
+                longest = std::max(longest, static_cast<std::size_t>(width_of_line(line, tab_width)));
             if (form.structure == "macro" && !line.empty() && line.back() == '\\')
                 backslash_columns.insert(width_of_line(line, tab_width));
         }

@@ -409,6 +409,11 @@ private slots:
         QTest::newRow("initializers one a line unless they fit on the current one, limit of 120")
             << "C++" << "{BasedOnStyle: Google, ColumnLimit: 120, PackConstructorInitializers: CurrentLine}"
             << QStringList{"PackConstructorInitializers: CurrentLine"};
+        // Under a limit, after a comment too long for it, the engine sets trailing comments the
+        // style's distance away even where it leaves them where they stand (read as 1).
+        QTest::newRow("comments left where they stand, 2 blanks")
+            << "C" << "{BasedOnStyle: LLVM, AlignTrailingComments: {Kind: Leave}, SpacesBeforeTrailingComments: 2}"
+            << QStringList{"SpacesBeforeTrailingComments: 2"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
