@@ -145,6 +145,12 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "(a call outside any function is read as a declaration, whose parameters other options pack).",
          {"BinPackArguments", "AllowAllArgumentsOnNextLine", "AlignAfterOpenBracket",
           "PenaltyBreakBeforeFirstCallParameter", "ColumnLimit", "ContinuationIndentWidth", "BraceWrapping.AfterFunction"}},
+        {"long call through members",
+         "type name(void) {\n  SOME_LONG->SOME_LONG->SOME_LONG(SOME_LONG, SOME_LONG, SOME);\n}",
+         "A call reached through members, too long for its line under any column limit while its arguments fit "
+         "together on the next: whether they go there together where they are not packed, or one a line.",
+         {"AllowAllArgumentsOnNextLine", "BinPackArguments", "AlignAfterOpenBracket", "ContinuationIndentWidth",
+          "ColumnLimit", "BraceWrapping.AfterFunction"}},
         {"long comment", "name_part = SOME_LONG(SOME_LONG, SOME); // SOME comment that reaches past the column limit",
          "How the code before a trailing comment too long for its line breaks; the comment itself is never broken.",
          {"ColumnLimit", "ContinuationIndentWidth", "AlignAfterOpenBracket"}},

@@ -414,6 +414,15 @@ private slots:
         QTest::newRow("comments left where they stand, 2 blanks")
             << "C" << "{BasedOnStyle: LLVM, AlignTrailingComments: {Kind: Leave}, SpacesBeforeTrailingComments: 2}"
             << QStringList{"SpacesBeforeTrailingComments: 2"};
+        // Arguments not packed go together on the line after the `(` only where that is allowed; a
+        // call whose arguments fit there under any limit shows it (read as allowed: no form had one).
+        QTest::newRow("arguments one a line, never together on the next line")
+            << "C" << "{BasedOnStyle: LLVM, BinPackArguments: false, AllowAllArgumentsOnNextLine: false}"
+            << QStringList{"AllowAllArgumentsOnNextLine: false"};
+        QTest::newRow("arguments one a line, never together on the next line, broken after (, limit of 79")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 79, AlignAfterOpenBracket: AlwaysBreak, BinPackArguments: false, "
+                      "AllowAllArgumentsOnNextLine: false}"
+            << QStringList{"AllowAllArgumentsOnNextLine: false"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
