@@ -458,7 +458,8 @@ private slots:
               "subscript", "long call in a function", "call without arguments", "kept line break in a condition",
               "kept line break in a function", "mixed pointers", "very long assignment",
               "kept line break in a declaration", "kept line breaks around operators", "multiline string",
-              "short case label", "blank lines in a row"}) {
+              "short case label", "blank lines in a row", "long assignment to an element", "long call through members",
+              "long constructor initializers", "trailing comments after a long comment"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
@@ -506,7 +507,10 @@ private slots:
              {"for each macro", "type name(void) {", "type name(void)\n{"},
              {"statement macro", "type name(void) {", "type name(void)\n{"},
              {"label in a block", "type name(void) {", "type name(void)\n{"},
-             {"long call in a function", "type name(void) {", "type name(void)\n{"}},
+             {"long call in a function", "type name(void) {", "type name(void)\n{"},
+             {"long call through members", "type name(void) {", "type name(void)\n{"},
+             {"long constructor initializers", "name(SOME_LONG) {", "name(SOME_LONG)\n{"},
+             {"long constructor initializers", "name(SOME) {", "name(SOME)\n{"}},
             {{"attribute macro", "type *name", "type* name"},
              {"cast", "(type *)", "(type*)"},
              {"consecutive declarations", "type *name_long_part", "type* name_long_part"},
