@@ -5,7 +5,8 @@
 //       base; the addon written from each (kept in <directory>), its options inferred from the
 //       forms alone. Fields: set, reproducible (the generating set's own forms are fixed points),
 //       forms, fixed points, groups shown by the forms, of those recovered, seconds (cold), the
-//       generating options (one line of configuration; also kept in <directory>).
+//       generating options (one line of configuration; also kept in <directory>). With
+//       `fixed-points` last, the groups shown are not counted (both fields 0): a third of the time.
 //   inference_bench edits <addon>...
 //       for each addon and each value of each option group: the options inferred from the addon
 //       with that value, the forms that this changes rewritten as the engine lays them out; kept
@@ -145,7 +146,8 @@ bool same_value_of(tarnel_engine::option_group const& group, FormatStyle const& 
     return true;
 }
 
-int round_trip(std::string const& language_name, int count, unsigned seed, std::string const& directory) {
+int round_trip(std::string const& language_name, int count, unsigned seed, std::string const& directory,
+               bool fixed_points_only) {
     tarnel_engine::language_description const& language = language_name == "C" ? c_language() : cpp_language();
     std::mt19937 random(seed);
     auto const& groups = tarnel_engine::option_groups();
@@ -167,7 +169,7 @@ int round_trip(std::string const& language_name, int count, unsigned seed, std::
         // A group is shown when another of its values changes some form; recovered when the
         // inferred options hold the drawn value (or the base's, when none was drawn).
         int shown = 0, recovered = 0;
-        for (std::size_t group = 0; group < groups.size(); ++group) {
+        for (std::size_t group = 0; group < groups.size() && !fixed_points_only; ++group) {
             bool is_shown = false;
             for (std::string const& candidate : groups[group].candidates) {
                 FormatStyle other;
@@ -285,9 +287,10 @@ int warm(std::vector<std::string> const& paths) {
 
 int main(int argc, char** argv) {
     std::vector<std::string> const arguments(argv + 1, argv + argc);
-    if (arguments.size() == 5 && arguments[0] == "round-trip")
+    if ((arguments.size() == 5 || (arguments.size() == 6 && arguments[5] == "fixed-points")) &&
+        arguments[0] == "round-trip")
         return round_trip(arguments[1], std::stoi(arguments[2]), static_cast<unsigned>(std::stoul(arguments[3])),
-                          arguments[4]);
+                          arguments[4], arguments.size() == 6);
     if (arguments.size() >= 2 && arguments[0] == "edits")
         return edits({arguments.begin() + 1, arguments.end()});
     if (arguments.size() >= 5 && arguments[0] == "carries")
@@ -295,7 +298,8 @@ int main(int argc, char** argv) {
                        {arguments.begin() + 4, arguments.end()});
     if (arguments.size() >= 2 && arguments[0] == "warm")
         return warm({arguments.begin() + 1, arguments.end()});
-    std::cerr << "usage: inference_bench round-trip <C|C++> <count> <seed> <directory> | edits <addon>... |\n"
+    std::cerr << "usage: inference_bench round-trip <C|C++> <count> <seed> <directory> [fixed-points] |\n"
+                 "       edits <addon>... |\n"
                  "       carries <C|C++> <count> <seed> <source>... | warm <addon>...\n";
     return 2;
 }
