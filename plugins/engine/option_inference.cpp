@@ -34,6 +34,18 @@ std::vector<std::string> const list_packing = {"AlignAfterOpenBracket", "BinPack
                                                "AllowAllParametersOfDeclarationOnNextLine",
                                                "PenaltyBreakBeforeFirstCallParameter"};
 
+// The groups that decide how a line too long for the limit breaks, and how far its second line
+// goes: a structure names those it shows most, but a form that one of them puts off may need
+// another of them moved with it (a string in parts after `=` comes back only with operators broken
+// before as the style breaks them).
+std::vector<std::string> const line_breaking = {"ColumnLimit", "ContinuationIndentWidth", "BreakBeforeBinaryOperators",
+                                                "AlignOperands", "BreakBeforeTernaryOperators",
+                                                "AlwaysBreakBeforeMultilineStrings", "PenaltyBreakAssignment"};
+
+bool among(std::vector<std::string> const& names, std::string const& name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
 unsigned long total_of(std::vector<unsigned long> const& distances) {
     return std::accumulate(distances.begin(), distances.end(), 0UL);
 }
@@ -84,11 +96,11 @@ public:
     void descend(scored_style& current, std::vector<std::string> const& pinned) {
         kept = pinned;
         unhelpful.clear();
+        unmended.clear();
         while (current.total > 0 && within_budget()) {
             if (single_moves(current))
                 continue;
-            bool const coupled = coupled_move(current);
-            if (!coupled)
+            if (!coupled_move(current) && !mending_move(current))
                 return;
         }
     }
@@ -111,6 +123,8 @@ private:
     bool stopped = false;
     long formatted = 0;
     std::vector<std::string> kept;
+    // The distances under which no mending move improved: not tried again until they change.
+    std::vector<unsigned long> unmended;
     // The moves (one group, or two) that did not improve, with the distances of the forms that
     // judged them then: tried again only once those distances have changed.
     std::map<std::vector<std::size_t>, std::vector<unsigned long>> unhelpful;
@@ -208,6 +222,24 @@ private:
         return improved;
     }
 
+    // The groups that the structure of a form names, in table order, then tab use where tabs indent
+    // and every group that packs lists where it names one.
+    std::vector<std::size_t> moving_with(form_case const& form, bool uses_tabs) const {
+        std::vector<std::size_t> named;
+        for (std::size_t group = 0; group < groups.size(); ++group)
+            if (among(form.decides, groups[group].name))
+                named.push_back(group);
+        bool const lays_out_lists = std::any_of(form.decides.begin(), form.decides.end(),
+                                                [](auto const& name) { return among(list_packing, name); });
+        for (std::size_t group = 0; group < groups.size(); ++group) {
+            std::string const& name = groups[group].name;
+            bool const joins = (name == "UseTab" && uses_tabs) || (lays_out_lists && among(list_packing, name));
+            if (joins && std::find(named.begin(), named.end(), group) == named.end())
+                named.push_back(group);
+        }
+        return named;
+    }
+
     // The groups that the structure of a form still differing names (and tab use, where tabs
     // indent; and every group that packs lists, where it names one); for each pair of them, every
     // combination of their values. The first pair (in table order, form by form) that improves is
@@ -220,22 +252,7 @@ private:
         for (std::size_t i = 0; i < forms.size() && within_budget(); ++i) {
             if (current.distances[i] == 0)
                 continue;
-            std::vector<std::size_t> named;
-            for (std::size_t group = 0; group < groups.size(); ++group)
-                if (std::find(forms[i].decides.begin(), forms[i].decides.end(), groups[group].name) !=
-                    forms[i].decides.end())
-                    named.push_back(group);
-            bool const lays_out_lists = std::any_of(forms[i].decides.begin(), forms[i].decides.end(), [](auto const& name) {
-                return std::find(list_packing.begin(), list_packing.end(), name) != list_packing.end();
-            });
-            for (std::size_t group = 0; group < option_groups().size(); ++group) {
-                std::string const& name = option_groups()[group].name;
-                bool const joins = (name == "UseTab" && uses_tabs) ||
-                                   (lays_out_lists &&
-                                    std::find(list_packing.begin(), list_packing.end(), name) != list_packing.end());
-                if (joins && std::find(named.begin(), named.end(), group) == named.end())
-                    named.push_back(group);
-            }
+            std::vector<std::size_t> const named = moving_with(forms[i], uses_tabs);
             for (std::size_t a = 0; a < named.size(); ++a)
                 for (std::size_t b = a + 1; b < named.size(); ++b) {
                     if (!tried.insert({named[a], named[b]}).second || !within_budget())
@@ -248,6 +265,59 @@ private:
                         return true;
                 }
         }
+        return false;
+    }
+
+    // Where no pair that one form names improves: a group that a differing form names may bring
+    // that form closer but put others off, which need a group of their own moved with it (a
+    // continuation indent with the cost of breaking after `=`, operand alignment with the packing
+    // of parameters, the parenthesis left open with a break before strings in parts). Each such
+    // group pairs with the groups that the forms it puts off name and, where it breaks long lines,
+    // with the others that do; every combination of their values.
+    bool mending_move(scored_style& current) {
+        if (current.distances == unmended)
+            return false;
+        bool const uses_tabs = current.style.UseTab != clang::format::FormatStyle::UT_Never;
+        std::set<std::size_t> moved_groups;
+        std::set<std::pair<std::size_t, std::size_t>> tried;
+        for (std::size_t i = 0; i < forms.size(); ++i) {
+            if (current.distances[i] == 0)
+                continue;
+            for (std::size_t group : moving_with(forms[i], uses_tabs)) {
+                if (!within_budget())
+                    return false;
+                if (!moved_groups.insert(group).second)
+                    continue;
+                std::set<std::size_t> partners;
+                if (among(line_breaking, groups[group].name))
+                    for (std::size_t other = 0; other < groups.size(); ++other)
+                        if (among(line_breaking, groups[other].name))
+                            partners.insert(other);
+                for (clang::format::FormatStyle const& trial : moves_of(group, current.style)) {
+                    if (!within_budget())
+                        return false;
+                    scored_style const moved = scored(trial);
+                    if (moved.distances[i] >= current.distances[i])
+                        continue;
+                    for (std::size_t j = 0; j < forms.size(); ++j)
+                        if (moved.distances[j] > current.distances[j])
+                            for (std::size_t other : moving_with(forms[j], uses_tabs))
+                                partners.insert(other);
+                }
+                partners.erase(group);
+                for (std::size_t other : partners) {
+                    if (!tried.insert(std::minmax(group, other)).second || !within_budget())
+                        continue;
+                    std::vector<clang::format::FormatStyle> trials;
+                    for (clang::format::FormatStyle const& first : moves_of(group, current.style))
+                        for (clang::format::FormatStyle const& both : moves_of(other, first))
+                            trials.push_back(both);
+                    if (take_best_of(trials, {std::min(group, other), std::max(group, other)}, current))
+                        return true;
+                }
+            }
+        }
+        unmended = current.distances;
         return false;
     }
 };

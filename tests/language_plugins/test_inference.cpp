@@ -91,6 +91,13 @@ private slots:
                       "BraceWrapping: {AfterFunction: true, AfterEnum: true, AfterExternBlock: true}, "
                       "SpaceBeforeParens: ControlStatementsExceptForEachMacros, "
                       "ForEachMacros: [list_for_each_entry, for_each_possible_cpu]}";
+        // A form that one group brings back only while another group, which other forms name, moves
+        // with it (one at a time, each move put off more forms than it brought back).
+        QTest::newRow("C++ no limit, parenthesis left open, strings in parts on a line of their own, operators after")
+            << "C++" << "{BasedOnStyle: LLVM, IndentWidth: 4, UseTab: ForIndentation, ColumnLimit: 0, "
+                        "AlignAfterOpenBracket: BlockIndent, AlignOperands: AlignAfterOperator, "
+                        "AlwaysBreakBeforeMultilineStrings: true, BreakBeforeBinaryOperators: NonAssignment, "
+                        "ContinuationIndentWidth: 4, BreakBeforeTernaryOperators: false}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
