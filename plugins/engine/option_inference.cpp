@@ -96,11 +96,10 @@ public:
     void descend(scored_style& current, std::vector<std::string> const& pinned) {
         kept = pinned;
         unhelpful.clear();
-        unmended.clear();
         while (current.total > 0 && within_budget()) {
             if (single_moves(current))
                 continue;
-            if (!coupled_move(current) && !mending_move(current))
+            if (!coupled_move(current) && !mending_move(current) && !tab_width_move(current))
                 return;
         }
     }
@@ -123,8 +122,10 @@ private:
     bool stopped = false;
     long formatted = 0;
     std::vector<std::string> kept;
-    // The distances under which no mending move improved: not tried again until they change.
-    std::vector<unsigned long> unmended;
+    // The distances (with the readings held) under which no mending move, and no move of the tab
+    // width, improved: not tried there again, in this descent or a later one.
+    std::set<std::pair<std::vector<unsigned long>, std::vector<std::string>>> unmended;
+    std::set<std::pair<std::vector<unsigned long>, std::vector<std::string>>> untabbed;
     // The moves (one group, or two) that did not improve, with the distances of the forms that
     // judged them then: tried again only once those distances have changed.
     std::map<std::vector<std::size_t>, std::vector<unsigned long>> unhelpful;
@@ -198,21 +199,24 @@ private:
         std::vector<clang::format::FormatStyle> moved;
         for (std::string const& candidate : groups[group].candidates) {
             clang::format::FormatStyle trial = style;
-            if (!apply_candidate(trial, candidate) || same_options(trial, style))
-                continue;
-            bool holds = true;
-            for (std::string const& reading : kept) {
-                clang::format::FormatStyle held = trial;
-                holds = holds && apply_candidate(held, reading) && same_options(held, trial);
-            }
-            for (std::string const& value : excluded) {
-                clang::format::FormatStyle held = trial;
-                holds = holds && !(apply_candidate(held, value) && same_options(held, trial));
-            }
-            if (holds)
+            if (apply_candidate(trial, candidate) && !same_options(trial, style) && holds_readings(trial))
                 moved.push_back(std::move(trial));
         }
         return moved;
+    }
+
+    // Whether a style the search may move to holds the pinned readings and no excluded value.
+    bool holds_readings(clang::format::FormatStyle const& trial) const {
+        bool holds = true;
+        for (std::string const& reading : kept) {
+            clang::format::FormatStyle held = trial;
+            holds = holds && apply_candidate(held, reading) && same_options(held, trial);
+        }
+        for (std::string const& value : excluded) {
+            clang::format::FormatStyle held = trial;
+            holds = holds && !(apply_candidate(held, value) && same_options(held, trial));
+        }
+        return holds;
     }
 
     bool single_moves(scored_style& current) {
@@ -275,7 +279,7 @@ private:
     // group pairs with the groups that the forms it puts off name and, where it breaks long lines,
     // with the others that do; every combination of their values.
     bool mending_move(scored_style& current) {
-        if (current.distances == unmended)
+        if (unmended.count({current.distances, kept}))
             return false;
         bool const uses_tabs = current.style.UseTab != clang::format::FormatStyle::UT_Never;
         std::set<std::size_t> moved_groups;
@@ -317,7 +321,60 @@ private:
                 }
             }
         }
-        unmended = current.distances;
+        unmended.insert({current.distances, kept});
+        return false;
+    }
+
+    // Code indented with tabs alone looks the same under every tab width whose indent step is the
+    // same number of tabs: where tabs indent, the tab width moves to each other width, alone and
+    // with the indent step and the continuation indent measured in it (an indent of 8 in tabs of 4
+    // reads as 4 in tabs of 2), and each of those with one value of tab use, the continuation
+    // indent or indented braces (the groups whose lines reach past the tabs), or of a group that
+    // a form still differing names.
+    bool tab_width_move(scored_style& current) {
+        clang::format::FormatStyle const& style = current.style;
+        if (style.UseTab == clang::format::FormatStyle::UT_Never || untabbed.count({current.distances, kept}) ||
+            style.TabWidth == 0)
+            return false;
+        std::vector<clang::format::FormatStyle> widths;
+        for (unsigned const width : {2U, 4U, 8U}) {
+            if (width == style.TabWidth)
+                continue;
+            for (bool const scaled_step : {false, true})
+                for (bool const scaled_continuation : {false, true}) {
+                    clang::format::FormatStyle trial = style;
+                    trial.TabWidth = width;
+                    if (scaled_step)
+                        trial.IndentWidth = style.IndentWidth * width / style.TabWidth;
+                    if (scaled_continuation)
+                        trial.ContinuationIndentWidth = style.ContinuationIndentWidth * width / style.TabWidth;
+                    if ((scaled_step && (trial.IndentWidth * style.TabWidth != style.IndentWidth * width ||
+                                         trial.IndentWidth == 0)) ||
+                        (scaled_continuation &&
+                         (trial.ContinuationIndentWidth * style.TabWidth != style.ContinuationIndentWidth * width ||
+                          trial.ContinuationIndentWidth == 0)) ||
+                        !holds_readings(trial) ||
+                        std::any_of(widths.begin(), widths.end(),
+                                    [&](auto const& known) { return same_options(known, trial); }))
+                        continue;
+                    widths.push_back(trial);
+                }
+        }
+        std::vector<clang::format::FormatStyle> trials = widths;
+        for (std::size_t group = 0; group < groups.size(); ++group) {
+            std::string const& name = groups[group].name;
+            bool const named = std::any_of(forms.begin(), forms.end(), [&](form_case const& form) {
+                return current.distances[&form - forms.data()] > 0 && among(form.decides, name);
+            });
+            if (!named && name != "UseTab" && name != "ContinuationIndentWidth" && name != "BraceWrapping.IndentBraces")
+                continue;
+            for (clang::format::FormatStyle const& width : widths)
+                for (clang::format::FormatStyle& both : moves_of(group, width))
+                    trials.push_back(std::move(both));
+        }
+        if (take_best_of(trials, forms, current.total, current))
+            return true;
+        untabbed.insert({current.distances, kept});
         return false;
     }
 };

@@ -48,7 +48,9 @@ public:
 
 private:
     lexed_as language;
-    long formatting_budget = 30000;
+    // Twice what single and coupled moves alone needed: the moves that mend a form with two groups,
+    // and those of the tab width, are tried where the others stall, after the first starts.
+    long formatting_budget = 60000;
     going_on_check going_on;
     distance_measure measure;
 };

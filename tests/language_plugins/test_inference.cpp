@@ -98,6 +98,12 @@ private slots:
                         "AlignAfterOpenBracket: BlockIndent, AlignOperands: AlignAfterOperator, "
                         "AlwaysBreakBeforeMultilineStrings: true, BreakBeforeBinaryOperators: NonAssignment, "
                         "ContinuationIndentWidth: 4, BreakBeforeTernaryOperators: false}";
+        // Code indented with tabs alone reads as an indent of 4 in tabs of 4 as well as 8 in tabs of 8:
+        // the tab width moves with the indent step, the continuation indent and the tab use.
+        QTest::newRow("C tabs of 8 for continuation, indent 8, parenthesis left open, operators first but after =")
+            << "C" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: BlockIndent, AlignEscapedNewlines: DontAlign, "
+                      "BreakBeforeBinaryOperators: NonAssignment, ColumnLimit: 100, ContinuationIndentWidth: 8, "
+                      "Cpp11BracedListStyle: false, IndentWidth: 8, UseTab: ForContinuationAndIndentation}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
