@@ -98,8 +98,13 @@ private slots:
                         "AlignAfterOpenBracket: BlockIndent, AlignOperands: AlignAfterOperator, "
                         "AlwaysBreakBeforeMultilineStrings: true, BreakBeforeBinaryOperators: NonAssignment, "
                         "ContinuationIndentWidth: 4, BreakBeforeTernaryOperators: false}";
-        // Code indented with tabs alone reads as an indent of 4 in tabs of 4 as well as 8 in tabs of 8:
-        // the tab width moves with the indent step, the continuation indent and the tab use.
+        // Code indented with tabs alone reads as an indent of 8 in tabs of 4 as well as 4 in tabs of 2:
+        // the tab width moves with the indent step measured in it (read as tabs of 2, and 2 forms lost).
+        QTest::newRow("C indent 8 in tabs of 4, tabs for indentation and blanks for alignment")
+            << "C" << "{BasedOnStyle: LLVM, AlignEscapedNewlines: DontAlign, IndentWidth: 8, TabWidth: 4, "
+                      "UseTab: AlignWithSpaces}";
+        // Lost to two groups moved together (main's search found neither), brought back by either the
+        // mending move or the tab width's.
         QTest::newRow("C tabs of 8 for continuation, indent 8, parenthesis left open, operators first but after =")
             << "C" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: BlockIndent, AlignEscapedNewlines: DontAlign, "
                       "BreakBeforeBinaryOperators: NonAssignment, ColumnLimit: 100, ContinuationIndentWidth: 8, "
