@@ -5,7 +5,8 @@
 //       base; the addon written from each (kept in <directory>), its options inferred from the
 //       forms alone. Fields: set, reproducible (the generating set's own forms are fixed points),
 //       forms, fixed points, groups shown by the forms, of those recovered, seconds (cold), the
-//       generating options (one line of configuration; also kept in <directory>).
+//       generating options (one line of configuration; also kept in <directory>). With
+//       `fixed-points` last, the groups shown are not counted (both fields 0): a third of the time.
 //   inference_bench edits <addon>...
 //       for each addon and each value of each option group: the options inferred from the addon
 //       with that value, the forms that this changes rewritten as the engine lays them out; kept
@@ -19,6 +20,11 @@
 //       lose (comma-separated), the generating options, and for each group lost the lines that
 //       the engine under the inferred options gains when that group alone takes the generating
 //       value (group:lines, comma-separated).
+//   inference_bench explain <addon> <generating options>
+//       why a round trip missed: the forms that do not come back under the inferred options (and
+//       their distance), then each option group whose inferred value differs from the generating
+//       one (with the forms that this moves), and each pair of them that brings the total distance
+//       down, with that total.
 //   inference_bench warm <addon>...
 //       seconds to obtain the options of each addon in this process (from the disk cache when a
 //       previous run filled it).
@@ -145,7 +151,8 @@ bool same_value_of(tarnel_engine::option_group const& group, FormatStyle const& 
     return true;
 }
 
-int round_trip(std::string const& language_name, int count, unsigned seed, std::string const& directory) {
+int round_trip(std::string const& language_name, int count, unsigned seed, std::string const& directory,
+               bool fixed_points_only) {
     tarnel_engine::language_description const& language = language_name == "C" ? c_language() : cpp_language();
     std::mt19937 random(seed);
     auto const& groups = tarnel_engine::option_groups();
@@ -167,7 +174,7 @@ int round_trip(std::string const& language_name, int count, unsigned seed, std::
         // A group is shown when another of its values changes some form; recovered when the
         // inferred options hold the drawn value (or the base's, when none was drawn).
         int shown = 0, recovered = 0;
-        for (std::size_t group = 0; group < groups.size(); ++group) {
+        for (std::size_t group = 0; group < groups.size() && !fixed_points_only; ++group) {
             bool is_shown = false;
             for (std::string const& candidate : groups[group].candidates) {
                 FormatStyle other;
@@ -271,6 +278,59 @@ int carries(std::string const& language_name, int count, unsigned seed, std::vec
     return 0;
 }
 
+int explain(std::string const& addon_path, std::string const& options_path) {
+    std::string const addon = contents_of(addon_path);
+    tarnel_engine::language_description const& language = language_of(addon);
+    FormatStyle generating = tarnel_engine::token_safe_predefined_style("LLVM", language.lexing);
+    if (!tarnel_engine::read_configuration(contents_of(options_path), generating)) {
+        std::cerr << "cannot read " << options_path << "\n";
+        return 1;
+    }
+    std::vector<tarnel_engine::form_case> const forms = tarnel_engine::form_cases_in(addon, language);
+    FormatStyle const inferred = tarnel_engine::infer_options(language.lexing).from(forms);
+    auto const total_under = [&](FormatStyle const& style) {
+        std::vector<unsigned long> const distances = tarnel_engine::distances_of(forms, style);
+        unsigned long total = 0;
+        for (unsigned long each : distances)
+            total += each;
+        return total;
+    };
+    std::vector<unsigned long> const distances = tarnel_engine::distances_of(forms, inferred);
+    unsigned long const total = total_under(inferred);
+    std::cout << "inferred: " << total << ", generating: " << total_under(generating) << "\n";
+    for (std::size_t i = 0; i < forms.size(); ++i)
+        if (distances[i])
+            std::cout << "  differs: " << forms[i].structure << " (" << distances[i] << ")\n";
+    std::vector<std::pair<std::string, std::string>> differing;
+    for (auto const& group : tarnel_engine::option_groups(language.lexing)) {
+        if (same_value_of(group, generating, inferred))
+            continue;
+        for (std::string const& candidate : group.candidates) {
+            FormatStyle unchanged, mended;
+            if (moved(generating, candidate, unchanged) || !moved(inferred, candidate, mended))
+                continue;
+            differing.emplace_back(group.name, candidate);
+            std::vector<unsigned long> const after = tarnel_engine::distances_of(forms, mended);
+            std::cout << "single " << candidate << ": " << total_under(mended);
+            for (std::size_t i = 0; i < forms.size(); ++i)
+                if (after[i] != distances[i])
+                    std::cout << ", " << forms[i].structure << " " << distances[i] << " to " << after[i];
+            std::cout << "\n";
+            break;
+        }
+    }
+    for (std::size_t a = 0; a < differing.size(); ++a)
+        for (std::size_t b = a + 1; b < differing.size(); ++b) {
+            FormatStyle both = inferred;
+            tarnel_engine::apply_candidate(both, differing[a].second);
+            tarnel_engine::apply_candidate(both, differing[b].second);
+            unsigned long const moved_total = total_under(both);
+            if (moved_total < total)
+                std::cout << "pair " << differing[a].second << " " << differing[b].second << ": " << moved_total << "\n";
+        }
+    return 0;
+}
+
 int warm(std::vector<std::string> const& paths) {
     for (std::string const& path : paths) {
         std::string const addon = contents_of(path);
@@ -285,17 +345,22 @@ int warm(std::vector<std::string> const& paths) {
 
 int main(int argc, char** argv) {
     std::vector<std::string> const arguments(argv + 1, argv + argc);
-    if (arguments.size() == 5 && arguments[0] == "round-trip")
+    if ((arguments.size() == 5 || (arguments.size() == 6 && arguments[5] == "fixed-points")) &&
+        arguments[0] == "round-trip")
         return round_trip(arguments[1], std::stoi(arguments[2]), static_cast<unsigned>(std::stoul(arguments[3])),
-                          arguments[4]);
+                          arguments[4], arguments.size() == 6);
     if (arguments.size() >= 2 && arguments[0] == "edits")
         return edits({arguments.begin() + 1, arguments.end()});
     if (arguments.size() >= 5 && arguments[0] == "carries")
         return carries(arguments[1], std::stoi(arguments[2]), static_cast<unsigned>(std::stoul(arguments[3])),
                        {arguments.begin() + 4, arguments.end()});
+    if (arguments.size() == 3 && arguments[0] == "explain")
+        return explain(arguments[1], arguments[2]);
     if (arguments.size() >= 2 && arguments[0] == "warm")
         return warm({arguments.begin() + 1, arguments.end()});
-    std::cerr << "usage: inference_bench round-trip <C|C++> <count> <seed> <directory> | edits <addon>... |\n"
-                 "       carries <C|C++> <count> <seed> <source>... | warm <addon>...\n";
+    std::cerr << "usage: inference_bench round-trip <C|C++> <count> <seed> <directory> [fixed-points] |\n"
+                 "       edits <addon>... |\n"
+                 "       carries <C|C++> <count> <seed> <source>... | explain <addon> <options> |\n"
+                 "       warm <addon>...\n";
     return 2;
 }

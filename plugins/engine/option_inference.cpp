@@ -34,6 +34,18 @@ std::vector<std::string> const list_packing = {"AlignAfterOpenBracket", "BinPack
                                                "AllowAllParametersOfDeclarationOnNextLine",
                                                "PenaltyBreakBeforeFirstCallParameter"};
 
+// The groups that decide how a line too long for the limit breaks, and how far its second line
+// goes: a structure names those it shows most, but a form that one of them puts off may need
+// another of them moved with it (a string in parts after `=` comes back only with operators broken
+// before as the style breaks them).
+std::vector<std::string> const line_breaking = {"ColumnLimit", "ContinuationIndentWidth", "BreakBeforeBinaryOperators",
+                                                "AlignOperands", "BreakBeforeTernaryOperators",
+                                                "AlwaysBreakBeforeMultilineStrings", "PenaltyBreakAssignment"};
+
+bool among(std::vector<std::string> const& names, std::string const& name) {
+    return std::find(names.begin(), names.end(), name) != names.end();
+}
+
 unsigned long total_of(std::vector<unsigned long> const& distances) {
     return std::accumulate(distances.begin(), distances.end(), 0UL);
 }
@@ -87,8 +99,7 @@ public:
         while (current.total > 0 && within_budget()) {
             if (single_moves(current))
                 continue;
-            bool const coupled = coupled_move(current);
-            if (!coupled)
+            if (!coupled_move(current) && !mending_move(current) && !tab_width_move(current))
                 return;
         }
     }
@@ -111,6 +122,10 @@ private:
     bool stopped = false;
     long formatted = 0;
     std::vector<std::string> kept;
+    // The distances (with the readings held) under which no mending move, and no move of the tab
+    // width, improved: not tried there again, in this descent or a later one.
+    std::set<std::pair<std::vector<unsigned long>, std::vector<std::string>>> unmended;
+    std::set<std::pair<std::vector<unsigned long>, std::vector<std::string>>> untabbed;
     // The moves (one group, or two) that did not improve, with the distances of the forms that
     // judged them then: tried again only once those distances have changed.
     std::map<std::vector<std::size_t>, std::vector<unsigned long>> unhelpful;
@@ -184,21 +199,24 @@ private:
         std::vector<clang::format::FormatStyle> moved;
         for (std::string const& candidate : groups[group].candidates) {
             clang::format::FormatStyle trial = style;
-            if (!apply_candidate(trial, candidate) || same_options(trial, style))
-                continue;
-            bool holds = true;
-            for (std::string const& reading : kept) {
-                clang::format::FormatStyle held = trial;
-                holds = holds && apply_candidate(held, reading) && same_options(held, trial);
-            }
-            for (std::string const& value : excluded) {
-                clang::format::FormatStyle held = trial;
-                holds = holds && !(apply_candidate(held, value) && same_options(held, trial));
-            }
-            if (holds)
+            if (apply_candidate(trial, candidate) && !same_options(trial, style) && holds_readings(trial))
                 moved.push_back(std::move(trial));
         }
         return moved;
+    }
+
+    // Whether a style the search may move to holds the pinned readings and no excluded value.
+    bool holds_readings(clang::format::FormatStyle const& trial) const {
+        bool holds = true;
+        for (std::string const& reading : kept) {
+            clang::format::FormatStyle held = trial;
+            holds = holds && apply_candidate(held, reading) && same_options(held, trial);
+        }
+        for (std::string const& value : excluded) {
+            clang::format::FormatStyle held = trial;
+            holds = holds && !(apply_candidate(held, value) && same_options(held, trial));
+        }
+        return holds;
     }
 
     bool single_moves(scored_style& current) {
@@ -206,6 +224,24 @@ private:
         for (std::size_t group = 0; group < groups.size() && current.total > 0 && within_budget(); ++group)
             improved = take_best_of(moves_of(group, current.style), {group}, current) || improved;
         return improved;
+    }
+
+    // The groups that the structure of a form names, in table order, then tab use where tabs indent
+    // and every group that packs lists where it names one.
+    std::vector<std::size_t> moving_with(form_case const& form, bool uses_tabs) const {
+        std::vector<std::size_t> named;
+        for (std::size_t group = 0; group < groups.size(); ++group)
+            if (among(form.decides, groups[group].name))
+                named.push_back(group);
+        bool const lays_out_lists = std::any_of(form.decides.begin(), form.decides.end(),
+                                                [](auto const& name) { return among(list_packing, name); });
+        for (std::size_t group = 0; group < groups.size(); ++group) {
+            std::string const& name = groups[group].name;
+            bool const joins = (name == "UseTab" && uses_tabs) || (lays_out_lists && among(list_packing, name));
+            if (joins && std::find(named.begin(), named.end(), group) == named.end())
+                named.push_back(group);
+        }
+        return named;
     }
 
     // The groups that the structure of a form still differing names (and tab use, where tabs
@@ -220,22 +256,7 @@ private:
         for (std::size_t i = 0; i < forms.size() && within_budget(); ++i) {
             if (current.distances[i] == 0)
                 continue;
-            std::vector<std::size_t> named;
-            for (std::size_t group = 0; group < groups.size(); ++group)
-                if (std::find(forms[i].decides.begin(), forms[i].decides.end(), groups[group].name) !=
-                    forms[i].decides.end())
-                    named.push_back(group);
-            bool const lays_out_lists = std::any_of(forms[i].decides.begin(), forms[i].decides.end(), [](auto const& name) {
-                return std::find(list_packing.begin(), list_packing.end(), name) != list_packing.end();
-            });
-            for (std::size_t group = 0; group < option_groups().size(); ++group) {
-                std::string const& name = option_groups()[group].name;
-                bool const joins = (name == "UseTab" && uses_tabs) ||
-                                   (lays_out_lists &&
-                                    std::find(list_packing.begin(), list_packing.end(), name) != list_packing.end());
-                if (joins && std::find(named.begin(), named.end(), group) == named.end())
-                    named.push_back(group);
-            }
+            std::vector<std::size_t> const named = moving_with(forms[i], uses_tabs);
             for (std::size_t a = 0; a < named.size(); ++a)
                 for (std::size_t b = a + 1; b < named.size(); ++b) {
                     if (!tried.insert({named[a], named[b]}).second || !within_budget())
@@ -248,6 +269,112 @@ private:
                         return true;
                 }
         }
+        return false;
+    }
+
+    // Where no pair that one form names improves: a group that a differing form names may bring
+    // that form closer but put others off, which need a group of their own moved with it (a
+    // continuation indent with the cost of breaking after `=`, operand alignment with the packing
+    // of parameters, the parenthesis left open with a break before strings in parts). Each such
+    // group pairs with the groups that the forms it puts off name and, where it breaks long lines,
+    // with the others that do; every combination of their values.
+    bool mending_move(scored_style& current) {
+        if (unmended.count({current.distances, kept}))
+            return false;
+        bool const uses_tabs = current.style.UseTab != clang::format::FormatStyle::UT_Never;
+        std::set<std::size_t> moved_groups;
+        std::set<std::pair<std::size_t, std::size_t>> tried;
+        for (std::size_t i = 0; i < forms.size(); ++i) {
+            if (current.distances[i] == 0)
+                continue;
+            for (std::size_t group : moving_with(forms[i], uses_tabs)) {
+                if (!within_budget())
+                    return false;
+                if (!moved_groups.insert(group).second)
+                    continue;
+                std::set<std::size_t> partners;
+                if (among(line_breaking, groups[group].name))
+                    for (std::size_t other = 0; other < groups.size(); ++other)
+                        if (among(line_breaking, groups[other].name))
+                            partners.insert(other);
+                for (clang::format::FormatStyle const& trial : moves_of(group, current.style)) {
+                    if (!within_budget())
+                        return false;
+                    scored_style const moved = scored(trial);
+                    if (moved.distances[i] >= current.distances[i])
+                        continue;
+                    for (std::size_t j = 0; j < forms.size(); ++j)
+                        if (moved.distances[j] > current.distances[j])
+                            for (std::size_t other : moving_with(forms[j], uses_tabs))
+                                partners.insert(other);
+                }
+                partners.erase(group);
+                for (std::size_t other : partners) {
+                    if (!tried.insert(std::minmax(group, other)).second || !within_budget())
+                        continue;
+                    std::vector<clang::format::FormatStyle> trials;
+                    for (clang::format::FormatStyle const& first : moves_of(group, current.style))
+                        for (clang::format::FormatStyle const& both : moves_of(other, first))
+                            trials.push_back(both);
+                    if (take_best_of(trials, {std::min(group, other), std::max(group, other)}, current))
+                        return true;
+                }
+            }
+        }
+        unmended.insert({current.distances, kept});
+        return false;
+    }
+
+    // Code indented with tabs alone looks the same under every tab width whose indent step is the
+    // same number of tabs: where tabs indent, the tab width moves to each other width, alone and
+    // with the indent step and the continuation indent measured in it (an indent of 8 in tabs of 4
+    // reads as 4 in tabs of 2), and each of those with one value of tab use, the continuation
+    // indent or indented braces (the groups whose lines reach past the tabs), or of a group that
+    // a form still differing names.
+    bool tab_width_move(scored_style& current) {
+        clang::format::FormatStyle const& style = current.style;
+        if (style.UseTab == clang::format::FormatStyle::UT_Never || untabbed.count({current.distances, kept}) ||
+            style.TabWidth == 0)
+            return false;
+        std::vector<clang::format::FormatStyle> widths;
+        for (unsigned const width : {2U, 4U, 8U}) {
+            if (width == style.TabWidth)
+                continue;
+            for (bool const scaled_step : {false, true})
+                for (bool const scaled_continuation : {false, true}) {
+                    clang::format::FormatStyle trial = style;
+                    trial.TabWidth = width;
+                    if (scaled_step)
+                        trial.IndentWidth = style.IndentWidth * width / style.TabWidth;
+                    if (scaled_continuation)
+                        trial.ContinuationIndentWidth = style.ContinuationIndentWidth * width / style.TabWidth;
+                    if ((scaled_step && (trial.IndentWidth * style.TabWidth != style.IndentWidth * width ||
+                                         trial.IndentWidth == 0)) ||
+                        (scaled_continuation &&
+                         (trial.ContinuationIndentWidth * style.TabWidth != style.ContinuationIndentWidth * width ||
+                          trial.ContinuationIndentWidth == 0)) ||
+                        !holds_readings(trial) ||
+                        std::any_of(widths.begin(), widths.end(),
+                                    [&](auto const& known) { return same_options(known, trial); }))
+                        continue;
+                    widths.push_back(trial);
+                }
+        }
+        std::vector<clang::format::FormatStyle> trials = widths;
+        for (std::size_t group = 0; group < groups.size(); ++group) {
+            std::string const& name = groups[group].name;
+            bool const named = std::any_of(forms.begin(), forms.end(), [&](form_case const& form) {
+                return current.distances[&form - forms.data()] > 0 && among(form.decides, name);
+            });
+            if (!named && name != "UseTab" && name != "ContinuationIndentWidth" && name != "BraceWrapping.IndentBraces")
+                continue;
+            for (clang::format::FormatStyle const& width : widths)
+                for (clang::format::FormatStyle& both : moves_of(group, width))
+                    trials.push_back(std::move(both));
+        }
+        if (take_best_of(trials, forms, current.total, current))
+            return true;
+        untabbed.insert({current.distances, kept});
         return false;
     }
 };

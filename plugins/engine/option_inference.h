@@ -21,9 +21,11 @@ namespace tarnel_engine {
 // one option group at a time, judged first on the forms that name it or still differ, then two
 // groups that one structure names together where one alone cannot improve (brace placement with
 // short functions, operator breaks with alignment, ...; tab use with any of them where tabs indent,
-// and the groups that pack lists with each other). The result has the smallest total white-space distance found between the
-// forms and their formatted results. Deterministic: the same forms give the same options; the work
-// is bounded by a count of forms formatted, never by time.
+// and the groups that pack lists with each other), and last, where no such pair improves, a group
+// that a differing form names with one that the forms its move puts off name (or, for the groups
+// that break long lines, with another of those). The result has the smallest total white-space
+// distance found between the forms and their formatted results. Deterministic: the same forms give
+// the same options; the work is bounded by a count of forms formatted, never by time.
 class infer_options {
 public:
     // Told the forms formatted so far and the bound; the search stops at once when it says false.
@@ -46,7 +48,9 @@ public:
 
 private:
     lexed_as language;
-    long formatting_budget = 30000;
+    // Twice what single and coupled moves alone needed: the moves that mend a form with two groups,
+    // and those of the tab width, are tried where the others stall, after the first starts.
+    long formatting_budget = 60000;
     going_on_check going_on;
     distance_measure measure;
 };

@@ -91,6 +91,24 @@ private slots:
                       "BraceWrapping: {AfterFunction: true, AfterEnum: true, AfterExternBlock: true}, "
                       "SpaceBeforeParens: ControlStatementsExceptForEachMacros, "
                       "ForEachMacros: [list_for_each_entry, for_each_possible_cpu]}";
+        // A form that one group brings back only while another group, which other forms name, moves
+        // with it (one at a time, each move put off more forms than it brought back).
+        QTest::newRow("C++ no limit, parenthesis left open, strings in parts on a line of their own, operators after")
+            << "C++" << "{BasedOnStyle: LLVM, IndentWidth: 4, UseTab: ForIndentation, ColumnLimit: 0, "
+                        "AlignAfterOpenBracket: BlockIndent, AlignOperands: AlignAfterOperator, "
+                        "AlwaysBreakBeforeMultilineStrings: true, BreakBeforeBinaryOperators: NonAssignment, "
+                        "ContinuationIndentWidth: 4, BreakBeforeTernaryOperators: false}";
+        // Code indented with tabs alone reads as an indent of 8 in tabs of 4 as well as 4 in tabs of 2:
+        // the tab width moves with the indent step measured in it (read as tabs of 2, and 2 forms lost).
+        QTest::newRow("C indent 8 in tabs of 4, tabs for indentation and blanks for alignment")
+            << "C" << "{BasedOnStyle: LLVM, AlignEscapedNewlines: DontAlign, IndentWidth: 8, TabWidth: 4, "
+                      "UseTab: AlignWithSpaces}";
+        // Lost to two groups moved together (main's search found neither), brought back by either the
+        // mending move or the tab width's.
+        QTest::newRow("C tabs of 8 for continuation, indent 8, parenthesis left open, operators first but after =")
+            << "C" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: BlockIndent, AlignEscapedNewlines: DontAlign, "
+                      "BreakBeforeBinaryOperators: NonAssignment, ColumnLimit: 100, ContinuationIndentWidth: 8, "
+                      "Cpp11BracedListStyle: false, IndentWidth: 8, UseTab: ForContinuationAndIndentation}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
