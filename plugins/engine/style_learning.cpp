@@ -563,10 +563,28 @@ std::string trailing_comment_blanks_read_from(std::vector<std::string> const& pi
     return count > 0 ? "{SpacesBeforeTrailingComments: " + std::to_string(count) + "}" : std::string();
 }
 
-// `sources` are the whole sources the sample was taken from: the macros used as loops, statements
-// and attributes are found in all of them, since a sample may hold few uses.
+// What the whole sources the sample was taken from show: the rules read from every one of them, and
+// the macros they use as loops, statements and attributes (a sample may hold few uses), each kind
+// in the engine's configuration syntax.
+struct read_from_every_source {
+    std::vector<std::string> rules;
+    std::vector<std::string> macros;
+};
+
+read_from_every_source read_from(std::vector<std::string> const& sources, int tab_width) {
+    read_from_every_source read;
+    read.rules = rules_read_from_every_source(sources, tab_width);
+    for (macro_kind const& kind : macro_kinds()) {
+        std::vector<std::string> const macros = kind.used_in(sources);
+        if (!macros.empty())
+            read.macros.push_back(macros_option_for(kind, macros));
+    }
+    return read;
+}
+
+// `project` is what the whole sources show (above).
 form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<std::string> const& pieces,
-                               std::vector<std::string> const& sources) {
+                               read_from_every_source const& project) {
     form_readings readings = readings_of(forms);
     readings.layout.erase(std::remove_if(readings.layout.begin(), readings.layout.end(),
                                          [](std::string const& reading) {
@@ -587,18 +605,27 @@ form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<
          {limit, tab_width, pointers_read_from(pieces), namespace_indentation_read_from(pieces)})
         if (!reading.empty())
             readings.layout.push_back(reading);
-    for (std::string const& reading : rules_read_from_every_source(sources, columns.tab_width))
-        if (!reading.empty()) {
-            readings.layout.push_back(reading);
-            readings.certain.push_back(reading);
-        }
-    readings.braces = braces_read_from(pieces);
-    for (macro_kind const& kind : macro_kinds()) {
-        std::vector<std::string> const macros = kind.used_in(sources);
-        if (!macros.empty())
-            readings.passed.push_back(macros_option_for(kind, macros));
+    for (std::string const& reading : project.rules) {
+        readings.layout.push_back(reading);
+        readings.certain.push_back(reading);
     }
+    readings.braces = braces_read_from(pieces);
+    readings.passed.insert(readings.passed.end(), project.macros.begin(), project.macros.end());
     return readings;
+}
+
+// A start's options with the rules the project's code clearly shows and the macros it uses: a
+// shipped style's own macros (the kernel's loops) and its own alignments say nothing of the project.
+clang::format::FormatStyle with_rules_of(clang::format::FormatStyle options, read_from_every_source const& project) {
+    std::vector<std::string> rules = project.rules;
+    rules.insert(rules.end(), project.macros.begin(), project.macros.end());
+    for (std::string const& rule : rules) {
+        clang::format::FormatStyle ruled = options;
+        auto const quiet = [](llvm::SMDiagnostic const&, void*) {};
+        if (!clang::format::parseConfiguration(llvm::MemoryBufferRef(rule, "rule"), &ruled, false, quiet, nullptr))
+            options = ruled;
+    }
+    return options;
 }
 
 // Code of our languages ends most of its lines with `;`, `{` or `}`, or begins them with `#`;
@@ -790,9 +817,10 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
             stopped = stopped || (going_on && !going_on(done, whole));
             return !stopped;
         };
+        read_from_every_source const project = read_from(texts, column_limit_read_from(pieces).tab_width);
         clang::format::FormatStyle const style = with_trailing_comments_shown(
             infer_options(language.lexing, formatting_budget, searching, lines_changed_then_white_space)
-                .from(forms, readings_of_code(forms, pieces, texts)),
+                .from(forms, readings_of_code(forms, pieces, project)),
             forms, language);
         if (stopped)
             return nothing;
@@ -813,13 +841,17 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
                 candidates.push_back({addon, start});
         };
         // The rules learned with the author's breaks kept settle their trailing comments anew: under
-        // a limit, comments left where they stand can push code over it, which no longer holds.
+        // a limit, comments left where they stand can push code over it, which no longer holds. A
+        // start with the author's breaks kept is no start's style any more: it takes the rules and
+        // macros read from the project's code (a shipped style's own say nothing of the project),
+        // and settles its trailing comments as the rules learned do.
         auto const with_breaks_kept = [&](clang::format::FormatStyle options, bool learned) {
             if (options.ColumnLimit == 0)
                 return std::string();
             options.ColumnLimit = 0;
-            if (learned)
-                options = with_trailing_comments_shown(options, forms, language);
+            if (!learned)
+                options = with_rules_of(options, project);
+            options = with_trailing_comments_shown(options, forms, language);
             return with_fixed_points(addon_written_in(clang::format::configurationAsText(options), style_name, language),
                                      style_name, language);
         };
