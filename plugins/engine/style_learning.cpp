@@ -563,17 +563,58 @@ std::string trailing_comment_blanks_read_from(std::vector<std::string> const& pi
     return count > 0 ? "{SpacesBeforeTrailingComments: " + std::to_string(count) + "}" : std::string();
 }
 
-// What the whole sources the sample was taken from show: the rules read from every one of them, and
-// the macros they use as loops, statements and attributes (a sample may hold few uses), each kind
-// in the engine's configuration syntax.
+// Under no limit the engine keeps the author's line breaks, and joins what the options let it join
+// only where the author wrote it on one line: arguments packed keep a call broken by hand as it is
+// (one a line splits every argument of it), and ifs (with or without an else) and case labels
+// joined with their statement are kept as written wherever the code shows a few. So these values
+// leave at least as many lines as any other under no limit; a sample may show none of them, and
+// the search then keeps whichever value it started from.
+std::vector<std::string> rules_kept_under_no_limit(std::vector<std::string> const& sources) {
+    long ifs_joined = 0;
+    long cases_joined = 0;
+    for (std::string const& source : sources)
+        for (std::string const& line : lines_of(source)) {
+            std::string const text = trimmed(line);
+            if (text.empty() || text.back() != ';' || comment_or_directive(text))
+                continue;
+            if (starts_with(text, "if (") || starts_with(text, "if(")) {
+                // The condition closes before the line's end and a statement follows it.
+                int depth = 0;
+                std::size_t at = text.find('(');
+                for (; at < text.size(); ++at) {
+                    depth += text[at] == '(' ? 1 : text[at] == ')' ? -1 : 0;
+                    if (depth == 0)
+                        break;
+                }
+                std::string const rest = at < text.size() ? trimmed(text.substr(at + 1)) : std::string();
+                ifs_joined += rest.size() > 1 && rest[0] != '{' && rest[0] != ';';
+            } else if (starts_with(text, "case ") || starts_with(text, "default:")) {
+                std::size_t const colon = text.find(": ");
+                cases_joined += colon != std::string::npos && text.compare(colon, 3, ": {") != 0 &&
+                                text.find("::") == std::string::npos;
+            }
+        }
+    std::vector<std::string> rules = {"{BinPackArguments: true}"};
+    if (ifs_joined >= 3)
+        rules.push_back("{AllowShortIfStatementsOnASingleLine: AllIfsAndElse}");
+    if (cases_joined >= 3)
+        rules.push_back("{AllowShortCaseLabelsOnASingleLine: true}");
+    return rules;
+}
+
+// What the whole sources the sample was taken from show: the rules read from every one of them, the
+// macros they use as loops, statements and attributes (a sample may hold few uses), each kind in
+// the engine's configuration syntax, and the rules that keep the author's way under no limit.
 struct read_from_every_source {
     std::vector<std::string> rules;
     std::vector<std::string> macros;
+    std::vector<std::string> under_no_limit;
 };
 
 read_from_every_source read_from(std::vector<std::string> const& sources, int tab_width) {
     read_from_every_source read;
     read.rules = rules_read_from_every_source(sources, tab_width);
+    read.under_no_limit = rules_kept_under_no_limit(sources);
     for (macro_kind const& kind : macro_kinds()) {
         std::vector<std::string> const macros = kind.used_in(sources);
         if (!macros.empty())
@@ -616,9 +657,7 @@ form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<
 
 // A start's options with the rules the project's code clearly shows and the macros it uses: a
 // shipped style's own macros (the kernel's loops) and its own alignments say nothing of the project.
-clang::format::FormatStyle with_rules_of(clang::format::FormatStyle options, read_from_every_source const& project) {
-    std::vector<std::string> rules = project.rules;
-    rules.insert(rules.end(), project.macros.begin(), project.macros.end());
+clang::format::FormatStyle with_these_rules(clang::format::FormatStyle options, std::vector<std::string> const& rules) {
     for (std::string const& rule : rules) {
         clang::format::FormatStyle ruled = options;
         auto const quiet = [](llvm::SMDiagnostic const&, void*) {};
@@ -626,6 +665,17 @@ clang::format::FormatStyle with_rules_of(clang::format::FormatStyle options, rea
             options = ruled;
     }
     return options;
+}
+
+clang::format::FormatStyle with_rules_of(clang::format::FormatStyle options, read_from_every_source const& project) {
+    options = with_these_rules(options, project.rules);
+    return with_these_rules(options, project.macros);
+}
+
+// Options under no limit with the author's way kept (above); options under a limit as they are.
+clang::format::FormatStyle with_the_authors_way_kept(clang::format::FormatStyle options,
+                                                     read_from_every_source const& project) {
+    return options.ColumnLimit == 0 ? with_these_rules(options, project.under_no_limit) : options;
 }
 
 // Code of our languages ends most of its lines with `;`, `{` or `}`, or begins them with `#`;
@@ -819,8 +869,10 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
         };
         read_from_every_source const project = read_from(texts, column_limit_read_from(pieces).tab_width);
         clang::format::FormatStyle const style = with_trailing_comments_shown(
-            infer_options(language.lexing, formatting_budget, searching, lines_changed_then_white_space)
-                .from(forms, readings_of_code(forms, pieces, project)),
+            with_the_authors_way_kept(
+                infer_options(language.lexing, formatting_budget, searching, lines_changed_then_white_space)
+                    .from(forms, readings_of_code(forms, pieces, project)),
+                project),
             forms, language);
         if (stopped)
             return nothing;
@@ -851,6 +903,7 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
             options.ColumnLimit = 0;
             if (!learned)
                 options = with_rules_of(options, project);
+            options = with_the_authors_way_kept(options, project);
             options = with_trailing_comments_shown(options, forms, language);
             return with_fixed_points(addon_written_in(clang::format::configurationAsText(options), style_name, language),
                                      style_name, language);

@@ -430,6 +430,35 @@ private slots:
         QCOMPARE(learned.lines_left, learned.lines);
     }
 
+    // Code with lines longer than any limit (the author's breaks kept): in the files the sample
+    // leaves out (every other one of 70), ifs with an else and case labels joined with their
+    // statement, and calls broken by hand with their arguments packed; the files the sample takes
+    // show none of them. The style must leave every line as it is. Fault caught: under no limit,
+    // the values the search kept from a sample that cannot tell (ifs and case labels on lines of
+    // their own), which split what the author joined.
+    void keeps_what_the_author_joined_under_no_limit() {
+        std::vector<std::string> project;
+        std::string const long_line(130, 'x');
+        for (int file = 0; file < 70; ++file) {
+            std::string text = "/* " + long_line + " */\n";
+            for (int function = 0; function < 12; ++function) {
+                std::string const n = std::to_string(file * 100 + function);
+                text += "int step_" + n + "(int x) {\n  int y = x + " + n + ";\n  if (y > 3) {\n    y = 3;\n  }\n"
+                        "  return y;\n}\n\n";
+                if (file % 2)
+                    text += "int pick_" + n + "(int x) {\n  if (x > 1) return 1;\n  else return 2;\n}\n\n"
+                            "int choose_" + n + "(int x) {\n  switch (x) {\n  case 1: return 2;\n"
+                            "  default: return 0;\n  }\n}\n\n"
+                            "int call_" + n + "(int x) {\n  return compute(x, 1,\n                 2, 3);\n}\n\n";
+            }
+            project.push_back(text);
+        }
+        loaded_plugin plugin(c_plugin_file());
+        learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
+        QVERIFY(!learned.addon.empty());
+        QCOMPARE(learned.lines_left, learned.lines);
+    }
+
     // Each kind of macro is read from code of its own shape only, in two files: a loop without
     // braces is no statement, a function's name after its class's qualifier no statement, a
     // structure's tag no attribute, a return type on its own line no attribute, a parameter's name
