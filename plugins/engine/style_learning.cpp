@@ -565,16 +565,26 @@ std::string trailing_comment_blanks_read_from(std::vector<std::string> const& pi
 
 // Under no limit the engine keeps the author's line breaks, and joins what the options let it join
 // only where the author wrote it on one line: arguments packed keep a call broken by hand as it is
-// (one a line splits every argument of it), and ifs (with or without an else) and case labels
-// joined with their statement are kept as written wherever the code shows a few. So these values
-// leave at least as many lines as any other under no limit; a sample may show none of them, and
-// the search then keeps whichever value it started from.
+// (one a line splits every argument of it), and ifs (with or without an else), case labels and
+// functions joined with their statements are kept as written wherever the code shows a few. So
+// these values leave at least as many lines as any other under no limit; a sample may show none
+// of them, and the search then keeps whichever value it started from.
 std::vector<std::string> rules_kept_under_no_limit(std::vector<std::string> const& sources) {
     long ifs_joined = 0;
     long cases_joined = 0;
+    long functions_joined = 0;
     for (std::string const& source : sources)
         for (std::string const& line : lines_of(source)) {
             std::string const text = trimmed(line);
+            // A function's head and body on one line: `int size() const { return size_; }`.
+            std::size_t const body = text.find(") {");
+            if (body != std::string::npos && text.back() == '}' && text.find('=') > body &&
+                !comment_or_directive(text) && text.find(';', body) != std::string::npos) {
+                bool control = false;
+                for (char const* keyword : {"if", "for", "while", "switch", "else", "do", "}", "return", "case"})
+                    control = control || starts_with(text, keyword);
+                functions_joined += !control;
+            }
             if (text.empty() || text.back() != ';' || comment_or_directive(text))
                 continue;
             if (starts_with(text, "if (") || starts_with(text, "if(")) {
@@ -599,6 +609,8 @@ std::vector<std::string> rules_kept_under_no_limit(std::vector<std::string> cons
         rules.push_back("{AllowShortIfStatementsOnASingleLine: AllIfsAndElse}");
     if (cases_joined >= 3)
         rules.push_back("{AllowShortCaseLabelsOnASingleLine: true}");
+    if (functions_joined >= 3)
+        rules.push_back("{AllowShortFunctionsOnASingleLine: All}");
     return rules;
 }
 

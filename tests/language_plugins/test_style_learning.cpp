@@ -431,25 +431,25 @@ private slots:
     }
 
     // Code with lines longer than any limit (the author's breaks kept): in the files the sample
-    // leaves out (every other one of 70), ifs with an else and case labels joined with their
-    // statement, and calls broken by hand with their arguments packed; the files the sample takes
-    // show none of them. The style must leave every line as it is. Fault caught: under no limit,
-    // the values the search kept from a sample that cannot tell (ifs and case labels on lines of
-    // their own), which split what the author joined.
+    // leaves out (every other one of 70), ifs with an else, case labels and functions joined with
+    // their statements, and calls broken by hand with their arguments packed; the files the sample
+    // takes show none of them. The style must leave every line as it is. Fault caught: under no
+    // limit, the values the search kept from a sample that cannot tell (ifs, case labels and
+    // functions on lines of their own), which split what the author joined.
     void keeps_what_the_author_joined_under_no_limit() {
         std::vector<std::string> project;
-        std::string const long_line(130, 'x');
         for (int file = 0; file < 70; ++file) {
-            std::string text = "/* " + long_line + " */\n";
+            std::string text;
             for (int function = 0; function < 12; ++function) {
                 std::string const n = std::to_string(file * 100 + function);
                 text += "int step_" + n + "(int x) {\n  int y = x + " + n + ";\n  if (y > 3) {\n    y = 3;\n  }\n"
-                        "  return y;\n}\n\n";
+                        "  return y;\n}\n\nint one_" + n + "(void) {\n  return 1;\n}\n\n";
                 if (file % 2)
                     text += "int pick_" + n + "(int x) {\n  if (x > 1) return 1;\n  else return 2;\n}\n\n"
-                            "int choose_" + n + "(int x) {\n  switch (x) {\n  case 1: return 2;\n"
-                            "  default: return 0;\n  }\n}\n\n"
-                            "int call_" + n + "(int x) {\n  return compute(x, 1,\n                 2, 3);\n}\n\n";
+                            "int choose_" + n + "(int x) {\n  switch (x) {\n    case 1: return 2;\n"
+                            "    default: return 0;\n  }\n}\n\n"
+                            "int call_" + n + "(int x) {\n  return compute(x, 1,\n                 2, 3);\n}\n\n"
+                            "int size_" + n + "(int x) { return x + 1; }\n\n";
             }
             project.push_back(text);
         }
