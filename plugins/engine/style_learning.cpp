@@ -667,8 +667,7 @@ form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<
     return readings;
 }
 
-// A start's options with the rules the project's code clearly shows and the macros it uses: a
-// shipped style's own macros (the kernel's loops) and its own alignments say nothing of the project.
+// The options with each rule (in the engine's configuration syntax) applied in turn.
 clang::format::FormatStyle with_these_rules(clang::format::FormatStyle options, std::vector<std::string> const& rules) {
     for (std::string const& rule : rules) {
         clang::format::FormatStyle ruled = options;
@@ -679,6 +678,8 @@ clang::format::FormatStyle with_these_rules(clang::format::FormatStyle options, 
     return options;
 }
 
+// A start's options with the rules the project's code clearly shows and the macros it uses: a
+// shipped style's own macros (the kernel's loops) and its own alignments say nothing of the project.
 clang::format::FormatStyle with_rules_of(clang::format::FormatStyle options, read_from_every_source const& project) {
     options = with_these_rules(options, project.rules);
     return with_these_rules(options, project.macros);
