@@ -6,10 +6,11 @@
 # an anchor into what the learning misses (learned vs the engine's best) and what the engine cannot
 # do (the engine's best vs the anchor).
 #   engine_best.py EXPORTED_OPTIONS CORPUS [--every K] [--passes N] [--language C|C++] [--out FILE]
+#                  [--only OPTION,...]
 # Searches on every K-th file of the corpus (sorted), then counts the start and the best on every
 # file. Prints each kept change with its gain, and the options changed; writes the best options to
 # --out. The corpus is copied, never changed. The counting is lines_left.py's (bench/learning).
-import argparse, collections, copy, os, shutil, subprocess, sys, tempfile
+import argparse, collections, copy, os, re, shutil, subprocess, sys, tempfile
 
 import yaml
 
@@ -55,10 +56,49 @@ def attribute_macros_upper(values):
     return [v for v in values if v.upper() == v]
 
 
+# Macros the corpus uses at statement level (after a line that ends a statement or opens a block),
+# read by hand as the learning reads them: `name(...) {` as loops, `name(...)` alone on its line
+# with a statement after it at the same depth as statements. Names used at least twice.
+statement_level = re.compile(r'^([ \t]+)([A-Za-z_][A-Za-z0-9_]*) ?\((.*)\)\s*(\{?)\s*$')
+keywords = {'if', 'for', 'while', 'switch', 'return', 'sizeof', 'do', 'else', 'case', 'defined'}
+
+
+def macros_found(corpus):
+    loops, statements = collections.Counter(), collections.Counter()
+    for root, _, names in os.walk(corpus):
+        for name in names:
+            with open(os.path.join(root, name), errors='replace') as source:
+                lines = source.read().split('\n')
+            previous = ''
+            for i, line in enumerate(lines):
+                text = line.strip()
+                match = statement_level.match(line)
+                if match and match.group(2) not in keywords and (not previous or previous[-1] in ';{}:'):
+                    if match.group(4):
+                        loops[match.group(2)] += 1
+                    elif ';' not in match.group(3) and i + 1 < len(lines):
+                        following = lines[i + 1]
+                        indent = len(following) - len(following.lstrip())
+                        if following.strip() and indent <= len(match.group(1)) and following.strip()[0] not in '{&|+-*/%?:.,=<>^!)]':
+                            statements[match.group(2)] += 1
+                if text:
+                    previous = text
+    return ([n for n, c in sorted(loops.items()) if c >= 2], [n for n, c in sorted(statements.items()) if c >= 2])
+
+
+found = {'loops': [], 'statements': []}
+
+
+def with_found(kind):
+    return lambda values: sorted(set(values or []) | set(found[kind]))
+
+
 # option (a path of keys) -> values tried; callables make a value from the current one.
 moves_c = [
     ('UseTab', ['ForContinuationAndIndentation', 'ForIndentation', 'AlignWithSpaces', 'Always', 'Never']),
     ('AttributeMacros', [attribute_macros_upper, []]),
+    ('ForEachMacros', [with_found('loops'), lambda values: found['loops']]),
+    ('StatementMacros', [with_found('statements'), lambda values: found['statements']]),
     ('AlignEscapedNewlines', ['DontAlign', 'Left', 'Right', 'LeftWithLastLine']),
     ('AlignAfterOpenBracket', ['Align', 'DontAlign', 'AlwaysBreak']),
     ('AlignOperands', ['Align', 'DontAlign', 'AlignAfterOperator']),
@@ -114,6 +154,28 @@ moves_c = [
     ('PenaltyReturnTypeOnItsOwnLine', [0, 60, 200, 1000]),
     ('PenaltyBreakOpenParenthesis', [0, 100, 1000]),
     ('PenaltyIndentedWhitespace', [0, 10, 100]),
+    ('PenaltyBreakComment', [10, 300, 1000]),
+    ('PenaltyBreakString', [10, 1000, 100000]),
+    ('PenaltyBreakFirstLessLess', [0, 120, 1000]),
+    ('PenaltyBreakScopeResolution', [0, 500, 5000]),
+    ('SpaceBeforeParens', ['Custom']),
+    ('SpaceBeforeParensOptions/AfterForeachMacros', [True, False]),
+    ('SpaceBeforeParensOptions/AfterIfMacros', [True, False]),
+    ('SpaceBeforeParensOptions/AfterFunctionDeclarationName', [True, False]),
+    ('SpaceBeforeParensOptions/AfterFunctionDefinitionName', [True, False]),
+    ('SpacesInParens', ['Never', 'Custom']),
+    ('SpacesInParensOptions/Other', [True, False]),
+    ('InsertBraces', [False]),
+    ('KeepEmptyLines/AtStartOfBlock', [True, False]),
+    ('KeepEmptyLines/AtEndOfFile', [True, False]),
+    ('BreakStringLiterals', [True, False]),
+    ('ReflowComments', [False]),
+    ('LineEnding', ['DeriveLF']),
+    ('SpaceAroundPointerQualifiers', ['Default', 'Before', 'After', 'Both']),
+    ('SeparateDefinitionBlocks', ['Leave', 'Always', 'Never']),
+    ('AlignConsecutiveShortCaseStatements/Enabled', [True, False]),
+    ('BreakBeforeTernaryOperators', [True, False]),
+    ('BreakAfterAttributes', ['Always', 'Leave', 'Never']),
     ('IndentWidth', [2, 4, 8]),
     ('TabWidth', [4, 8]),
 ]
@@ -163,9 +225,14 @@ def main():
     parser.add_argument('--passes', type=int, default=2)
     parser.add_argument('--language', default='C')
     parser.add_argument('--out')
+    parser.add_argument('--only', help='the options searched, comma-separated (the first key of each)')
     args = parser.parse_args()
     documents = [d for d in yaml.safe_load_all(open(args.options)) if d]
     moves = moves_cpp if args.language == 'C++' else moves_c
+    if args.only:
+        moves = [move for move in moves if move[0].split('/')[0] in args.only.split(',')]
+    found['loops'], found['statements'] = macros_found(args.corpus)
+    print(f'loop macros found: {found["loops"]}\nstatement macros found: {found["statements"]}', flush=True)
     files = project(args.corpus, args.every)
     start = documents
     best, total = files.left_under(documents)

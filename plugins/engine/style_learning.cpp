@@ -563,10 +563,81 @@ std::string trailing_comment_blanks_read_from(std::vector<std::string> const& pi
     return count > 0 ? "{SpacesBeforeTrailingComments: " + std::to_string(count) + "}" : std::string();
 }
 
-// `sources` are the whole sources the sample was taken from: the macros used as loops, statements
-// and attributes are found in all of them, since a sample may hold few uses.
+// Under no limit the engine keeps the author's line breaks, and joins what the options let it join
+// only where the author wrote it on one line: arguments packed keep a call broken by hand as it is
+// (one a line splits every argument of it), and ifs (with or without an else), case labels and
+// functions joined with their statements are kept as written wherever the code shows a few. So
+// these values leave at least as many lines as any other under no limit; a sample may show none
+// of them, and the search then keeps whichever value it started from.
+std::vector<std::string> rules_kept_under_no_limit(std::vector<std::string> const& sources) {
+    long ifs_joined = 0;
+    long cases_joined = 0;
+    long functions_joined = 0;
+    for (std::string const& source : sources)
+        for (std::string const& line : lines_of(source)) {
+            std::string const text = trimmed(line);
+            // A function's head and body on one line: `int size() const { return size_; }`.
+            std::size_t const body = text.find(") {");
+            if (body != std::string::npos && text.back() == '}' && text.find('=') > body &&
+                !comment_or_directive(text) && text.find(';', body) != std::string::npos) {
+                bool control = false;
+                for (char const* keyword : {"if", "for", "while", "switch", "else", "do", "}", "return", "case"})
+                    control = control || starts_with(text, keyword);
+                functions_joined += !control;
+            }
+            if (text.empty() || text.back() != ';' || comment_or_directive(text))
+                continue;
+            if (starts_with(text, "if (") || starts_with(text, "if(")) {
+                // The condition closes before the line's end and a statement follows it.
+                int depth = 0;
+                std::size_t at = text.find('(');
+                for (; at < text.size(); ++at) {
+                    depth += text[at] == '(' ? 1 : text[at] == ')' ? -1 : 0;
+                    if (depth == 0)
+                        break;
+                }
+                std::string const rest = at < text.size() ? trimmed(text.substr(at + 1)) : std::string();
+                ifs_joined += rest.size() > 1 && rest[0] != '{' && rest[0] != ';';
+            } else if (starts_with(text, "case ") || starts_with(text, "default:")) {
+                std::size_t const colon = text.find(": ");
+                cases_joined += colon != std::string::npos && text.compare(colon, 3, ": {") != 0 &&
+                                text.find("::") == std::string::npos;
+            }
+        }
+    std::vector<std::string> rules = {"{BinPackArguments: true}"};
+    if (ifs_joined >= 3)
+        rules.push_back("{AllowShortIfStatementsOnASingleLine: AllIfsAndElse}");
+    if (cases_joined >= 3)
+        rules.push_back("{AllowShortCaseLabelsOnASingleLine: true}");
+    if (functions_joined >= 3)
+        rules.push_back("{AllowShortFunctionsOnASingleLine: All}");
+    return rules;
+}
+
+// What the whole sources the sample was taken from show: the rules read from every one of them, the
+// macros they use as loops, statements and attributes (a sample may hold few uses), each kind in
+// the engine's configuration syntax, and the rules that keep the author's way under no limit.
+struct read_from_every_source {
+    std::vector<std::string> rules;
+    std::vector<std::string> macros;
+    std::vector<std::string> under_no_limit;
+};
+
+read_from_every_source read_from(std::vector<std::string> const& sources, int tab_width) {
+    read_from_every_source read;
+    read.rules = rules_read_from_every_source(sources, tab_width);
+    read.under_no_limit = rules_kept_under_no_limit(sources);
+    for (macro_kind const& kind : macro_kinds()) {
+        std::vector<std::string> const macros = kind.used_in(sources);
+        if (!macros.empty())
+            read.macros.push_back(macros_option_for(kind, macros));
+    }
+    return read;
+}
+
+// `project` is what the whole sources show (above).
 form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<std::string> const& pieces,
-                               std::vector<std::string> const& sources) {
+                               read_from_every_source const& project) {
     form_readings readings = readings_of(forms);
     readings.layout.erase(std::remove_if(readings.layout.begin(), readings.layout.end(),
                                          [](std::string const& reading) {
@@ -587,18 +658,37 @@ form_readings readings_of_code(std::vector<form_case> const& forms, std::vector<
          {limit, tab_width, pointers_read_from(pieces), namespace_indentation_read_from(pieces)})
         if (!reading.empty())
             readings.layout.push_back(reading);
-    for (std::string const& reading : rules_read_from_every_source(sources, columns.tab_width))
-        if (!reading.empty()) {
-            readings.layout.push_back(reading);
-            readings.certain.push_back(reading);
-        }
-    readings.braces = braces_read_from(pieces);
-    for (macro_kind const& kind : macro_kinds()) {
-        std::vector<std::string> const macros = kind.used_in(sources);
-        if (!macros.empty())
-            readings.passed.push_back(macros_option_for(kind, macros));
+    for (std::string const& reading : project.rules) {
+        readings.layout.push_back(reading);
+        readings.certain.push_back(reading);
     }
+    readings.braces = braces_read_from(pieces);
+    readings.passed.insert(readings.passed.end(), project.macros.begin(), project.macros.end());
     return readings;
+}
+
+// The options with each rule (in the engine's configuration syntax) applied in turn.
+clang::format::FormatStyle with_these_rules(clang::format::FormatStyle options, std::vector<std::string> const& rules) {
+    for (std::string const& rule : rules) {
+        clang::format::FormatStyle ruled = options;
+        auto const quiet = [](llvm::SMDiagnostic const&, void*) {};
+        if (!clang::format::parseConfiguration(llvm::MemoryBufferRef(rule, "rule"), &ruled, false, quiet, nullptr))
+            options = ruled;
+    }
+    return options;
+}
+
+// A start's options with the rules the project's code clearly shows and the macros it uses: a
+// shipped style's own macros (the kernel's loops) and its own alignments say nothing of the project.
+clang::format::FormatStyle with_rules_of(clang::format::FormatStyle options, read_from_every_source const& project) {
+    options = with_these_rules(options, project.rules);
+    return with_these_rules(options, project.macros);
+}
+
+// Options under no limit with the author's way kept (above); options under a limit as they are.
+clang::format::FormatStyle with_the_authors_way_kept(clang::format::FormatStyle options,
+                                                     read_from_every_source const& project) {
+    return options.ColumnLimit == 0 ? with_these_rules(options, project.under_no_limit) : options;
 }
 
 // Code of our languages ends most of its lines with `;`, `{` or `}`, or begins them with `#`;
@@ -790,9 +880,12 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
             stopped = stopped || (going_on && !going_on(done, whole));
             return !stopped;
         };
+        read_from_every_source const project = read_from(texts, column_limit_read_from(pieces).tab_width);
         clang::format::FormatStyle const style = with_trailing_comments_shown(
-            infer_options(language.lexing, formatting_budget, searching, lines_changed_then_white_space)
-                .from(forms, readings_of_code(forms, pieces, texts)),
+            with_the_authors_way_kept(
+                infer_options(language.lexing, formatting_budget, searching, lines_changed_then_white_space)
+                    .from(forms, readings_of_code(forms, pieces, project)),
+                project),
             forms, language);
         if (stopped)
             return nothing;
@@ -813,13 +906,18 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
                 candidates.push_back({addon, start});
         };
         // The rules learned with the author's breaks kept settle their trailing comments anew: under
-        // a limit, comments left where they stand can push code over it, which no longer holds.
+        // a limit, comments left where they stand can push code over it, which no longer holds. A
+        // start with the author's breaks kept is no start's style any more: it takes the rules and
+        // macros read from the project's code (a shipped style's own say nothing of the project),
+        // and settles its trailing comments as the rules learned do.
         auto const with_breaks_kept = [&](clang::format::FormatStyle options, bool learned) {
             if (options.ColumnLimit == 0)
                 return std::string();
             options.ColumnLimit = 0;
-            if (learned)
-                options = with_trailing_comments_shown(options, forms, language);
+            if (!learned)
+                options = with_rules_of(options, project);
+            options = with_the_authors_way_kept(options, project);
+            options = with_trailing_comments_shown(options, forms, language);
             return with_fixed_points(addon_written_in(clang::format::configurationAsText(options), style_name, language),
                                      style_name, language);
         };

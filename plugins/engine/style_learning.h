@@ -31,8 +31,10 @@ public:
     learned_style from(std::vector<std::string> const& sources, std::string const& style_name,
                        going_on_check const& going_on) const;
     // The same, and the addon written is the one, of the rules learned and of each start (as it
-    // stands and with the author's own line breaks kept), that leaves most lines of an equal share
-    // of the sources (every k-th of them) as they are; a start taken as it stands is named.
+    // stands and with the author's own line breaks kept, then with the rules and macros read from
+    // every source), that leaves most lines of an equal share of the sources (every k-th of them)
+    // as they are; a start taken as it stands is named. Under no limit, what the author joined
+    // (arguments packed, short ifs, case labels and functions on one line) is kept.
     style_learned_from_starts from(std::vector<std::string> const& sources, std::vector<learning_start> const& starts,
                                    std::string const& style_name, going_on_check const& going_on) const;
 

@@ -287,6 +287,96 @@ private slots:
         QVERIFY(learned.learned.addon.rfind("NAME=Learned\n", 0) == 0);
     }
 
+    // A project written in the Linux kernel's style with the author's own breaks kept, but with its
+    // own loop macro, its macros' backslashes one blank after their code and two blank lines
+    // between functions, and the middle third of each file in another style (so that the rules
+    // learned from the sample lose): the style learned must leave at least as many lines as the
+    // project's own options and name the project's loop macro. Fault caught: a start with the
+    // author's breaks kept weighed with the start's own macros and rules (the kernel's loops, its
+    // backslashes lined up, one blank line), which changes the lines that show them.
+    void a_start_with_the_breaks_kept_takes_the_projects_rules_data() {
+        QTest::addColumn<QString>("own_rules");
+        QTest::newRow("a loop macro, backslashes one blank after the code, two blank lines")
+            << "{ColumnLimit: 0, AlignEscapedNewlines: DontAlign, MaxEmptyLinesToKeep: 2, "
+               "ForEachMacros: [for_each_device]}";
+    }
+    void a_start_with_the_breaks_kept_takes_the_projects_rules() {
+        QFETCH(QString, own_rules);
+        auto const& description = description_of("C");
+        std::vector<learning_start> starts;
+        QString kernel;
+        for (QString const& file : shipped_addons())
+            if (file.endsWith("[C].style")) {
+                starts.push_back({file.section('[', 0, 0).toStdString(), shipped_addon(file)});
+                if (starts.back().style == "Linux kernel")
+                    kernel = QString::fromStdString(
+                        tarnel_engine::options_inferred_from(starts.back().addon, description));
+            }
+        QVERIFY(!kernel.isEmpty());
+        // The kernel's options with the project's own in place of the kernel's values of them.
+        QStringList const own_lines =
+            own_rules.mid(1, own_rules.size() - 2).replace(", F", "\nF").replace(", ", "\n").split('\n');
+        QString options;
+        bool replaced = false;
+        for (QString const& line : kernel.split('\n')) {
+            if (replaced && (line.startsWith(' ') || line.startsWith('-')))
+                continue;
+            replaced = std::any_of(own_lines.begin(), own_lines.end(), [&](QString const& own_line) {
+                return line.startsWith(own_line.section(':', 0, 0) + ":");
+            });
+            if (!replaced && line != "..." && !line.isEmpty())
+                options += line + "\n";
+        }
+        options += own_lines.join('\n') + "\n";
+        std::string const own = tarnel_engine::addon_written_in(options.toStdString(), "Own", description);
+        // The middle third in LLVM's style indented by 3, the project's own rules kept.
+        std::string const other = tarnel_engine::addon_written_in(
+            "{BasedOnStyle: LLVM, IndentWidth: 3, " + own_rules.mid(1).toStdString(), "Other", description);
+        QVERIFY(!own.empty() && !other.empty());
+        loaded_plugin plugin(c_plugin_file());
+        QVERIFY(plugin.learning_from_starts());
+        auto const functions = [](int from, int to) {
+            std::string code;
+            for (int n = from; n < to; ++n) {
+                std::string const i = std::to_string(n);
+                code += "#define CHECK_" + i + "(dev) \\\n\tdo { \\\n\t\tcheck_the_device(dev, " + i +
+                        "); \\\n\t} while (0)\n\n\n"
+                        "static int check_" + i + "(struct device *dev, int state, int flags)\n{\n\tint result = 0;"
+                        "\n\n\tfor_each_device(dev, list) {\n\t\tif (state > " + i + " && flags != 0)\n"
+                        "\t\t\tresult += dev->value;\n\t}\n\treturn result;\n}\n\n\n";
+            }
+            return code;
+        };
+        std::vector<std::string> project;
+        for (int file = 0; file < 6; ++file) {
+            std::string text;
+            for (int third = 0; third < 3; ++third) {
+                std::string const code = functions(file * 100 + third * 30, file * 100 + third * 30 + 30);
+                std::string const written = plugin->revise(code, third == 1 ? other : own, traits_of(code));
+                QVERIFY(written != STYLE_TARNEL_SYNTAX_ERROR_TEXT);
+                text += written;
+            }
+            project.push_back(text);
+        }
+        auto const lines_left_by = [&](std::string const& addon) {
+            unsigned long left = 0;
+            for (std::string const& source : project)
+                left += tarnel_engine::lines_left_between(source, plugin->revise(source, addon, traits_of(source)));
+            return left;
+        };
+        style_learned_from_starts const learned =
+            plugin.learning_from_starts()->learn_style_from(project, starts, "Learned", {});
+        QVERIFY(!learned.learned.addon.empty());
+        QCOMPARE(learned.learned.lines_left, lines_left_by(learned.learned.addon));
+        unsigned long const own_left = lines_left_by(own);
+        QVERIFY2(learned.learned.lines_left >= own_left,
+                 qPrintable(QString("%1 lines left, %2 by the project's own options")
+                                .arg(learned.learned.lines_left)
+                                .arg(own_left)));
+        QVERIFY(QString::fromStdString(tarnel_engine::options_inferred_from(learned.learned.addon, description))
+                    .contains("- for_each_device\n"));
+    }
+
     // Trailing comments mostly two blanks from their code, a few further: the learning reads two,
     // the search may leave comments where they stand (which changes no line of the sample), and
     // the style must keep them where they stand, or say two, as the code does. Faults caught: the
@@ -335,6 +425,35 @@ private slots:
             project.push_back(text);
         }
         loaded_plugin plugin(cpp_plugin_file());
+        learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
+        QVERIFY(!learned.addon.empty());
+        QCOMPARE(learned.lines_left, learned.lines);
+    }
+
+    // Code with lines longer than any limit (the author's breaks kept): in the files the sample
+    // leaves out (every other one of 70), ifs with an else, case labels and functions joined with
+    // their statements, and calls broken by hand with their arguments packed; the files the sample
+    // takes show none of them. The style must leave every line as it is. Fault caught: under no
+    // limit, the values the search kept from a sample that cannot tell (ifs, case labels and
+    // functions on lines of their own), which split what the author joined.
+    void keeps_what_the_author_joined_under_no_limit() {
+        std::vector<std::string> project;
+        for (int file = 0; file < 70; ++file) {
+            std::string text;
+            for (int function = 0; function < 12; ++function) {
+                std::string const n = std::to_string(file * 100 + function);
+                text += "int step_" + n + "(int x) {\n  int y = x + " + n + ";\n  if (y > 3) {\n    y = 3;\n  }\n"
+                        "  return y;\n}\n\nint one_" + n + "(void) {\n  return 1;\n}\n\n";
+                if (file % 2)
+                    text += "int pick_" + n + "(int x) {\n  if (x > 1) return 1;\n  else return 2;\n}\n\n"
+                            "int choose_" + n + "(int x) {\n  switch (x) {\n    case 1: return 2;\n"
+                            "    default: return 0;\n  }\n}\n\n"
+                            "int call_" + n + "(int x) {\n  return compute(x, 1,\n                 2, 3);\n}\n\n"
+                            "int size_" + n + "(int x) { return x + 1; }\n\n";
+            }
+            project.push_back(text);
+        }
+        loaded_plugin plugin(c_plugin_file());
         learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
         QVERIFY(!learned.addon.empty());
         QCOMPARE(learned.lines_left, learned.lines);
