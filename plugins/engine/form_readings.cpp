@@ -55,12 +55,27 @@ bool starts_with(std::string const& text, std::string const& prefix) { return te
 
 std::string flag(bool value) { return value ? "true" : "false"; }
 
+// The structures of Java, JavaScript and C# that show what a structure of C's shows under another
+// name: a function's body, a short and an empty function. The readings, written for C's names,
+// find them under those names where the forms have no structure of C's name. (Not Java's long
+// method call: under tabs everywhere its continuation starts with a tab that C's reading takes
+// for tabs used for continuation, and no kept call of Java's tells them apart.)
+std::vector<std::pair<char const*, char const*>> const& counterparts_of_c_structures() {
+    static std::vector<std::pair<char const*, char const*>> const counterparts = {
+        {"method", "function definition"}, {"function", "function definition"}, {"short method", "short function"},
+        {"empty method", "empty function"}};
+    return counterparts;
+}
+
 class forms_by_name {
 public:
     // Indentation measured with tabs of `tab_width` columns.
     explicit forms_by_name(std::vector<form_case> const& forms, int tab_width = 8) : tab_width(tab_width) {
         for (form_case const& form : forms)
             codes[form.structure] = form.code;
+        for (auto const& [structure, of_c] : counterparts_of_c_structures())
+            if (codes.count(structure) && !codes.count(of_c))
+                codes[of_c] = codes[structure];
     }
     std::string const* find(std::string const& structure) const {
         auto const found = codes.find(structure);
