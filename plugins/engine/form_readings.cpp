@@ -770,8 +770,11 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     bool const kept_breaks = keeps_line_breaks(named);
     if (kept_breaks)
         readings.certain.push_back("{ColumnLimit: 0}");
-    // Without a limit the engine keeps a call on the line it was written on, as in the catalogue.
+    // Without a limit the engine keeps a call on the line it was written on, as in the catalogue
+    // (Java's and C#'s long method call too).
     std::string const* call = named.find("long function call");
+    if (!call)
+        call = named.find("long method call");
     if (!kept_breaks && call && call->find('\n') != std::string::npos)
         readings.ruled_out.push_back("{ColumnLimit: 0}");
     if (named.find("pointer") && named.find("mixed pointers"))

@@ -514,6 +514,9 @@ private slots:
             "{BreakBeforeBraces: Custom, BraceWrapping: {IndentBraces: true}}");
         row("short methods joined in a class only, Java", "Chromium[Java].style",
             "{AllowShortFunctionsOnASingleLine: InlineOnly}");
+        // A long method call broken over lines rules out no column limit, as a long function call does.
+        row("parameters one a line, C#", "Google[C#].style", "{BinPackParameters: false}");
+        row("return type on its own line, C#", "Google[C#].style", "{BreakAfterReturnType: All}");
         QTest::newRow("a loop macro added") << "LLVM[C++].style" << "for each macro" << "  BOOST_FOREACH"
                                             << "  my_for_each (name, SOME) {\n    SOME;\n  }\n  BOOST_FOREACH"
                                             << "{ForEachMacros: [foreach, Q_FOREACH, my_for_each, BOOST_FOREACH]}";
