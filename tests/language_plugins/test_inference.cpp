@@ -514,6 +514,11 @@ private slots:
             "{BreakBeforeBraces: Custom, BraceWrapping: {IndentBraces: true}}");
         row("short methods joined in a class only, Java", "Chromium[Java].style",
             "{AllowShortFunctionsOnASingleLine: InlineOnly}");
+        // Three blank lines in a row show a limit of three where two blank lines read back two.
+        row("three blank lines kept, Java", "Google[Java].style", "{MaxEmptyLinesToKeep: 3}");
+        row("three blank lines kept, JavaScript", "Google[JavaScript].style", "{MaxEmptyLinesToKeep: 3}");
+        row("three blank lines kept, C#", "Google[C#].style", "{MaxEmptyLinesToKeep: 3}");
+        row("three blank lines kept, Protocol Buffers", "Google[Protocol Buffers].style", "{MaxEmptyLinesToKeep: 3}");
         // A long method call broken over lines rules out no column limit, as a long function call does.
         row("parameters one a line, C#", "Google[C#].style", "{BinPackParameters: false}");
         row("return type on its own line, C#", "Google[C#].style", "{BreakAfterReturnType: All}");
@@ -578,21 +583,26 @@ private slots:
     }
 
     // An addon written before the forms of alignment, blank lines and loop macros existed lacks
-    // them: it still loads, and revises as before (its golden file), the options those forms would
-    // show keeping its base style's values.
+    // them (one of Java, JavaScript, C# or Protocol Buffers, its three blank lines in a row): it
+    // still loads, and revises as before (its golden file), the options those forms would show
+    // keeping its base style's values.
     void addon_without_the_newer_forms_revises_as_before_data() {
         QTest::addColumn<QString>("golden_case");
         for (QString const& golden_case : golden_cases())
-            if (golden_case.startsWith("C/") || golden_case.startsWith("C++/"))
-                QTest::newRow(qPrintable(golden_case)) << golden_case;
+            for (char const* language : {"C/", "C++/", "Java/", "JavaScript/", "C#/", "Protocol Buffers/"})
+                if (golden_case.startsWith(language))
+                    QTest::newRow(qPrintable(golden_case)) << golden_case;
     }
     void addon_without_the_newer_forms_revises_as_before() {
         QFETCH(QString, golden_case);
         QString const language = golden_case.section('/', 0, 0);
         std::string addon = shipped_addon(golden_case.section('/', 1) + "[" + language + "].style");
-        for (char const* newer : {"blank lines", "consecutive assignments", "consecutive declarations",
-                                  "escaped newlines", "for each macro", "long enum", "macro definitions",
-                                  "trailing comments"}) {
+        std::vector<char const*> const of_c_family = {"blank lines", "consecutive assignments",
+                                                      "consecutive declarations", "escaped newlines",
+                                                      "for each macro", "long enum", "macro definitions",
+                                                      "trailing comments"};
+        std::vector<char const*> const of_others = {"blank lines in a row"};
+        for (char const* newer : language == "C" || language == "C++" ? of_c_family : of_others) {
             std::size_t const begin = addon.find(std::string("\nS_NAME=") + newer + "\nS_BEG\n");
             QVERIFY2(begin != std::string::npos, newer);
             addon.erase(begin, addon.find("\nS_END\n", begin) + 7 - begin);
