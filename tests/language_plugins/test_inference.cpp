@@ -516,7 +516,7 @@ private slots:
             "{AllowShortFunctionsOnASingleLine: InlineOnly}");
         // Three blank lines in a row show a limit of three where two blank lines read back two.
         row("three blank lines kept, Java", "Google[Java].style", "{MaxEmptyLinesToKeep: 3}");
-        row("three blank lines kept, JavaScript", "Google[JavaScript].style", "{MaxEmptyLinesToKeep: 3}");
+        row("three blank lines kept, JavaScript", "Mozilla[JavaScript].style", "{MaxEmptyLinesToKeep: 3}");
         row("three blank lines kept, C#", "Google[C#].style", "{MaxEmptyLinesToKeep: 3}");
         row("three blank lines kept, Protocol Buffers", "Google[Protocol Buffers].style", "{MaxEmptyLinesToKeep: 3}");
         // A long method call broken over lines rules out no column limit, as a long function call does.
