@@ -419,11 +419,20 @@ std::string access_offset_read_from(forms_by_name const& forms) {
 // under it or not.
 std::string return_type_read_from(forms_by_name const& forms) {
     std::string const* declaration = forms.find("function declaration");
+    // Java and C# declare a method without a body only where its parameters are long.
+    if (!declaration)
+        declaration = forms.find("long method declaration");
     std::string const* definition = forms.find("function definition");
     if (!declaration || !definition)
         return std::string();
-    bool const declarations_break = starts_with(*declaration, "type\n");
-    bool const definitions_break = starts_with(*definition, "type\n");
+    // The first line ends with the return type (after Java's or C#'s modifiers) and no `(`.
+    auto const return_type_alone = [](std::string const& code) {
+        std::string const first = code.substr(0, code.find('\n'));
+        return first.size() < code.size() && first.find('(') == std::string::npos &&
+               (first == "type" || (first.size() > 5 && first.compare(first.size() - 5, 5, " type") == 0));
+    };
+    bool const declarations_break = return_type_alone(*declaration);
+    bool const definitions_break = return_type_alone(*definition);
     std::string reading = std::string("BreakAfterReturnType: ") +
                           (declarations_break ? "All" : definitions_break ? "AllDefinitions" : "None");
     if (definitions_break)

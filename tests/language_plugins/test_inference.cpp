@@ -522,6 +522,9 @@ private slots:
         // A long method call broken over lines rules out no column limit, as a long function call does.
         row("parameters one a line, C#", "Google[C#].style", "{BinPackParameters: false}");
         row("return type on its own line, C#", "Google[C#].style", "{BreakAfterReturnType: All}");
+        // Java's and C# long method declaration is the declaration whose return type may break.
+        row("return type on its own line in definitions, C#", "Microsoft[C#].style",
+            "{BreakAfterReturnType: AllDefinitions}");
         QTest::newRow("a loop macro added") << "LLVM[C++].style" << "for each macro" << "  BOOST_FOREACH"
                                             << "  my_for_each (name, SOME) {\n    SOME;\n  }\n  BOOST_FOREACH"
                                             << "{ForEachMacros: [foreach, Q_FOREACH, my_for_each, BOOST_FOREACH]}";
