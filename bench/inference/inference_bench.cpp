@@ -11,7 +11,7 @@
 //       for each addon and each value of each option group: the options inferred from the addon
 //       with that value, the forms that this changes rewritten as the engine lays them out; kept
 //       when the edited options reproduce their own forms and some form changed. Fields: addon,
-//       edit, forms, fixed points, seconds (cold).
+//       edit, forms, fixed points, seconds (cold), the forms that do not come back (comma-separated).
 //   inference_bench carries <C|C++> <count> <seed> <source>...
 //       what an addon carries of its options: the same random sets as round-trip, each one's addon
 //       written, the sources revised with it as a user's run does, and compared line by line with
@@ -32,11 +32,16 @@
 #include "c_language.h"
 #include "code_sample.h"
 #include "cpp_language.h"
+#include "csharp_language.h"
 #include "engine_call.h"
 #include "inference_cache.h"
+#include "java_language.h"
+#include "javascript_language.h"
+#include "objc_language.h"
 #include "option_inference.h"
 #include "option_moves.h"
 #include "placeholder_instances.h"
+#include "proto_language.h"
 #include "revision.h"
 #include "style_learning.h"
 #include "token_safe_settings.h"
@@ -66,8 +71,14 @@ void write_to(std::string const& path, std::string const& text) {
         file.write(text.data(), static_cast<qint64>(text.size()));
 }
 
+// The language the addon names on its LANGUAGE line (C where it names none of ours).
 tarnel_engine::language_description const& language_of(std::string const& addon) {
-    return addon.find("LANGUAGE=C++") != std::string::npos ? cpp_language() : c_language();
+    for (tarnel_engine::language_description const* language :
+         {&cpp_language(), &objc_language(), &java_language(), &javascript_language(), &csharp_language(),
+          &proto_language()})
+        if (addon.find("\nLANGUAGE=" + language->name + "\n") != std::string::npos)
+            return *language;
+    return c_language();
 }
 
 std::string one_line(std::string const& configuration) {
@@ -200,7 +211,8 @@ int edits(std::vector<std::string> const& paths) {
         tarnel_engine::language_description const& language = language_of(addon);
         std::map<std::string, std::string> const forms = forms_of(addon, language);
         FormatStyle const inferred = tarnel_engine::inference_cache::shared().style_for(addon, language);
-        for (auto const& group : tarnel_engine::option_groups())
+        // The values the form editor offers for the addon's language.
+        for (auto const& group : tarnel_engine::option_groups(language.lexing))
             for (std::string const& candidate : group.candidates) {
                 FormatStyle edited;
                 if (!moved(inferred, candidate, edited))
@@ -212,8 +224,13 @@ int edits(std::vector<std::string> const& paths) {
                 auto const start = std::chrono::steady_clock::now();
                 FormatStyle const again = tarnel_engine::inference_cache::shared().style_for(edited_addon, language);
                 double const took = seconds_since(start);
+                std::map<std::string, std::string> const back = forms_under(again, rewritten);
+                std::string missed;
+                for (auto const& [name, form] : rewritten)
+                    if (back.at(name) != form)
+                        missed += (missed.empty() ? "" : ",") + name;
                 std::cout << path << "\t" << candidate << "\t" << rewritten.size() << "\t"
-                          << fixed_points_of(rewritten, forms_under(again, rewritten)) << "\t" << took << std::endl;
+                          << fixed_points_of(rewritten, back) << "\t" << took << "\t" << missed << std::endl;
             }
     }
     return 0;

@@ -18,6 +18,8 @@ tarnel_engine::structure_catalogue csharp_structures() {
         {"blank lines", "void name() {\n\n  SOME;\n\n\n  SOME;\n}",
          "How many blank lines in a row are kept, and whether a block may begin with one.",
          {"MaxEmptyLinesToKeep", "KeepEmptyLines.AtStartOfBlock"}},
+        {"blank lines in a row", "void name() {\n  SOME;\n\n\n\n  SOME;\n}",
+         "Three blank lines in a row inside a method: how many of them are kept.", {"MaxEmptyLinesToKeep"}},
         {"cast", "name = (type)SOME;", "Whether a blank follows the parentheses of a cast.",
          {"SpaceAfterCStyleCast", "SpacesInParens"}},
         {"class",

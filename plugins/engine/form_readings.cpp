@@ -55,12 +55,27 @@ bool starts_with(std::string const& text, std::string const& prefix) { return te
 
 std::string flag(bool value) { return value ? "true" : "false"; }
 
+// The structures of Java, JavaScript and C# that show what a structure of C's shows under another
+// name: a function's body, a short and an empty function. The readings, written for C's names,
+// find them under those names where the forms have no structure of C's name. (Not Java's long
+// method call: under tabs everywhere its continuation starts with a tab that C's reading takes
+// for tabs used for continuation, and no kept call of Java's tells them apart.)
+std::vector<std::pair<char const*, char const*>> const& counterparts_of_c_structures() {
+    static std::vector<std::pair<char const*, char const*>> const counterparts = {
+        {"method", "function definition"}, {"function", "function definition"}, {"short method", "short function"},
+        {"empty method", "empty function"}};
+    return counterparts;
+}
+
 class forms_by_name {
 public:
     // Indentation measured with tabs of `tab_width` columns.
     explicit forms_by_name(std::vector<form_case> const& forms, int tab_width = 8) : tab_width(tab_width) {
         for (form_case const& form : forms)
             codes[form.structure] = form.code;
+        for (auto const& [structure, of_c] : counterparts_of_c_structures())
+            if (codes.count(structure) && !codes.count(of_c))
+                codes[of_c] = codes[structure];
     }
     std::string const* find(std::string const& structure) const {
         auto const found = codes.find(structure);
@@ -400,6 +415,18 @@ std::string access_offset_read_from(forms_by_name const& forms) {
     return "{AccessModifierOffset: " + std::to_string(step - member_step) + ", IndentAccessModifiers: false}";
 }
 
+// A line that ends with a return type (after Java's or C#'s modifiers) and opens no `(`.
+bool return_type_alone_on(std::string const& line) {
+    std::string const text = trimmed(line);
+    return text.find('(') == std::string::npos &&
+           (text == "type" || (text.size() > 5 && text.compare(text.size() - 5, 5, " type") == 0));
+}
+
+std::string first_line_of(std::string const& code) {
+    std::size_t const end = code.find('\n');
+    return end == std::string::npos ? std::string() : code.substr(0, end);
+}
+
 // Whether some line of a form is a return type alone (a member function's in a class, a
 // declaration's in an extern block), or the form is missing.
 bool return_type_alone_in(forms_by_name const& forms, std::string const& structure) {
@@ -407,7 +434,7 @@ bool return_type_alone_in(forms_by_name const& forms, std::string const& structu
     if (!code)
         return true;
     for (std::string const& line : lines_of(*code))
-        if (trimmed(line) == "type")
+        if (return_type_alone_on(line))
             return true;
     return false;
 }
@@ -417,11 +444,14 @@ bool return_type_alone_in(forms_by_name const& forms, std::string const& structu
 // indented under it or not.
 std::string return_type_read_from(forms_by_name const& forms) {
     std::string const* declaration = forms.find("function declaration");
+    // Java and C# declare a method without a body only where its parameters are long.
+    if (!declaration)
+        declaration = forms.find("long method declaration");
     std::string const* definition = forms.find("function definition");
     if (!declaration || !definition)
         return std::string();
-    bool const declarations_break = starts_with(*declaration, "type\n");
-    bool const definitions_break = starts_with(*definition, "type\n");
+    bool const declarations_break = return_type_alone_on(first_line_of(*declaration));
+    bool const definitions_break = return_type_alone_on(first_line_of(*definition));
     std::string reading =
         std::string("BreakAfterReturnType: ") +
         (declarations_break ? (return_type_alone_in(forms, "class") && return_type_alone_in(forms, "extern block")
@@ -775,8 +805,11 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     bool const kept_breaks = keeps_line_breaks(named);
     if (kept_breaks)
         readings.certain.push_back("{ColumnLimit: 0}");
-    // Without a limit the engine keeps a call on the line it was written on, as in the catalogue.
+    // Without a limit the engine keeps a call on the line it was written on, as in the catalogue
+    // (Java's and C#'s long method call too).
     std::string const* call = named.find("long function call");
+    if (!call)
+        call = named.find("long method call");
     if (!kept_breaks && call && call->find('\n') != std::string::npos)
         readings.ruled_out.push_back("{ColumnLimit: 0}");
     if (named.find("pointer") && named.find("mixed pointers"))

@@ -20,6 +20,8 @@ tarnel_engine::structure_catalogue javascript_structures() {
         {"blank lines", "function name() {\n\n  SOME;\n\n\n  SOME;\n}",
          "How many blank lines in a row are kept, and whether a block may begin with one.",
          {"MaxEmptyLinesToKeep", "KeepEmptyLines.AtStartOfBlock"}},
+        {"blank lines in a row", "function name() {\n  SOME;\n\n\n\n  SOME;\n}",
+         "Three blank lines in a row inside a function: how many of them are kept.", {"MaxEmptyLinesToKeep"}},
         {"class",
          "class name extends name_part {\n  constructor(argument) {\n    super(argument);\n  }\n\n  name_long_part() {\n"
          "    return SOME;\n  }\n}",

@@ -10,6 +10,8 @@ tarnel_engine::structure_catalogue proto_structures() {
         {"blank lines", "message name {\n\n  type name_part = 1;\n\n\n  type name_long_part = 2;\n}",
          "How many blank lines in a row are kept, and whether a message may begin with one.",
          {"MaxEmptyLinesToKeep", "KeepEmptyLines.AtStartOfBlock"}},
+        {"blank lines in a row", "message name {\n  type name_part = 1;\n\n\n\n  type name_long_part = 2;\n}",
+         "Three blank lines in a row inside a message: how many of them are kept.", {"MaxEmptyLinesToKeep"}},
         {"comment", "type name = 1; // SOME\ntype name_long_part = 2; // SOME\n/* SOME */",
          "How far trailing comments stand from the code, and whether those of neighbouring lines line up.",
          {"SpacesBeforeTrailingComments", "AlignTrailingComments"}},
