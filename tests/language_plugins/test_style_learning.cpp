@@ -22,6 +22,8 @@
 #include <QRegularExpression>
 #include <QtTest>
 
+#include <functional>
+
 using namespace our_plugins;
 
 namespace {
@@ -45,6 +47,34 @@ std::vector<std::string> sources_of(QString const& language) {
 std::string const python = "import os\n\ndef walk(top):\n    for name in os.listdir(top):\n        if name:\n"
                            "            print(name)\n    return top\n\nclass Tree:\n    def __init__(self):\n"
                            "        self.nodes = []\n";
+
+// Six files of three parts of thirty functions each (`functions(from, to)`), the middle part
+// written in `other`, the rest in `most`: a project mostly in one style.
+std::vector<std::string> project_mostly_in(loaded_plugin const& plugin,
+                                           std::function<std::string(int, int)> const& functions,
+                                           std::string const& most, std::string const& other) {
+    std::vector<std::string> project;
+    for (int file = 0; file < 6; ++file) {
+        std::string text;
+        for (int third = 0; third < 3; ++third) {
+            std::string const code = functions(file * 100 + third * 30, file * 100 + third * 30 + 30);
+            std::string const written = plugin->revise(code, third == 1 ? other : most, traits_of(code));
+            if (written == STYLE_TARNEL_SYNTAX_ERROR_TEXT)
+                return {};
+            text += written;
+        }
+        project.push_back(text);
+    }
+    return project;
+}
+
+unsigned long lines_left_in(std::vector<std::string> const& project, loaded_plugin const& plugin,
+                            std::string const& addon) {
+    unsigned long left = 0;
+    for (std::string const& source : project)
+        left += tarnel_engine::lines_left_between(source, plugin->revise(source, addon, traits_of(source)));
+    return left;
+}
 
 }  // namespace
 
@@ -253,23 +283,9 @@ private slots:
             }
             return code;
         };
-        std::vector<std::string> project;
-        for (int file = 0; file < 6; ++file) {
-            std::string text;
-            for (int third = 0; third < 3; ++third) {
-                std::string const code = functions(file * 100 + third * 30, file * 100 + third * 30 + 30);
-                std::string const written = plugin->revise(code, third == 1 ? other : known, traits_of(code));
-                QVERIFY(written != STYLE_TARNEL_SYNTAX_ERROR_TEXT);
-                text += written;
-            }
-            project.push_back(text);
-        }
-        auto const lines_left_by = [&](std::string const& addon) {
-            unsigned long left = 0;
-            for (std::string const& source : project)
-                left += tarnel_engine::lines_left_between(source, plugin->revise(source, addon, traits_of(source)));
-            return left;
-        };
+        std::vector<std::string> const project = project_mostly_in(plugin, functions, known, other);
+        QVERIFY(!project.empty());
+        auto const lines_left_by = [&](std::string const& addon) { return lines_left_in(project, plugin, addon); };
         style_learned_from_starts const learned =
             plugin.learning_from_starts()->learn_style_from(project, starts, "Learned", {});
         QVERIFY(!learned.learned.addon.empty());
@@ -347,23 +363,9 @@ private slots:
             }
             return code;
         };
-        std::vector<std::string> project;
-        for (int file = 0; file < 6; ++file) {
-            std::string text;
-            for (int third = 0; third < 3; ++third) {
-                std::string const code = functions(file * 100 + third * 30, file * 100 + third * 30 + 30);
-                std::string const written = plugin->revise(code, third == 1 ? other : own, traits_of(code));
-                QVERIFY(written != STYLE_TARNEL_SYNTAX_ERROR_TEXT);
-                text += written;
-            }
-            project.push_back(text);
-        }
-        auto const lines_left_by = [&](std::string const& addon) {
-            unsigned long left = 0;
-            for (std::string const& source : project)
-                left += tarnel_engine::lines_left_between(source, plugin->revise(source, addon, traits_of(source)));
-            return left;
-        };
+        std::vector<std::string> const project = project_mostly_in(plugin, functions, own, other);
+        QVERIFY(!project.empty());
+        auto const lines_left_by = [&](std::string const& addon) { return lines_left_in(project, plugin, addon); };
         style_learned_from_starts const learned =
             plugin.learning_from_starts()->learn_style_from(project, starts, "Learned", {});
         QVERIFY(!learned.learned.addon.empty());
