@@ -3,6 +3,7 @@
 #include "form_readings.h"
 
 #include "project_macros.h"
+#include "text_columns.h"
 
 #include <algorithm>
 #include <map>
@@ -20,27 +21,6 @@ std::vector<std::string> lines_of(std::string const& code) {
     while (std::getline(stream, line))
         lines.push_back(line);
     return lines;
-}
-
-// Columns, with tabs every `tab_width` columns.
-int width_of_indent(std::string const& line, int tab_width = 8) {
-    int width = 0;
-    for (char c : line) {
-        if (c == ' ')
-            ++width;
-        else if (c == '\t')
-            width += tab_width - width % tab_width;
-        else
-            break;
-    }
-    return width;
-}
-
-int width_of_line(std::string const& line, int tab_width) {
-    int width = 0;
-    for (char c : line)
-        width += c == '\t' ? tab_width - width % tab_width : 1;
-    return width;
 }
 
 std::string trimmed(std::string const& line) {
@@ -99,7 +79,7 @@ public:
     int indent_of_line(std::string const& structure, int line) const {
         std::string const* code = find(structure);
         std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
-        return line < 0 || line >= static_cast<int>(lines.size()) ? -1 : width_of_indent(lines[line], tab_width);
+        return line < 0 || line >= static_cast<int>(lines.size()) ? -1 : indentation_columns_of(lines[line], tab_width);
     }
     // How much further in than the form's first line the line after the first line that ends with
     // an opening brace stands (a body, wherever its head was wrapped), or 0.
@@ -109,7 +89,7 @@ public:
         for (std::size_t i = 0; i + 1 < lines.size(); ++i) {
             std::string const text = trimmed(lines[i]);
             if (!text.empty() && text.back() == '{')
-                return width_of_indent(lines[i + 1], tab_width) - width_of_indent(lines[0], tab_width);
+                return indentation_columns_of(lines[i + 1], tab_width) - indentation_columns_of(lines[0], tab_width);
         }
         return 0;
     }
@@ -163,7 +143,7 @@ int tab_width_of_macro_in(std::vector<form_case> const& forms) {
             std::set<int> columns;
             for (std::string const& line : lines)
                 if (!line.empty() && line.back() == '\\')
-                    columns.insert(width_of_line(line, tab_width));
+                    columns.insert(columns_of(line, tab_width));
             if (columns.size() == 1)
                 return tab_width;
         }
@@ -208,10 +188,10 @@ tab_width_fit fit_of(int tab_width, std::vector<std::string> const& codes) {
                 continue;
             std::string const last = trimmed(previous);
             if (!last.empty() && last.back() == '{' && last.find('\\') == std::string::npos) {
-                ++steps[width_of_indent(line, tab_width) - width_of_indent(previous, tab_width)];
+                ++steps[indentation_columns_of(line, tab_width) - indentation_columns_of(previous, tab_width)];
                 ++all_steps;
             } else if (indented_with_tab(line) && !previous.empty() &&
-                       width_of_indent(line, tab_width) == column_after_open_parenthesis(previous, tab_width)) {
+                       indentation_columns_of(line, tab_width) == column_after_open_parenthesis(previous, tab_width)) {
                 ++fit.score;
             }
             previous = line;
@@ -237,7 +217,7 @@ long lines_ruling_out(int tab_width, std::vector<std::string> const& codes) {
             std::string const last = trimmed(previous);
             bool const opens_body = !last.empty() && last.back() == '{' && last.find('\\') == std::string::npos &&
                                     last.find('=') == std::string::npos && last.find('[') == std::string::npos;
-            if (opens_body && line[0] == ' ' && !indented_with_tab(line) && width_of_indent(line) >= tab_width)
+            if (opens_body && line[0] == ' ' && !indented_with_tab(line) && indentation_columns_of(line, 8) >= tab_width)
                 ++ruled_out;
             previous = line;
         }
@@ -321,8 +301,8 @@ int kept_continuation_width(forms_by_name const& forms, int tab_width) {
         return 0;
     std::vector<std::string> const lines = lines_of(*code);
     for (std::size_t i = 0; i + 1 < lines.size(); ++i)
-        if (!lines[i].empty() && lines[i].back() == '(' && width_of_indent(lines[i], tab_width) == 0)
-            return width_of_indent(lines[i + 1], tab_width);
+        if (!lines[i].empty() && lines[i].back() == '(' && indentation_columns_of(lines[i], tab_width) == 0)
+            return indentation_columns_of(lines[i + 1], tab_width);
     return 0;
 }
 
@@ -331,14 +311,14 @@ continuation continuation_read_from(forms_by_name const& forms, int tab_width) {
     std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
     continuation read;
     read.with_tab = kept_continuation_with_tab(forms);
-    if (lines.size() < 2 || width_of_indent(lines[0], tab_width) > 0) {
+    if (lines.size() < 2 || indentation_columns_of(lines[0], tab_width) > 0) {
         // Without a limit the long call stays on its line: the kept declaration shows the width.
         int const kept = kept_continuation_width(forms, tab_width);
         if (kept > 0 && kept <= 8)
             read.width = kept;
         return read;
     }
-    int const width = width_of_indent(lines[1], tab_width);
+    int const width = indentation_columns_of(lines[1], tab_width);
     if (width > 0 && width <= 8 && width != column_after_open_parenthesis(lines[0], tab_width)) {
         read.width = width;
         read.with_tab = read.with_tab || indented_with_tab(lines[1]);
@@ -367,7 +347,7 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
             tabs = tabs || line[0] == '\t';
             std::string const last = trimmed(previous);
             if (!last.empty() && last.back() == '{' && last.find("\\") == std::string::npos) {
-                int const step = width_of_indent(line, tab_width) - width_of_indent(previous, tab_width);
+                int const step = indentation_columns_of(line, tab_width) - indentation_columns_of(previous, tab_width);
                 if (step > 0)
                     ++steps[step];
             }
@@ -388,7 +368,7 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
         std::vector<std::string> const lines = lines_of(form.code);
         if (form.structure != "if" || lines.size() < 3 || !starts_with(trimmed(lines.back()), "}"))
             continue;
-        int const brace_step = width_of_indent(lines.back(), tab_width) - width_of_indent(lines.front(), tab_width);
+        int const brace_step = indentation_columns_of(lines.back(), tab_width) - indentation_columns_of(lines.front(), tab_width);
         if (brace_step > 0 && brace_step < most_common->first)
             width = std::to_string(brace_step);
     }
@@ -497,7 +477,7 @@ std::string directives_read_from(forms_by_name const& forms) {
         return std::string();
     std::size_t const after = inner.find_first_not_of(" \t", hash + 1) - hash - 1;
     if (hash > 0)
-        return "{IndentPPDirectives: BeforeHash, PPIndentWidth: " + std::to_string(width_of_indent(inner)) + "}";
+        return "{IndentPPDirectives: BeforeHash, PPIndentWidth: " + std::to_string(indentation_columns_of(inner, 8)) + "}";
     if (after > 0)
         return "{IndentPPDirectives: AfterHash, PPIndentWidth: " + std::to_string(after) + "}";
     return "{IndentPPDirectives: None}";
@@ -658,10 +638,10 @@ std::string trailing_comments_read_from(forms_by_name const& forms, int tab_widt
         if (comment == std::string::npos || comment == 0)
             continue;
         std::size_t const code_end = line.find_last_not_of(" \t", comment - 1);
-        int const column = width_of_line(line.substr(0, comment), tab_width);
+        int const column = columns_of(line.substr(0, comment), tab_width);
         columns.push_back(column);
         gaps.push_back(code_end == std::string::npos ? -1
-                                                     : column - width_of_line(line.substr(0, code_end + 1), tab_width));
+                                                     : column - columns_of(line.substr(0, code_end + 1), tab_width));
     }
     if (columns.size() != 2)
         return std::string();
@@ -682,9 +662,9 @@ std::string column_limit_read_from(std::vector<form_case> const& forms) {
     for (form_case const& form : forms)
         for (std::string const& line : lines_of(form.code)) {
             if (!starts_with(trimmed(line), "//"))
-                longest = std::max(longest, static_cast<std::size_t>(width_of_line(line, tab_width)));
+                longest = std::max(longest, static_cast<std::size_t>(columns_of(line, tab_width)));
             if (form.structure == "macro" && !line.empty() && line.back() == '\\')
-                backslash_columns.insert(width_of_line(line, tab_width));
+                backslash_columns.insert(columns_of(line, tab_width));
         }
     if (backslash_columns.size() == 1)
         for (int limit : {79, 80, 100, 120})

@@ -12,6 +12,7 @@
 #include "engine_limits.h"
 #include "form_conflicts.h"
 #include "project_macros.h"
+#include "text_columns.h"
 #include "option_inference.h"
 #include "revision.h"
 #include "white_space.h"
@@ -249,16 +250,7 @@ std::string namespace_indentation_read_from(std::vector<std::string> const& piec
 
 // The columns a line's indentation takes, tabs counted `tab_width` wide.
 std::size_t indentation_of(std::string const& line, int tab_width) {
-    std::size_t width = 0;
-    for (char c : line) {
-        if (c == ' ')
-            ++width;
-        else if (c == '\t')
-            width += static_cast<std::size_t>(tab_width) - width % static_cast<std::size_t>(tab_width);
-        else
-            break;
-    }
-    return width;
+    return static_cast<std::size_t>(indentation_columns_of(line, tab_width));
 }
 
 bool comment_or_directive(std::string const& text) {
@@ -338,10 +330,7 @@ std::string continuation_tabs_read_from(std::vector<std::string> const& pieces, 
 
 // The columns the text before `end` takes, tabs counted 8 wide.
 std::size_t columns_before(std::string const& line, std::size_t end) {
-    std::size_t width = 0;
-    for (std::size_t i = 0; i < end; ++i)
-        width += line[i] == '\t' ? 8 - width % 8 : 1;
-    return width;
+    return static_cast<std::size_t>(columns_of(std::string_view(line).substr(0, end), 8));
 }
 
 // Whether the backslashes that continue a macro's lines stand one blank after each line's code or
