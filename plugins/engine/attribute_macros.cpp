@@ -3,6 +3,7 @@
 #include "attribute_macros.h"
 
 #include "project_macros.h"
+#include "text_lines.h"
 
 #include <cctype>
 #include <map>

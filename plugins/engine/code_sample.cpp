@@ -4,10 +4,10 @@
 
 #include "bracket_balance.h"
 #include "conditional_passes.h"
+#include "text_lines.h"
 
 #include <algorithm>
 #include <cctype>
-#include <sstream>
 
 namespace tarnel_engine {
 
@@ -18,17 +18,11 @@ unsigned long const most_passes = 8;
 
 bool blank(std::string const& line) { return line.find_first_not_of(" \t\f\v") == std::string::npos; }
 
-std::string trimmed(std::string const& line) {
-    std::size_t const begin = line.find_first_not_of(" \t");
-    return begin == std::string::npos ? std::string() : line.substr(begin);
-}
-
 // A brace that opens a namespace or an extern block: its contents are cut as at the top level.
 bool opens_a_container(std::vector<std::string> const& lines, std::size_t line) {
     for (std::size_t at = line + 1; at-- > 0 && at + 2 > line;) {
         std::string const text = trimmed(lines[at]);
-        if (text.compare(0, 9, "namespace") == 0 || text.compare(0, 16, "inline namespace") == 0 ||
-            text.compare(0, 6, "extern") == 0)
+        if (starts_with(text, "namespace") || starts_with(text, "inline namespace") || starts_with(text, "extern"))
             return true;
         if (at < line && !text.empty() && text != "{")
             return false;
@@ -52,7 +46,7 @@ std::vector<line_state> states_of(std::vector<std::string> const& lines) {
     bool broken = false;
     for (std::size_t l = 0; l < lines.size() && !broken; ++l) {
         std::string const& line = lines[l];
-        bool const directive = continued_directive || (!block_comment && trimmed(line).compare(0, 1, "#") == 0);
+        bool const directive = continued_directive || (!block_comment && starts_with(trimmed(line), "#"));
         continued_directive = directive && !line.empty() && line.back() == '\\';
         char quote = 0;
         for (std::size_t i = 0; i < line.size(); ++i) {
@@ -123,18 +117,6 @@ std::string piece_of(std::vector<std::string> const& lines, std::vector<std::siz
 }
 
 }  // namespace
-
-std::vector<std::string> lines_of(std::string const& text) {
-    std::vector<std::string> lines;
-    std::istringstream stream(text);
-    std::string line;
-    while (std::getline(stream, line)) {
-        if (!line.empty() && line.back() == '\r')
-            line.pop_back();
-        lines.push_back(line);
-    }
-    return lines;
-}
 
 std::vector<std::string> take_sample::of(std::vector<std::string> const& texts) const {
     std::vector<std::string> pieces;

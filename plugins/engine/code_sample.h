@@ -4,6 +4,9 @@
 #ifndef TARNEL_ENGINE_CODE_SAMPLE_H
 #define TARNEL_ENGINE_CODE_SAMPLE_H
 
+// The lines of a text, as those who read a sample cut it.
+#include "text_lines.h"
+
 #include <string>
 #include <vector>
 
@@ -31,9 +34,6 @@ public:
 private:
     sample_bounds bounds;
 };
-
-// The lines of a text, without their line feeds and carriage returns.
-std::vector<std::string> lines_of(std::string const& text);
 
 }  // namespace tarnel_engine
 

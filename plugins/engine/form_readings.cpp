@@ -4,6 +4,7 @@
 
 #include "project_macros.h"
 #include "text_columns.h"
+#include "text_lines.h"
 
 #include <algorithm>
 #include <map>
@@ -13,25 +14,6 @@
 namespace tarnel_engine {
 
 namespace {
-
-std::vector<std::string> lines_of(std::string const& code) {
-    std::vector<std::string> lines;
-    std::istringstream stream(code);
-    std::string line;
-    while (std::getline(stream, line))
-        lines.push_back(line);
-    return lines;
-}
-
-std::string trimmed(std::string const& line) {
-    std::size_t const begin = line.find_first_not_of(" \t");
-    if (begin == std::string::npos)
-        return std::string();
-    std::size_t const end = line.find_last_not_of(" \t");
-    return line.substr(begin, end - begin + 1);
-}
-
-bool starts_with(std::string const& text, std::string const& prefix) { return text.compare(0, prefix.size(), prefix) == 0; }
 
 std::string flag(bool value) { return value ? "true" : "false"; }
 

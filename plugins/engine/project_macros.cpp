@@ -7,6 +7,7 @@
 #include "loop_macros.h"
 #include "statement_macros.h"
 #include "structure_catalogue.h"
+#include "text_lines.h"
 
 #include <algorithm>
 #include <cctype>
@@ -36,13 +37,6 @@ bool is_keyword(std::string const& word) {
         "using", "namespace", "public", "private", "protected", "co_return", "co_await", "co_yield", "and", "or",
         "not", "int", "char", "short", "long", "signed", "unsigned", "float", "double", "bool", "_Bool"};
     return keywords.count(word) != 0;
-}
-
-std::string trimmed(std::string const& line) {
-    std::size_t const begin = line.find_first_not_of(" \t\r");
-    if (begin == std::string::npos)
-        return std::string();
-    return line.substr(begin, line.find_last_not_of(" \t\r") - begin + 1);
 }
 
 std::string name_opening(std::string const& text, std::string const& ending) {

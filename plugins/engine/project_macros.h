@@ -57,7 +57,6 @@ bool is_name(std::string const& token);
 // Words that open statements or expressions of their own, or are placeholders of the forms: never
 // a macro's name.
 bool is_keyword(std::string const& word);
-std::string trimmed(std::string const& line);
 // The name that opens `text` when what follows it is its arguments in parentheses and then
 // `ending` (blanks allowed between); empty otherwise.
 std::string name_opening(std::string const& text, std::string const& ending);

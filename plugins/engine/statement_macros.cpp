@@ -2,6 +2,7 @@
 #include "statement_macros.h"
 
 #include "project_macros.h"
+#include "text_lines.h"
 
 #include <map>
 #include <sstream>

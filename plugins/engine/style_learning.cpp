@@ -13,6 +13,7 @@
 #include "form_conflicts.h"
 #include "project_macros.h"
 #include "text_columns.h"
+#include "text_lines.h"
 #include "option_inference.h"
 #include "revision.h"
 #include "white_space.h"
@@ -50,18 +51,9 @@ std::size_t const sources_screened = 25;
 // line file read a hundred times, a few seconds and a few hundred megabytes.
 unsigned long const most_lines_read = 1000000;
 
-std::string trimmed(std::string const& line) {
-    std::size_t const begin = line.find_first_not_of(" \t");
-    if (begin == std::string::npos)
-        return std::string();
-    return line.substr(begin, line.find_last_not_of(" \t") - begin + 1);
-}
-
 bool ends_with(std::string const& text, std::string const& end) {
     return text.size() >= end.size() && text.compare(text.size() - end.size(), end.size(), end) == 0;
 }
-
-bool starts_with(std::string const& text, std::string const& prefix) { return text.compare(0, prefix.size(), prefix) == 0; }
 
 // Traits as the host gives them for 8-bit text: the first line break, and a blank.
 line_ending_traits traits_of_8_bit(std::string const& source) {

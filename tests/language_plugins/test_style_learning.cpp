@@ -16,6 +16,7 @@
 #include "project_macros.h"
 #include "revision.h"
 #include "style_learning.h"
+#include "text_lines.h"
 #include "tests/harness/built_files.h"
 
 #include <QDir>
