@@ -320,19 +320,15 @@ std::string continuation_tabs_read_from(std::vector<std::string> const& pieces, 
     return way < 0 ? std::string() : way ? "{UseTab: ForContinuationAndIndentation}" : "{UseTab: ForIndentation}";
 }
 
-// The columns the text before `end` takes, tabs counted 8 wide.
-std::size_t columns_before(std::string const& line, std::size_t end) {
-    return static_cast<std::size_t>(columns_of(std::string_view(line).substr(0, end), 8));
-}
-
 // Whether the backslashes that continue a macro's lines stand one blank after each line's code or
-// line up in one column, where one way clearly outnumbers the other: a run of continued lines of
-// different lengths counts once (runs lined up neither way say nothing). Only the first way is a
-// rule of its own (lined up, the search chooses which column).
-std::string escaped_newlines_read_from(std::vector<std::string> const& pieces) {
+// line up in one column (tabs `tab_width` wide, as the code shows them), where one way clearly
+// outnumbers the other: a run of continued lines of different lengths counts once (runs lined up
+// neither way say nothing). Only the first way is a rule of its own (lined up, the search chooses
+// which column).
+std::string escaped_newlines_read_from(std::vector<std::string> const& pieces, int tab_width) {
     std::map<long, long> aligned;
     for (std::string const& piece : pieces) {
-        std::set<std::size_t> columns;
+        std::set<int> columns;
         std::set<std::size_t> lengths;
         bool one_blank = true;
         auto const run_ends = [&] {
@@ -349,7 +345,7 @@ std::string escaped_newlines_read_from(std::vector<std::string> const& pieces) {
                 run_ends();
                 continue;
             }
-            columns.insert(columns_before(line, line.size() - 1));
+            columns.insert(columns_of(std::string_view(line).substr(0, line.size() - 1), tab_width));
             lengths.insert(code_end + 1);
             one_blank = one_blank && line.size() - code_end == 3 && line[code_end + 1] == ' ';
         }
@@ -817,7 +813,7 @@ std::vector<std::string> rules_read_from_every_source(std::vector<std::string> c
     std::vector<std::string> rules;
     for (std::string const& reading :
          {continuation_indent_read_from(sources, tab_columns), case_labels_read_from(sources, tab_columns),
-          trailing_comment_blanks_read_from(sources), escaped_newlines_read_from(sources),
+          trailing_comment_blanks_read_from(sources), escaped_newlines_read_from(sources, tab_columns),
           braced_lists_read_from(sources), loop_macro_parentheses_read_from(sources),
           blank_lines_read_from(sources), goto_labels_read_from(sources),
           tab_width ? continuation_tabs_read_from(sources, tab_columns) : std::string()})

@@ -528,6 +528,14 @@ private slots:
                                                               << "{AlignEscapedNewlines: DontAlign}";
         QTest::newRow("backslashes lined up: the search chooses the column")
             << lined_up << 8 << "AlignEscapedNewlines" << "";
+        // Backslashes in column 24 under tabs 4 wide (in no column under tabs of 8), beside a macro
+        // with them one blank after its code: neither way is clear. Fault caught: tabs counted 8
+        // wide whatever the code's own, which hides the lined-up backslashes.
+        QString const lined_up_under_4 = "#define CHECK(x)" + QString(8, ' ') + "\\\n\tdo {" + QString(16, ' ') +
+                                         "\\\n\t\tif (!(x))" + QString(7, ' ') + "\\\n\t\t\tfail();" +
+                                         QString(5, ' ') + "\\\n\t} while (0)\n";
+        QTest::newRow("backslashes lined up under tabs of 4 beside one blank after the code")
+            << macro + "\n" + lined_up_under_4 << 4 << "AlignEscapedNewlines" << "";
         QTest::newRow("braced lists with blanks inside, laid out as blocks")
             << "static int sizes[] = { 1, 2, 4 };\nstatic struct entry table[] = {\n\t{ \"name\", 1 },\n};\n" << 8
             << "Cpp11BracedListStyle" << "{Cpp11BracedListStyle: false}";
