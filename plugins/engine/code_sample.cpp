@@ -122,6 +122,10 @@ std::vector<std::string> take_sample::of(std::vector<std::string> const& texts) 
     std::vector<std::string> pieces;
     if (texts.empty())
         return pieces;
+    // Every k-th text, k rounded up (so at most `bounds.files` of them, often fewer). The learning's
+    // own every k-th of its sources (style_learning.cpp) takes exactly as many as it may, at
+    // fractional strides: other files, so every learned style's sample, and with it the styles and
+    // their recorded figures, would change for no gain of the sample's.
     std::size_t const step = (texts.size() + bounds.files - 1) / bounds.files;
     // Each file's share of the lines, so that the sample reaches the last file as well as the first
     // (a few long files would otherwise fill it).
