@@ -69,6 +69,34 @@ std::vector<std::string> project_mostly_in(loaded_plugin const& plugin,
     return project;
 }
 
+// `files` files of `functions` functions each: `code(file, n)` the code of function n of a file,
+// n its number in the file plus the file's number times 100.
+std::vector<std::string> functions_in(int files, int functions,
+                                      std::function<std::string(int, std::string const&)> const& code) {
+    std::vector<std::string> project;
+    for (int file = 0; file < files; ++file) {
+        std::string text;
+        for (int function = 0; function < functions; ++function)
+            text += code(file, std::to_string(file * 100 + function));
+        project.push_back(text);
+    }
+    return project;
+}
+
+// The options an addon's forms give, each line after a line feed and runs of blanks as one: what
+// the tests look for ("\nTabWidth: 8\n").
+QString options_shown_by(std::string const& addon, tarnel_engine::language_description const& language) {
+    return QString("\n" + QString::fromStdString(tarnel_engine::options_inferred_from(addon, language)))
+        .replace(QRegularExpression(" +"), " ");
+}
+
+// The closing check of a learning: a style was written and it leaves every line of the project as
+// it is.
+void check_every_line_left_by(learned_style const& learned) {
+    QVERIFY(!learned.addon.empty());
+    QCOMPARE(learned.lines_left, learned.lines);
+}
+
 unsigned long lines_left_in(std::vector<std::string> const& project, loaded_plugin const& plugin,
                             std::string const& addon) {
     unsigned long left = 0;
@@ -387,27 +415,18 @@ private slots:
     // catalogue's single blank and so say one; and comments lined up or not by a style whose forms
     // do carry it, which moves the comments standing further.
     void holds_the_blanks_before_trailing_comments() {
-        std::vector<std::string> project;
-        for (int file = 0; file < 6; ++file) {
-            std::string text;
-            for (int function = 0; function < 40; ++function) {
-                std::string const n = std::to_string(file * 100 + function);
-                std::string const further = function % 5 == 4 ? "    " : "  ";
-                text += "int step_" + n + "(int x) {\n  int y = x + " + n + ";  // the next one\n  if (y > 3) {\n"
-                        "    y = 3;" + further + "// at most three\n  }\n  return y;  // done\n}\n\n";
-            }
-            project.push_back(text);
-        }
+        std::vector<std::string> const project = functions_in(6, 40, [](int, std::string const& n) {
+            std::string const further = std::stoi(n) % 100 % 5 == 4 ? "    " : "  ";
+            return "int step_" + n + "(int x) {\n  int y = x + " + n + ";  // the next one\n  if (y > 3) {\n"
+                   "    y = 3;" + further + "// at most three\n  }\n  return y;  // done\n}\n\n";
+        });
         loaded_plugin plugin(cpp_plugin_file());
         learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
-        QVERIFY(!learned.addon.empty());
-        QString const inferred = QString("\n" + QString::fromStdString(tarnel_engine::options_inferred_from(
-                                                    learned.addon, cpp_language())))
-                                     .replace(QRegularExpression(" +"), " ");
+        QString const inferred = options_shown_by(learned.addon, cpp_language());
         QVERIFY2(inferred.contains("\nSpacesBeforeTrailingComments: 2\n") ||
                      inferred.contains("\nAlignTrailingComments:\n Kind: Leave\n"),
                  qPrintable(inferred));
-        QCOMPARE(learned.lines_left, learned.lines);
+        check_every_line_left_by(learned);
     }
 
     // Trailing comments two blanks from their code in the files the sample takes (every other one
@@ -416,21 +435,13 @@ private slots:
     // them, as the forms carry it. Fault caught: the search's own choice kept on a tie, which moves
     // the comments of the files the sample did not take.
     void leaves_trailing_comments_where_the_sample_cannot_tell() {
-        std::vector<std::string> project;
-        for (int file = 0; file < 70; ++file) {
-            std::string text;
-            for (int function = 0; function < 12; ++function) {
-                std::string const n = std::to_string(file * 100 + function);
-                std::string const blanks = file % 2 ? "     " : "  ";
-                text += "int step_" + n + "(int x) {\n  int y = x + " + n + ";  // the next one\n  if (y > 3) {\n"
-                        "    y = 3;\n  }\n  return y;" + blanks + "// done\n}\n\n";
-            }
-            project.push_back(text);
-        }
+        std::vector<std::string> const project = functions_in(70, 12, [](int file, std::string const& n) {
+            std::string const blanks = file % 2 ? "     " : "  ";
+            return "int step_" + n + "(int x) {\n  int y = x + " + n + ";  // the next one\n  if (y > 3) {\n"
+                   "    y = 3;\n  }\n  return y;" + blanks + "// done\n}\n\n";
+        });
         loaded_plugin plugin(cpp_plugin_file());
-        learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
-        QVERIFY(!learned.addon.empty());
-        QCOMPARE(learned.lines_left, learned.lines);
+        check_every_line_left_by(plugin.learning()->learn_style(project, "Learned", {}));
     }
 
     // Code with lines longer than any limit (the author's breaks kept): in the files the sample
@@ -440,26 +451,19 @@ private slots:
     // limit, the values the search kept from a sample that cannot tell (ifs, case labels and
     // functions on lines of their own), which split what the author joined.
     void keeps_what_the_author_joined_under_no_limit() {
-        std::vector<std::string> project;
-        for (int file = 0; file < 70; ++file) {
-            std::string text;
-            for (int function = 0; function < 12; ++function) {
-                std::string const n = std::to_string(file * 100 + function);
-                text += "int step_" + n + "(int x) {\n  int y = x + " + n + ";\n  if (y > 3) {\n    y = 3;\n  }\n"
-                        "  return y;\n}\n\nint one_" + n + "(void) {\n  return 1;\n}\n\n";
-                if (file % 2)
-                    text += "int pick_" + n + "(int x) {\n  if (x > 1) return 1;\n  else return 2;\n}\n\n"
-                            "int choose_" + n + "(int x) {\n  switch (x) {\n    case 1: return 2;\n"
-                            "    default: return 0;\n  }\n}\n\n"
-                            "int call_" + n + "(int x) {\n  return compute(x, 1,\n                 2, 3);\n}\n\n"
-                            "int size_" + n + "(int x) { return x + 1; }\n\n";
-            }
-            project.push_back(text);
-        }
+        std::vector<std::string> const project = functions_in(70, 12, [](int file, std::string const& n) {
+            std::string text = "int step_" + n + "(int x) {\n  int y = x + " + n + ";\n  if (y > 3) {\n    y = 3;\n  }\n"
+                               "  return y;\n}\n\nint one_" + n + "(void) {\n  return 1;\n}\n\n";
+            if (file % 2)
+                text += "int pick_" + n + "(int x) {\n  if (x > 1) return 1;\n  else return 2;\n}\n\n"
+                        "int choose_" + n + "(int x) {\n  switch (x) {\n    case 1: return 2;\n"
+                        "    default: return 0;\n  }\n}\n\n"
+                        "int call_" + n + "(int x) {\n  return compute(x, 1,\n                 2, 3);\n}\n\n"
+                        "int size_" + n + "(int x) { return x + 1; }\n\n";
+            return text;
+        });
         loaded_plugin plugin(c_plugin_file());
-        learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
-        QVERIFY(!learned.addon.empty());
-        QCOMPARE(learned.lines_left, learned.lines);
+        check_every_line_left_by(plugin.learning()->learn_style(project, "Learned", {}));
     }
 
     // Each kind of macro is read from code of its own shape only, in two files: a loop without
@@ -636,8 +640,7 @@ private slots:
         QVERIFY(project.back() != STYLE_TARNEL_SYNTAX_ERROR_TEXT);
         learned_style const learned = plugin.learning()->learn_style(project, "Learned", {});
         QVERIFY(!learned.addon.empty());
-        QString const inferred = QString("\n" + QString::fromStdString(tarnel_engine::options_inferred_from(learned.addon, c_language())))
-                                  .replace(QRegularExpression(" +"), " ");
+        QString const inferred = options_shown_by(learned.addon, c_language());
         QVERIFY2(inferred.contains("\nTabWidth: 8\n"), qPrintable(inferred));
         QVERIFY2(inferred.contains("\nIndentWidth: 8\n"), qPrintable(inferred));
     }
