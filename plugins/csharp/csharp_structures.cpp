@@ -60,8 +60,13 @@ tarnel_engine::structure_catalogue csharp_structures() {
         {"lambda", "name = (argument) => SOME;\nname_part(SOME, argument => {\n  SOME;\n  SOME;\n});",
          "A lambda: a short one on one line, and how the body of a longer one is indented.",
          {"AllowShortLambdasOnASingleLine", "BraceWrapping.BeforeLambdaBody", "LambdaBodyIndentation"}},
-        {"query", "var name = from argument in SOME\n           where argument.name_part == SOME\n           select argument;",
-         "A query expression: how its clauses are laid out.", {"ColumnLimit", "ContinuationIndentWidth"}},
+        // In a method, as queries are written: at the top level the engine reads the statements after one
+        // as part of it.
+        {"query",
+         "void name() {\n  var name_part = from argument in SOME\n                  where argument.name_long_part == SOME\n"
+         "                  select argument;\n}",
+         "A query expression in a method: how its clauses are laid out.",
+         {"ColumnLimit", "ContinuationIndentWidth", "BraceWrapping.AfterFunction"}},
         c_family_structure("long assignment"),
         tarnel_engine::shared_structure("long call chain"),
         c_family_structure("long condition"),

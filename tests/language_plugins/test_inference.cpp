@@ -604,6 +604,9 @@ private slots:
         // Java's and C# long method declaration is the declaration whose return type may break.
         row("return type on its own line in definitions, C#", "Microsoft[C#].style",
             "{BreakAfterReturnType: AllDefinitions}");
+        // C#'s forms after its query formatted with it, as the engine does with a query at the top
+        // level, would never come back under any options.
+        row("operators first but `=`, C#", "Google[C#].style", "{BreakBeforeBinaryOperators: NonAssignment}");
         // An adopted protocol list and the superclass's colon before it: only moved together do
         // they give the forms back, so the form that shows both names both.
         row("no blank before an adopted protocol list, Objective-C", "Google[Objective-C].style",
