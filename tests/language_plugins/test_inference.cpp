@@ -607,6 +607,9 @@ private slots:
         // C#'s forms after its query formatted with it, as the engine does with a query at the top
         // level, would never come back under any options.
         row("operators first but `=`, C#", "Google[C#].style", "{BreakBeforeBinaryOperators: NonAssignment}");
+        // The attributes' method, defined in its class, tells the top level alone from every definition.
+        row("return type on its own line in top-level definitions only, C#", "Google[C#].style",
+            "{BreakAfterReturnType: TopLevelDefinitions}");
         // An adopted protocol list and the superclass's colon before it: only moved together do
         // they give the forms back, so the form that shows both names both.
         row("no blank before an adopted protocol list, Objective-C", "Google[Objective-C].style",
