@@ -6,6 +6,16 @@
 #include "c_family_structures.h"
 #include "shared_structures.h"
 
+namespace {
+
+char const* const query_in_a_method =
+    "void name() {\n  var name_part = from argument in SOME\n                  where argument.name_long_part == SOME\n"
+    "                  select argument;\n}";
+char const* const query_at_the_top_level =
+    "var name = from argument in SOME\n           where argument.name_part == SOME\n           select argument;";
+
+}  // namespace
+
 tarnel_engine::structure_catalogue csharp_structures() {
     return {
         {"async method", "public async Task<type> name(type argument) {\n  await SOME;\n  return await name_part(argument);\n}",
@@ -61,12 +71,11 @@ tarnel_engine::structure_catalogue csharp_structures() {
          "A lambda: a short one on one line, and how the body of a longer one is indented.",
          {"AllowShortLambdasOnASingleLine", "BraceWrapping.BeforeLambdaBody", "LambdaBodyIndentation"}},
         // In a method, as queries are written: at the top level the engine reads the statements after one
-        // as part of it.
-        {"query",
-         "void name() {\n  var name_part = from argument in SOME\n                  where argument.name_long_part == SOME\n"
-         "                  select argument;\n}",
-         "A query expression in a method: how its clauses are laid out.",
-         {"ColumnLimit", "ContinuationIndentWidth", "BraceWrapping.AfterFunction"}},
+        // as part of it. Addons written before hold it there, and stay valid.
+        {"query", query_in_a_method, "A query expression in a method: how its clauses are laid out.",
+         {"ColumnLimit", "ContinuationIndentWidth", "BraceWrapping.AfterFunction"},
+         "(?:(?:" + tarnel_engine::expression_for(tarnel_engine::tokens_of(query_in_a_method)) + ")|(?:" +
+             tarnel_engine::expression_for(tarnel_engine::tokens_of(query_at_the_top_level)) + "))"},
         c_family_structure("long assignment"),
         tarnel_engine::shared_structure("long call chain"),
         c_family_structure("long condition"),

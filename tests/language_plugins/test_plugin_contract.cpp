@@ -71,6 +71,21 @@ private slots:
         QCOMPARE(bad_structure, std::string("function call"));
     }
 
+    // C#'s query stood at the top level in addons written before it stood in a method: such an
+    // addon is still valid.
+    void an_addon_with_the_query_at_the_top_level_validates() {
+        loaded_plugin plugin(plugin_file_of("C#"));
+        std::string addon = shipped_addon("Google[C#].style");
+        std::string const opening = "S_NAME=query\nS_BEG\n";
+        std::size_t const begin = addon.find(opening);
+        QVERIFY(begin != std::string::npos);
+        std::size_t const form = begin + opening.size();
+        addon.replace(form, addon.find("\nS_END", form) - form,
+                      "var name = from argument in SOME\n    where argument.name_part == SOME select argument;");
+        std::string bad_structure;
+        QVERIFY2(!format_of_this(addon).is_invalid_based_on(plugin.get(), bad_structure), bad_structure.c_str());
+    }
+
     // The expressions stay linear: a form of a megabyte, mostly white space, is matched in full.
     void a_megabyte_form_validates() {
         loaded_plugin plugin(cpp_plugin_file());
