@@ -3,6 +3,7 @@
 #include "c_family_structures.h"
 
 #include "project_macros.h"
+#include "shared_structures.h"
 
 tarnel_engine::structure_catalogue c_family_structures() {
     return {
@@ -262,4 +263,11 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"while", "while (SOME) {\n  SOME;\n}", "A while loop: the blanks around its condition and where its braces go.",
          {"BraceWrapping.AfterControlStatement", "SpaceBeforeParens", "SpacesInParens"}},
     };
+}
+
+// The C family's entries that other languages' catalogues take as they stand ("if", "while",
+// "long assignment", ...): the same code, showing the same rules.
+tarnel_engine::structure c_family_structure(std::string const& name) {
+    static tarnel_engine::structure_catalogue const catalogue = c_family_structures();
+    return tarnel_engine::structure_named(name, catalogue);
 }

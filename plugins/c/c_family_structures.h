@@ -4,6 +4,12 @@
 
 #include "structure_catalogue.h"
 
+#include <string>
+
 tarnel_engine::structure_catalogue c_family_structures();
+
+// The entry of that name in the C family's catalogue, for the catalogues of other languages that
+// hold the same structure.
+tarnel_engine::structure c_family_structure(std::string const& name);
 
 #endif

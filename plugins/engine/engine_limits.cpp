@@ -46,8 +46,8 @@ unsigned long long memory_for_one_source() {
     return memory;
 }
 
-bool the_engine_takes(std::string const& code) {
-    nesting_reading const nesting = nesting_of(code);
+bool the_engine_takes(std::string const& code, lexed_as language) {
+    nesting_reading const nesting = nesting_of(code, language);
     if (nesting.deepest > deepest_nesting_taken)
         return false;
     // Most sources are far too small to matter: only a large one asks for the memory figure.

@@ -3,6 +3,8 @@
 #ifndef TARNEL_ENGINE_ENGINE_LIMITS_H
 #define TARNEL_ENGINE_ENGINE_LIMITS_H
 
+#include "token_sequence.h"
+
 #include <string>
 
 namespace tarnel_engine {
@@ -18,7 +20,8 @@ unsigned long const engine_bytes_per_token = 1024;
 // Whether the engine may format the code: nested no deeper than deepest_nesting_taken, and with
 // memory enough for its tokens in half the memory available now (the host revises other files on
 // other workers meanwhile) and in the address space the process may still take.
-bool the_engine_takes(std::string const& code);
+// Read as the language reads its brackets (nesting_depth.h).
+bool the_engine_takes(std::string const& code, lexed_as language = lexed_as::latest_cpp);
 
 // The memory the engine may count on for one source: half the machine's available memory, or
 // what the process's address-space limit leaves when less.

@@ -401,6 +401,17 @@ bool return_type_alone_in(forms_by_name const& forms, std::string const& structu
     return false;
 }
 
+// Whether a method defined in its class has its return type on a line of its own: C++'s inline
+// method, or C#'s attributes' method (`public void name_part() {}`); true where neither form is.
+bool member_return_type_alone(forms_by_name const& forms) {
+    if (forms.find("inline method") || !forms.find("attributes"))
+        return return_type_alone_in(forms, "inline method");
+    for (std::string const& line : lines_of(*forms.find("attributes")))
+        if (trimmed(line) == "public void")
+            return true;
+    return false;
+}
+
 // The return type on a line of its own in declarations, or in definitions only; inside classes
 // and extern blocks too or at the top level alone (with neither form, as everywhere); the name
 // indented under it or not.
@@ -419,7 +430,7 @@ std::string return_type_read_from(forms_by_name const& forms) {
         (declarations_break ? (return_type_alone_in(forms, "class") && return_type_alone_in(forms, "extern block")
                                    ? "All"
                                    : "TopLevel")
-         : definitions_break ? (return_type_alone_in(forms, "inline method") ? "AllDefinitions" : "TopLevelDefinitions")
+         : definitions_break ? (member_return_type_alone(forms) ? "AllDefinitions" : "TopLevelDefinitions")
                              : "None");
     if (definitions_break)
         reading += ", IndentWrappedFunctionNames: " + flag(forms.indent_of_line("function definition", 1) > 0);

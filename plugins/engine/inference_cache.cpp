@@ -133,7 +133,7 @@ std::vector<form_case> form_cases_in(std::string const& addon, language_descript
     for (structure const& each : language.structures) {
         std::string const form = form_of_structure(each.name).in(addon);
         if (form.empty() || !style_tarnel::match_in_full(expressions.at(each.name)).of(form) ||
-            !the_engine_takes(form))
+            !the_engine_takes(form, language.lexing))
             continue;
         cases.push_back({each.name, with_instances(form_as_code(with_white_space_runs_bounded(form))), each.decides});
     }

@@ -42,14 +42,14 @@ struct statement_counts {
 
 }  // namespace
 
-nesting_reading nesting_of(std::string const& code) {
+nesting_reading nesting_of(std::string const& code, lexed_as language) {
     nesting_reading reading;
     statement_counts counts;
     unsigned long controls_in_a_row = 0;
     bool statement_ended = false;  // by a `;`: the next token begins another unless it is `else`
     bool was_in_directive = false;
     auto const deepen = [&](unsigned long depth) { reading.deepest = std::max(reading.deepest, depth); };
-    walk_brackets_of(code, [&](bracket_step const& step) {
+    auto const count = [&](bracket_step const& step) {
         ++reading.tokens;
         std::string const& token = step.spelling;
         bool const directive_starts = step.in_directive && step.starts_line;
@@ -93,7 +93,23 @@ nesting_reading nesting_of(std::string const& code) {
             deepen(++counts.prefixes_in_a_row);
         else
             counts.prefixes_in_a_row = 0;
-    });
+    };
+    if (language != lexed_as::javascript && language != lexed_as::java) {
+        walk_brackets_of(code, count, language);
+        return reading;
+    }
+    // A piece of a template literal between two substitutions closes one and opens the next.
+    unsigned long open = 0;
+    for (std::string const& token : tokens_of(code, language)) {
+        bool const piece = language == lexed_as::javascript && token.size() > 1 && (token.front() == '`' || token.front() == '}');
+        bool const closes = token == ")" || token == "]" || token == "}" || (piece && token.front() == '}');
+        if (closes && open > 0)
+            --open;
+        if (token == "(" || token == "[" || token == "{" ||
+            (piece && token.size() >= 2 && token.compare(token.size() - 2, 2, "${") == 0))
+            ++open;
+        count(bracket_step{token, false, false, open});
+    }
     return reading;
 }
 

@@ -5,6 +5,8 @@
 #ifndef TARNEL_ENGINE_NESTING_DEPTH_H
 #define TARNEL_ENGINE_NESTING_DEPTH_H
 
+#include "token_sequence.h"
+
 #include <string>
 
 namespace tarnel_engine {
@@ -17,7 +19,9 @@ struct nesting_reading {
     unsigned long tokens = 0;
 };
 
-nesting_reading nesting_of(std::string const& code);
+// JavaScript and Java are read among their own tokens (as brackets_are_balanced_in() reads them):
+// a bracket in a template literal's text, a regular expression or a text block opens nothing.
+nesting_reading nesting_of(std::string const& code, lexed_as language = lexed_as::latest_cpp);
 
 }  // namespace tarnel_engine
 

@@ -133,7 +133,7 @@ std::string revise_lines_of::here(std::string const& source, std::string const& 
             return source;
         // The whole source must pair its brackets: a range may open a block that closes outside it.
         // The engine parses all of it, so what it cannot take is refused as for a whole revision.
-        if (!brackets_are_balanced_in(*decoded, language.lexing) || !the_engine_takes(*decoded))
+        if (!brackets_are_balanced_in(*decoded, language.lexing) || !the_engine_takes(*decoded, language.lexing))
             return syntax_error;
         clang::format::FormatStyle style = inference_cache::shared().style_for(addon, language);
         style.LineEnding = engine_line_ending(encoding.ending());

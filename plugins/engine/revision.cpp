@@ -76,7 +76,7 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
             return source;
         // Nested deeper than the engine's stack survives, or larger than memory allows, the code
         // would crash the engine or abort the process: it is refused before the engine sees it.
-        if (!brackets_are_balanced_in(*decoded, language.lexing) || !the_engine_takes(*decoded))
+        if (!brackets_are_balanced_in(*decoded, language.lexing) || !the_engine_takes(*decoded, language.lexing))
             return syntax_error;
         clang::format::FormatStyle style = options_for(addon)->style;
         style.LineEnding = engine_line_ending(encoding.ending());
@@ -162,7 +162,7 @@ std::map<std::string, std::string> forms_formatted_by_inferred_options(std::stri
         if (form.empty())
             continue;
         std::string const code = form_as_code(form);
-        if (!the_engine_takes(code))
+        if (!the_engine_takes(code, language.lexing))
             continue;
         formatted[each.name] =
             form_as_code(without_instances(format_with(style).the_code(with_instances(code) + "\n").text));

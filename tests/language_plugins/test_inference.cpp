@@ -604,6 +604,16 @@ private slots:
         // Java's and C# long method declaration is the declaration whose return type may break.
         row("return type on its own line in definitions, C#", "Microsoft[C#].style",
             "{BreakAfterReturnType: AllDefinitions}");
+        // C#'s forms after its query formatted with it, as the engine does with a query at the top
+        // level, would never come back under any options.
+        row("operators first but `=`, C#", "Google[C#].style", "{BreakBeforeBinaryOperators: NonAssignment}");
+        // The attributes' method, defined in its class, tells the top level alone from every definition.
+        row("return type on its own line in top-level definitions only, C#", "Google[C#].style",
+            "{BreakAfterReturnType: TopLevelDefinitions}");
+        // An adopted protocol list and the superclass's colon before it: only moved together do
+        // they give the forms back, so the form that shows both names both.
+        row("no blank before an adopted protocol list, Objective-C", "Google[Objective-C].style",
+            "{ObjCSpaceBeforeProtocolList: false}");
         QTest::newRow("a loop macro added") << "LLVM[C++].style" << "for each macro" << "  BOOST_FOREACH"
                                             << "  my_for_each (name, SOME) {\n    SOME;\n  }\n  BOOST_FOREACH"
                                             << "{ForEachMacros: [foreach, Q_FOREACH, my_for_each, BOOST_FOREACH]}";

@@ -20,8 +20,8 @@ class test_plugin_contract : public QObject {
 private slots:
     void initTestCase() { use_private_cache(); }
 
-    // A catalogue holds every structure whose white space a style decides: a .proto file has
-    // fewer of them than code.
+    // A catalogue holds every structure whose white space a style decides (a .proto file has
+    // fewer of them than code), each with tokens of its own.
     void every_expression_compiles_and_names_follow_the_rules_data() {
         QTest::addColumn<QString>("file");
         QTest::addColumn<int>("least");
@@ -38,7 +38,11 @@ private slots:
         QRegularExpression const lower_case_words("^[a-z]+( [a-z]+)*$");
         for (auto const& [name, expression] : forms) {
             QVERIFY2(lower_case_words.match(QString::fromStdString(name)).hasMatch(), name.c_str());
-            QVERIFY2(boost::xpressive::sregex::compile(expression).regex_id() != nullptr, name.c_str());
+            boost::xpressive::sregex const compiled = boost::xpressive::sregex::compile(expression);
+            QVERIFY2(compiled.regex_id() != nullptr, name.c_str());
+            // A structure without tokens (an entry taken by a name its catalogue lacks) would take
+            // any white space for its form.
+            QVERIFY2(!boost::xpressive::regex_match(std::string("\n"), compiled), name.c_str());
         }
     }
 
@@ -65,6 +69,21 @@ private slots:
         std::string bad_structure;
         QVERIFY(format_of_this(addon).is_invalid_based_on(plugin.get(), bad_structure));
         QCOMPARE(bad_structure, std::string("function call"));
+    }
+
+    // C#'s query stood at the top level in addons written before it stood in a method: such an
+    // addon is still valid.
+    void an_addon_with_the_query_at_the_top_level_validates() {
+        loaded_plugin plugin(plugin_file_of("C#"));
+        std::string addon = shipped_addon("Google[C#].style");
+        std::string const opening = "S_NAME=query\nS_BEG\n";
+        std::size_t const begin = addon.find(opening);
+        QVERIFY(begin != std::string::npos);
+        std::size_t const form = begin + opening.size();
+        addon.replace(form, addon.find("\nS_END", form) - form,
+                      "var name = from argument in SOME\n    where argument.name_part == SOME select argument;");
+        std::string bad_structure;
+        QVERIFY2(!format_of_this(addon).is_invalid_based_on(plugin.get(), bad_structure), bad_structure.c_str());
     }
 
     // The expressions stay linear: a form of a megabyte, mostly white space, is matched in full.

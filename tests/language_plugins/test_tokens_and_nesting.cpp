@@ -306,6 +306,24 @@ private slots:
         }
     }
 
+    // JavaScript read as JavaScript: a bracket in the text of a template literal or a regular
+    // expression opens nothing, so many of them in a row are no nesting (read as C++'s, they were
+    // hundreds of parentheses left open, and the source was refused).
+    void javascript_brackets_in_text_do_not_nest_data() {
+        QTest::addColumn<QString>("code");
+        int const many = 300;
+        QTest::newRow("template literals") << QString::fromStdString(repeated("x = `(`;\n", many));
+        QTest::newRow("regular expressions") << QString::fromStdString(repeated("x = /\\(/;\n", many));
+    }
+    void javascript_brackets_in_text_do_not_nest() {
+        QFETCH(QString, code);
+        std::string const source = code.toStdString();
+        loaded_plugin plugin(plugin_file_of("JavaScript"));
+        QVERIFY(plugin.get());
+        QVERIFY(plugin->revise(source, shipped_addon("Google[JavaScript].style"), traits_of(source)) !=
+                STYLE_TARNEL_SYNTAX_ERROR_TEXT);
+    }
+
     // The bomb is neither learned from nor counted; the other sources are.
     void learning_passes_over_a_bomb() {
         loaded_plugin plugin(cpp_plugin_file());
