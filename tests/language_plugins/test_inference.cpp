@@ -292,6 +292,15 @@ private slots:
         QTest::newRow("* on the type, not derived")
             << "C++" << "{BasedOnStyle: Google, DerivePointerAlignment: false, PointerAlignment: Left}"
             << QStringList{"DerivePointerAlignment: false", "PointerAlignment: Left"};
+        // Without a column limit a break right after the `(` joins a short call its author broke after an
+        // argument: every other value gives the joined call back too (read as not aligned).
+        QTest::newRow("a break after the (, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AlignAfterOpenBracket: AlwaysBreak}"
+            << QStringList{"AlignAfterOpenBracket: AlwaysBreak", "ColumnLimit: 0"};
+        QTest::newRow("a break after the (, arguments one a line, no column limit")
+            << "C" << "{BasedOnStyle: Mozilla, ColumnLimit: 0, AlignAfterOpenBracket: AlwaysBreak, BinPackArguments: false, "
+                      "ContinuationIndentWidth: 2}"
+            << QStringList{"AlignAfterOpenBracket: AlwaysBreak", "ColumnLimit: 0"};
         // Without a column limit a condition's brace stays where its author put it under `MultiLine`:
         // a condition written over two lines with its brace below tells it from `Never` (read as `Never`).
         QTest::newRow("brace below conditions over several lines only, no column limit")
