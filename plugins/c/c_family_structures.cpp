@@ -49,6 +49,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"consecutive declarations", "int name;\nunsigned long name_part;\ntype *name_long_part;",
          "Whether the names declared on neighbouring lines line up after types of different lengths.",
          {"AlignConsecutiveDeclarations", "PointerAlignment"}},
+        {"declaration eighty columns wide", "type SOME_LONG, SOME_LONG, name_long_part, name, SOME;",
+         "A declaration of several names exactly 80 columns wide with blanks only after its commas: on one line "
+         "under a column limit of 80 or more, or none, and broken after its last comma under 79.",
+         {"ColumnLimit", "ContinuationIndentWidth"}},
         {"declarations", "type name = SOME;\ntype name_long_part = SOME;",
          "Whether the names and the `=` of neighbouring declarations line up.",
          {"AlignConsecutiveAssignments", "AlignConsecutiveDeclarations"}},

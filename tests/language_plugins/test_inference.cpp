@@ -301,6 +301,11 @@ private slots:
             << "C" << "{BasedOnStyle: Mozilla, ColumnLimit: 0, AlignAfterOpenBracket: AlwaysBreak, BinPackArguments: false, "
                       "ContinuationIndentWidth: 2}"
             << QStringList{"AlignAfterOpenBracket: AlwaysBreak", "ColumnLimit: 0"};
+        // A line of exactly 80 columns breaks under 79 alone: backslashes not at the limit and operands
+        // not lined up leave no other form that tells (read as 80, the narrowest the longest line fits).
+        QTest::newRow("a column limit of 79, backslashes and operands not lined up")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 79, AlignEscapedNewlines: LeftWithLastLine, AlignOperands: DontAlign}"
+            << QStringList{"ColumnLimit: 79"};
         // Without a column limit a condition's brace stays where its author put it under `MultiLine`:
         // a condition written over two lines with its brace below tells it from `Never` (read as `Never`).
         QTest::newRow("brace below conditions over several lines only, no column limit")
