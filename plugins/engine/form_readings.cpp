@@ -629,6 +629,23 @@ std::string bracket_break_read_from(forms_by_name const& forms) {
     return std::string();
 }
 
+// Without a column limit a declaration its author broke after a comma between its packed
+// parameters stays so where parameters are packed, and is joined where they go one a line
+// (having no line to break them at). Read where the short call keeps its break too, so that the
+// style has no limit and its way of breaking after a `(` joins nothing.
+std::string packed_parameters_read_from(forms_by_name const& forms) {
+    std::string const* call = forms.find("kept line break");
+    std::string const* declaration = forms.find("kept line break in parameters");
+    if (!call || !declaration || call->find('\n') == std::string::npos)
+        return std::string();
+    bool broken = false;
+    for (std::string const& line : lines_of(*declaration)) {
+        std::string const text = trimmed(line);
+        broken = broken || (!text.empty() && text.back() == ',');
+    }
+    return "{BinPackParameters: " + flag(broken) + "}";
+}
+
 // Strings written in parts: a line that ends before the first part (its `=` or `(` line, the
 // part starting the next) is a break before strings in parts. Without a column limit the author's
 // layout stays under either value, so this reading decides between them.
@@ -790,7 +807,7 @@ form_readings readings_of(std::vector<form_case> const& forms) {
          {indentation_read_from(forms), continuation_indent_read_from(forms), access_offset_read_from(named),
           return_type_read_from(named), case_labels_read_from(named), directives_read_from(named),
           namespace_indentation_read_from(named), parentheses_read_from(named), pointers_read_from(named),
-          column_limit_read_from(forms), packed_arguments_read_from(named)})
+          column_limit_read_from(forms), packed_arguments_read_from(named), packed_parameters_read_from(named)})
         if (!reading.empty())
             readings.layout.push_back(reading);
     for (std::string const& reading : short_lines_read_from(named))

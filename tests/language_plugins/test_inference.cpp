@@ -306,6 +306,14 @@ private slots:
         QTest::newRow("a column limit of 79, backslashes and operands not lined up")
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 79, AlignEscapedNewlines: LeftWithLastLine, AlignOperands: DontAlign}"
             << QStringList{"ColumnLimit: 79"};
+        // Without a column limit parameters one a line join a declaration its author broke between packed
+        // ones, which packed parameters give back too (read as packed).
+        QTest::newRow("parameters one a line, no column limit")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BinPackParameters: false}"
+            << QStringList{"BinPackParameters: false", "ColumnLimit: 0"};
+        QTest::newRow("parameters one a line, GNU, not aligned, no column limit")
+            << "C" << "{BasedOnStyle: GNU, ColumnLimit: 0, BinPackParameters: false, AlignAfterOpenBracket: DontAlign}"
+            << QStringList{"BinPackParameters: false", "ColumnLimit: 0"};
         // Without a column limit a condition's brace stays where its author put it under `MultiLine`:
         // a condition written over two lines with its brace below tells it from `Never` (read as `Never`).
         QTest::newRow("brace below conditions over several lines only, no column limit")
