@@ -19,7 +19,9 @@
 //       Fields: set, lines, lines the same, the option groups whose value the inferred options
 //       lose (comma-separated), the generating options, and for each group lost the lines that
 //       the engine under the inferred options gains when that group alone takes the generating
-//       value (group:lines, comma-separated).
+//       value (group:lines, comma-separated); then the lines, and the lines the same, against the
+//       engine run with the generating options again on its own output until nothing changes
+//       (where the engine is not its own fixed point, apart from what the addon carries).
 //   inference_bench explain <addon> <generating options>
 //       why a round trip missed: the forms that do not come back under the inferred options (and
 //       their distance), then each option group whose inferred value differs from the generating
@@ -236,6 +238,18 @@ int edits(std::vector<std::string> const& paths) {
     return 0;
 }
 
+// The engine run again on its own output until nothing changes (a few passes at most): what a
+// revision under the style gives, where one pass of the engine is not yet its own fixed point.
+std::string settled_under(FormatStyle const& style, std::string text) {
+    for (int pass = 0; pass < 4; ++pass) {
+        std::string again = tarnel_engine::format_with(style).the_code(text).text;
+        if (again == text)
+            break;
+        text = std::move(again);
+    }
+    return text;
+}
+
 int carries(std::string const& language_name, int count, unsigned seed, std::vector<std::string> const& paths) {
     tarnel_engine::language_description const& language = language_name == "C" ? c_language() : cpp_language();
     std::vector<std::string> sources;
@@ -248,14 +262,17 @@ int carries(std::string const& language_name, int count, unsigned seed, std::vec
         std::string const configuration = clang::format::configurationAsText(style);
         std::string const name = language_name + "-" + std::to_string(set);
         std::string const addon = tarnel_engine::addon_written_in(configuration, name, language);
-        unsigned long lines = 0, same = 0;
+        unsigned long lines = 0, same = 0, settled_lines = 0, same_settled = 0;
         for (std::string const& source : sources) {
             tarnel_engine::engine_outcome const wanted = tarnel_engine::format_with(style).the_code(source);
+            std::string const settled = settled_under(style, wanted.text);
             std::string const revised = revisions.revise(source, addon, {"\n", " "});
-            unsigned long const of_source = tarnel_engine::lines_of(wanted.text).size();
-            lines += of_source;
-            if (revised != STYLE_TARNEL_SYNTAX_ERROR_TEXT)
+            lines += tarnel_engine::lines_of(wanted.text).size();
+            settled_lines += tarnel_engine::lines_of(settled).size();
+            if (revised != STYLE_TARNEL_SYNTAX_ERROR_TEXT) {
                 same += tarnel_engine::lines_left_between(wanted.text, revised);
+                same_settled += tarnel_engine::lines_left_between(settled, revised);
+            }
         }
         FormatStyle const inferred = tarnel_engine::inference_cache::shared().style_for(addon, language);
         std::vector<std::string> wanted_texts;
@@ -290,7 +307,8 @@ int carries(std::string const& language_name, int count, unsigned seed, std::vec
             }
         }
         std::cout << name << "\t" << lines << "\t" << same << "\t" << (lost.empty() ? "-" : lost) << "\t"
-                  << one_line(configuration) << "\t" << (costs.empty() ? "-" : costs) << std::endl;
+                  << one_line(configuration) << "\t" << (costs.empty() ? "-" : costs) << "\t" << settled_lines << "\t"
+                  << same_settled << std::endl;
     }
     return 0;
 }

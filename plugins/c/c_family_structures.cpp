@@ -50,6 +50,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
         {"consecutive declarations", "int name;\nunsigned long name_part;\ntype *name_long_part;",
          "Whether the names declared on neighbouring lines line up after types of different lengths.",
          {"AlignConsecutiveDeclarations", "PointerAlignment"}},
+        {"declaration eighty columns wide", "type SOME_LONG, SOME_LONG, name_long_part, name, SOME;",
+         "A declaration of several names exactly 80 columns wide with blanks only after its commas: on one line "
+         "under a column limit of 80 or more, or none, and broken after its last comma under 79.",
+         {"ColumnLimit", "ContinuationIndentWidth"}},
         {"declarations", "type name = SOME;\ntype name_long_part = SOME;",
          "Whether the names and the `=` of neighbouring declarations line up.",
          {"AlignConsecutiveAssignments", "AlignConsecutiveDeclarations"}},
@@ -116,6 +120,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "A call inside a function its author wrote over two lines: kept so where the style has no column limit, and "
          "then how its second line lines up and whether tabs fill the way there.",
          {"ColumnLimit", "UseTab", "AlignAfterOpenBracket", "ContinuationIndentWidth", "BraceWrapping.AfterFunction"}},
+        {"kept line break in parameters", "type name(type argument, type argument,\n          type argument);",
+         "A declaration its author broke between its parameters, packed: kept so where the style has no column limit "
+         "and packs parameters, joined where it puts them one a line.",
+         {"BinPackParameters", "ColumnLimit", "AlignAfterOpenBracket", "ContinuationIndentWidth"}},
         {"kept line breaks around operators", "name = SOME_LONG +\n       SOME_LONG;\nname_part = SOME_LONG\n            - SOME_LONG;",
          "Two expressions their author broke, one after an operator and one before: where the style has no column "
          "limit, the break on the side the style puts operators stays and the other is joined, and then whether the "

@@ -604,6 +604,41 @@ std::string packed_arguments_read_from(forms_by_name const& forms) {
     return "{BinPackArguments: " + flag(broken("long call in a function", "name_part")) + "}";
 }
 
+// Without a column limit a short call its author broke after an argument stays so where the
+// style lines arguments up after the `(` or does not, and is joined where the style breaks right
+// after the `(` (it keeps only breaks there). A declaration's call kept broken after its `(`
+// shows that there is no limit; the short call joined beside it then shows a break after the `(`
+// that no fixed point of the other values tells apart (a joined call comes back under each).
+std::string bracket_break_read_from(forms_by_name const& forms) {
+    std::string const* call = forms.find("kept line break");
+    std::string const* declaration = forms.find("kept line break in a declaration");
+    if (!call || !declaration || call->find('\n') != std::string::npos)
+        return std::string();
+    for (std::string const& line : lines_of(*declaration)) {
+        std::string const text = trimmed(line);
+        if (!text.empty() && text.back() == '(')
+            return "{AlignAfterOpenBracket: AlwaysBreak}";
+    }
+    return std::string();
+}
+
+// Without a column limit a declaration its author broke after a comma between its packed
+// parameters stays so where parameters are packed, and is joined where they go one a line
+// (having no line to break them at). Read where the short call keeps its break too, so that the
+// style has no limit and its way of breaking after a `(` joins nothing.
+std::string packed_parameters_read_from(forms_by_name const& forms) {
+    std::string const* call = forms.find("kept line break");
+    std::string const* declaration = forms.find("kept line break in parameters");
+    if (!call || !declaration || call->find('\n') == std::string::npos)
+        return std::string();
+    bool broken = false;
+    for (std::string const& line : lines_of(*declaration)) {
+        std::string const text = trimmed(line);
+        broken = broken || (!text.empty() && text.back() == ',');
+    }
+    return "{BinPackParameters: " + flag(broken) + "}";
+}
+
 // Strings written in parts: a line that ends before the first part (its `=` or `(` line, the
 // part starting the next) is a break before strings in parts. Without a column limit the author's
 // layout stays under either value, so this reading decides between them.
@@ -765,7 +800,7 @@ form_readings readings_of(std::vector<form_case> const& forms) {
          {indentation_read_from(forms), continuation_indent_read_from(forms), access_offset_read_from(named),
           return_type_read_from(named), case_labels_read_from(named), directives_read_from(named),
           namespace_indentation_read_from(named), parentheses_read_from(named), pointers_read_from(named),
-          column_limit_read_from(forms), packed_arguments_read_from(named)})
+          column_limit_read_from(forms), packed_arguments_read_from(named), packed_parameters_read_from(named)})
         if (!reading.empty())
             readings.layout.push_back(reading);
     for (std::string const& reading : short_lines_read_from(named))
@@ -798,6 +833,9 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     std::string const return_type = return_type_read_from(named);
     if (!return_type.empty() && return_type.find("BreakAfterReturnType: None") == std::string::npos)
         readings.preferred.push_back(return_type);
+    std::string const bracket_break = bracket_break_read_from(named);
+    if (!bracket_break.empty())
+        readings.preferred.push_back(bracket_break);
     std::string const strings = multiline_strings_read_from(named);
     if (!strings.empty())
         readings.preferred.push_back(strings);

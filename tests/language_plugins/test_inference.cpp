@@ -292,6 +292,28 @@ private slots:
         QTest::newRow("* on the type, not derived")
             << "C++" << "{BasedOnStyle: Google, DerivePointerAlignment: false, PointerAlignment: Left}"
             << QStringList{"DerivePointerAlignment: false", "PointerAlignment: Left"};
+        // Without a column limit a break right after the `(` joins a short call its author broke after an
+        // argument: every other value gives the joined call back too (read as not aligned).
+        QTest::newRow("a break after the (, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AlignAfterOpenBracket: AlwaysBreak}"
+            << QStringList{"AlignAfterOpenBracket: AlwaysBreak", "ColumnLimit: 0"};
+        QTest::newRow("a break after the (, arguments one a line, no column limit")
+            << "C" << "{BasedOnStyle: Mozilla, ColumnLimit: 0, AlignAfterOpenBracket: AlwaysBreak, BinPackArguments: false, "
+                      "ContinuationIndentWidth: 2}"
+            << QStringList{"AlignAfterOpenBracket: AlwaysBreak", "ColumnLimit: 0"};
+        // A line of exactly 80 columns breaks under 79 alone: backslashes not at the limit and operands
+        // not lined up leave no other form that tells (read as 80, the narrowest the longest line fits).
+        QTest::newRow("a column limit of 79, backslashes and operands not lined up")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 79, AlignEscapedNewlines: LeftWithLastLine, AlignOperands: DontAlign}"
+            << QStringList{"ColumnLimit: 79"};
+        // Without a column limit parameters one a line join a declaration its author broke between packed
+        // ones, which packed parameters give back too (read as packed).
+        QTest::newRow("parameters one a line, no column limit")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BinPackParameters: false}"
+            << QStringList{"BinPackParameters: false", "ColumnLimit: 0"};
+        QTest::newRow("parameters one a line, GNU, not aligned, no column limit")
+            << "C" << "{BasedOnStyle: GNU, ColumnLimit: 0, BinPackParameters: false, AlignAfterOpenBracket: DontAlign}"
+            << QStringList{"BinPackParameters: false", "ColumnLimit: 0"};
         // Without a column limit a condition's brace stays where its author put it under `MultiLine`:
         // a condition written over two lines with its brace below tells it from `Never` (read as `Never`).
         QTest::newRow("brace below conditions over several lines only, no column limit")
@@ -478,7 +500,8 @@ private slots:
               "kept line break in a function", "mixed pointers", "very long assignment",
               "kept line break in a declaration", "kept line breaks around operators", "multiline string",
               "short case label", "blank lines in a row", "long assignment to an element", "long call through members",
-              "long constructor initializers", "trailing comments after a long comment"}) {
+              "long constructor initializers", "trailing comments after a long comment",
+              "declaration eighty columns wide", "kept line break in parameters"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
