@@ -379,10 +379,34 @@ private:
     }
 };
 
-// A style that derives where `*` leans from the code it formats takes the leaning of most of that
-// code: the forms that show it are formatted each on its own, so that their own majority decides.
-bool formatted_alone(form_case const& form) {
-    return std::find(form.decides.begin(), form.decides.end(), "DerivePointerAlignment") != form.decides.end();
+// Whether a line of the code holds a comment after code.
+bool has_trailing_comment(std::string const& code) {
+    std::size_t line_start = 0;
+    while (line_start < code.size()) {
+        std::size_t const line_end = std::min(code.find('\n', line_start), code.size());
+        std::size_t const first = code.find_first_not_of(" \t", line_start);
+        for (char const* const opening : {"//", "/*"}) {
+            std::size_t const comment = code.find(opening, line_start);
+            if (comment < line_end && first < comment)
+                return true;
+        }
+        line_start = line_end + 1;
+    }
+    return false;
+}
+
+// Forms formatted each on its own, as a revision formats a form, where what the engine does to one
+// form depends on the others before it. A style that derives where `*` leans from the code it
+// formats takes the leaning of most of that code: the forms that show it, so that their own
+// majority decides. A style that leaves trailing comments where they stand sets every comment after
+// a line longer than the limit its own distance away: the forms with trailing comments, so that
+// another form's long line does not reach them.
+bool formatted_alone(form_case const& form, clang::format::FormatStyle const& style) {
+    if (style.DerivePointerAlignment &&
+        std::find(form.decides.begin(), form.decides.end(), "DerivePointerAlignment") != form.decides.end())
+        return true;
+    return style.AlignTrailingComments.Kind == clang::format::FormatStyle::TCAS_Leave && style.ColumnLimit > 0 &&
+           has_trailing_comment(form.code);
 }
 
 }  // namespace
@@ -393,7 +417,7 @@ std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, cla
     std::vector<std::size_t> together;
     std::vector<std::string> pieces(forms.size());
     for (std::size_t i = 0; i < forms.size(); ++i) {
-        if (style.DerivePointerAlignment && formatted_alone(forms[i])) {
+        if (formatted_alone(forms[i], style)) {
             pieces[i] = format_with(style).the_code(forms[i].code + "\n").text;
             continue;
         }

@@ -56,7 +56,9 @@ private:
 };
 
 // How far each form is from its formatted result under a style, by the white-space distance or the
-// measure given; all forms are formatted in one engine call.
+// measure given; the forms are formatted in one engine call, but those that another form could
+// reach there (trailing comments left where they stand, a pointer leaning derived from the code),
+// which are formatted each on its own as a revision formats them.
 std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, clang::format::FormatStyle const& style,
                                         infer_options::distance_measure const& measure = {});
 

@@ -110,6 +110,14 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: BlockIndent, AlignEscapedNewlines: DontAlign, "
                       "BreakBeforeBinaryOperators: NonAssignment, ColumnLimit: 100, ContinuationIndentWidth: 8, "
                       "Cpp11BracedListStyle: false, IndentWidth: 8, UseTab: ForContinuationAndIndentation}";
+        // Comments left where they stand: a line longer than the limit in one form sets the trailing
+        // comments of the forms after it the style's distance away, which a revision formatting each
+        // form alone never does (measured together, 2 blanks put "trailing comments" off, and the
+        // search read 1 blank: two forms lost).
+        QTest::newRow("C++ comments left where they stand 2 blanks away, limit 120, blanks inside parentheses")
+            << "C++" << "{BasedOnStyle: LLVM, AlignTrailingComments: {Kind: Leave}, SpacesBeforeTrailingComments: 2, "
+                        "ColumnLimit: 120, SpacesInParens: Custom, SpacesInParensOptions: {InConditionalStatements: "
+                        "true, Other: true}}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
