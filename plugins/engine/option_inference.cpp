@@ -12,6 +12,7 @@
 #include <numeric>
 #include <map>
 #include <set>
+#include <string>
 
 namespace tarnel_engine {
 
@@ -325,12 +326,33 @@ private:
         return false;
     }
 
+    // Scales a width measured in tabs of one width to another (an indent of 8 in tabs of 4 is 4 in tabs
+    // of 2); false where it does not scale to a whole value that the table's group holds (an indent of
+    // 16 is no step a style of the table takes).
+    template <typename width_type>
+    bool scaled_exactly(width_type& value, unsigned from_width, unsigned to_width, std::string const& group) const {
+        long const scaled = static_cast<long>(value) * to_width / static_cast<long>(from_width);
+        if (scaled * from_width != static_cast<long>(value) * to_width || !table_holds(group, std::to_string(scaled)))
+            return false;
+        value = static_cast<width_type>(scaled);
+        return true;
+    }
+
+    // Whether a group of the table has the value among its candidates.
+    bool table_holds(std::string const& group, std::string const& value) const {
+        std::string const candidate = "{" + group + ": " + value + "}";
+        return std::any_of(groups.begin(), groups.end(), [&](option_group const& each) {
+            return each.name == group && among(each.candidates, candidate);
+        });
+    }
+
     // Code indented with tabs alone looks the same under every tab width whose indent step is the
     // same number of tabs: where tabs indent, the tab width moves to each other width, alone and
-    // with the indent step and the continuation indent measured in it (an indent of 8 in tabs of 4
-    // reads as 4 in tabs of 2), and each of those with one value of tab use, the continuation
-    // indent or indented braces (the groups whose lines reach past the tabs), or of a group that
-    // a form still differing names.
+    // with the indent step (and the access labels' offset) and the continuation indent measured in
+    // it (an indent of 8 in tabs of 4 reads as 4 in tabs of 2), each scaled only to a value the
+    // table holds, and each of those with one value of tab use, the continuation indent or indented
+    // braces (the groups whose lines reach past the tabs), or of a group that a form still
+    // differing names.
     bool tab_width_move(scored_style& current) {
         clang::format::FormatStyle const& style = current.style;
         if (style.UseTab == clang::format::FormatStyle::UT_Never || untabbed.count({current.distances, kept}) ||
@@ -344,18 +366,17 @@ private:
                 for (bool const scaled_continuation : {false, true}) {
                     clang::format::FormatStyle trial = style;
                     trial.TabWidth = width;
+                    if ((scaled_step && !scaled_exactly(trial.IndentWidth, style.TabWidth, width, "IndentWidth")) ||
+                        (scaled_continuation && !scaled_exactly(trial.ContinuationIndentWidth, style.TabWidth, width,
+                                                                "ContinuationIndentWidth")))
+                        continue;
+                    // An access label's offset is measured in the step's columns too (-16 in tabs of 8
+                    // is -8 in tabs of 4); kept where it does not scale to a value of the table.
                     if (scaled_step)
-                        trial.IndentWidth = style.IndentWidth * width / style.TabWidth;
-                    if (scaled_continuation)
-                        trial.ContinuationIndentWidth = style.ContinuationIndentWidth * width / style.TabWidth;
-                    if ((scaled_step && (trial.IndentWidth * style.TabWidth != style.IndentWidth * width ||
-                                         trial.IndentWidth == 0)) ||
-                        (scaled_continuation &&
-                         (trial.ContinuationIndentWidth * style.TabWidth != style.ContinuationIndentWidth * width ||
-                          trial.ContinuationIndentWidth == 0)) ||
-                        !holds_readings(trial) ||
-                        std::any_of(widths.begin(), widths.end(),
-                                    [&](auto const& known) { return same_options(known, trial); }))
+                        scaled_exactly(trial.AccessModifierOffset, style.TabWidth, width, "AccessModifierOffset");
+                    if (!holds_readings(trial) || std::any_of(widths.begin(), widths.end(), [&](auto const& known) {
+                            return same_options(known, trial);
+                        }))
                         continue;
                     widths.push_back(trial);
                 }
