@@ -298,7 +298,8 @@ private:
                     for (std::size_t other = 0; other < groups.size(); ++other)
                         if (among(line_breaking, groups[other].name))
                             partners.insert(other);
-                for (clang::format::FormatStyle const& trial : moves_of(group, current.style)) {
+                std::vector<clang::format::FormatStyle> const group_moves = moves_of(group, current.style);
+                for (clang::format::FormatStyle const& trial : group_moves) {
                     if (!within_budget())
                         return false;
                     scored_style const moved = scored(trial);
@@ -314,7 +315,7 @@ private:
                     if (!tried.insert(std::minmax(group, other)).second || !within_budget())
                         continue;
                     std::vector<clang::format::FormatStyle> trials;
-                    for (clang::format::FormatStyle const& first : moves_of(group, current.style))
+                    for (clang::format::FormatStyle const& first : group_moves)
                         for (clang::format::FormatStyle const& both : moves_of(other, first))
                             trials.push_back(both);
                     if (take_best_of(trials, {std::min(group, other), std::max(group, other)}, current))
@@ -370,10 +371,20 @@ private:
                         (scaled_continuation && !scaled_exactly(trial.ContinuationIndentWidth, style.TabWidth, width,
                                                                 "ContinuationIndentWidth")))
                         continue;
-                    // An access label's offset is measured in the step's columns too (-16 in tabs of 8
-                    // is -8 in tabs of 4); kept where it does not scale to a value of the table.
-                    if (scaled_step)
-                        scaled_exactly(trial.AccessModifierOffset, style.TabWidth, width, "AccessModifierOffset");
+                    // An access label's offset is measured in the step's columns too (-16 under a step
+                    // of 16 in tabs of 8 is -8 under 8 in tabs of 4), or else keeps the label's column
+                    // (-5 under a step of 8 is -1 under 4); the initializers of a constructor are
+                    // continued in the continuation's columns.
+                    if (scaled_step && !scaled_exactly(trial.AccessModifierOffset, style.TabWidth, width,
+                                                       "AccessModifierOffset")) {
+                        int const same_column = style.AccessModifierOffset + static_cast<int>(trial.IndentWidth) -
+                                                static_cast<int>(style.IndentWidth);
+                        if (table_holds("AccessModifierOffset", std::to_string(same_column)))
+                            trial.AccessModifierOffset = same_column;
+                    }
+                    if (scaled_continuation)
+                        scaled_exactly(trial.ConstructorInitializerIndentWidth, style.TabWidth, width,
+                                       "ConstructorInitializerIndentWidth");
                     if (!holds_readings(trial) || std::any_of(widths.begin(), widths.end(), [&](auto const& known) {
                             return same_options(known, trial);
                         }))

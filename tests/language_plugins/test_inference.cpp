@@ -118,6 +118,21 @@ private slots:
             << "C++" << "{BasedOnStyle: LLVM, AlignTrailingComments: {Kind: Leave}, SpacesBeforeTrailingComments: 2, "
                         "ColumnLimit: 120, SpacesInParens: Custom, SpacesInParensOptions: {InConditionalStatements: "
                         "true, Other: true}}";
+        // Read as an indent of 16 in tabs of 8: the tab width's move to 8 in tabs of 4 brings "enum"
+        // back only with the access labels' offset scaled too (-16 to -8), and never reaches 16.
+        QTest::newRow("C++ WebKit, indent 8 in tabs of 4 for indentation, access labels 8 out, continuation 2")
+            << "C++" << "{BasedOnStyle: WebKit, AccessModifierOffset: -8, IndentWidth: 8, TabWidth: 4, UseTab: "
+                        "ForIndentation, ContinuationIndentWidth: 2, AlignAfterOpenBracket: BlockIndent, "
+                        "AlignEscapedNewlines: DontAlign}";
+        // Read as 8 in tabs of 8: the move to tabs of 4 keeps the access labels' column (-5 to -1) and
+        // scales the constructor initializers' indent with the continuation (four long forms lost).
+        QTest::newRow("C++ Google, indent 4 in tabs of 4 aligned with blanks, arguments one a line, comments left")
+            << "C++" << "{BasedOnStyle: Google, AlignAfterOpenBracket: DontAlign, AlignEscapedNewlines: DontAlign, "
+                        "AlignTrailingComments: {Kind: Leave, OverEmptyLines: 0}, AllowAllArgumentsOnNextLine: false, "
+                        "BinPackArguments: false, BreakBeforeTernaryOperators: false, BreakConstructorInitializers: "
+                        "BeforeComma, NamespaceIndentation: All, PenaltyBreakBeforeFirstCallParameter: 100, "
+                        "SpaceBeforeAssignmentOperators: false, SpacesInParens: Custom, SpacesInParensOptions: "
+                        "{InConditionalStatements: true, Other: true}, IndentWidth: 4, TabWidth: 4, UseTab: AlignWithSpaces}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
