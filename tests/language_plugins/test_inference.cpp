@@ -133,6 +133,12 @@ private slots:
                         "BeforeComma, NamespaceIndentation: All, PenaltyBreakBeforeFirstCallParameter: 100, "
                         "SpaceBeforeAssignmentOperators: false, SpacesInParens: Custom, SpacesInParensOptions: "
                         "{InConditionalStatements: true, Other: true}, IndentWidth: 4, TabWidth: 4, UseTab: AlignWithSpaces}";
+        // Read as 8 in tabs of 8 with directives indented 8: the move to tabs of 4 scales the
+        // directives' indent with the step ("multiline string" lost).
+        QTest::newRow("C++ Microsoft, tabs of 4 aligned with blanks, directives indented, parenthesis left open")
+            << "C++" << "{BasedOnStyle: Microsoft, AccessModifierOffset: -4, AlignAfterOpenBracket: AlwaysBreak, "
+                        "AlignEscapedNewlines: DontAlign, BinPackArguments: false, ColumnLimit: 0, "
+                        "IndentPPDirectives: BeforeHash, UseTab: AlignWithSpaces}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
