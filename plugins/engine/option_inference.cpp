@@ -373,8 +373,9 @@ private:
                         continue;
                     // An access label's offset is measured in the step's columns too (-16 under a step
                     // of 16 in tabs of 8 is -8 under 8 in tabs of 4), or else keeps the label's column
-                    // (-5 under a step of 8 is -1 under 4), and so is the directives' indent; the
-                    // initializers of a constructor are continued in the continuation's columns.
+                    // (-5 under a step of 8 is -1 under 4), and so is the directives' indent where it is
+                    // the step's; the initializers of a constructor, where they are continued as far as
+                    // other lines, in the continuation's columns.
                     if (scaled_step && !scaled_exactly(trial.AccessModifierOffset, style.TabWidth, width,
                                                        "AccessModifierOffset")) {
                         int const same_column = style.AccessModifierOffset + static_cast<int>(trial.IndentWidth) -
@@ -382,9 +383,9 @@ private:
                         if (table_holds("AccessModifierOffset", std::to_string(same_column)))
                             trial.AccessModifierOffset = same_column;
                     }
-                    if (scaled_step && trial.PPIndentWidth > 0)
+                    if (scaled_step && trial.PPIndentWidth == static_cast<int>(style.IndentWidth))
                         scaled_exactly(trial.PPIndentWidth, style.TabWidth, width, "PPIndentWidth");
-                    if (scaled_continuation)
+                    if (scaled_continuation && style.ConstructorInitializerIndentWidth == style.ContinuationIndentWidth)
                         scaled_exactly(trial.ConstructorInitializerIndentWidth, style.TabWidth, width,
                                        "ConstructorInitializerIndentWidth");
                     if (!holds_readings(trial) || std::any_of(widths.begin(), widths.end(), [&](auto const& known) {
