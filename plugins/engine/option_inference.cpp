@@ -108,7 +108,20 @@ public:
     bool within_budget() {
         if (going_on && !stopped)
             stopped = !going_on(static_cast<unsigned long>(std::min(formatted, budget)), static_cast<unsigned long>(budget));
-        return formatted < budget && !stopped;
+        return formatted < budget + reserve && !stopped;
+    }
+
+    // Where the bound is spent with forms still differing, the single moves from the best style found
+    // (a search that ran out on another start never tried them there), within a tenth of the bound
+    // more.
+    void last_single_moves(scored_style& current, std::vector<std::string> const& pinned) {
+        if (current.total == 0 || stopped)
+            return;
+        reserve = std::max(formatted, budget) - budget + budget / 10;
+        kept = pinned;
+        unhelpful.clear();
+        while (current.total > 0 && within_budget() && single_moves(current)) {
+        }
     }
 
 private:
@@ -122,6 +135,8 @@ private:
     infer_options::distance_measure const& measure;
     bool stopped = false;
     long formatted = 0;
+    // Forms formatted past the bound by the last single moves.
+    long reserve = 0;
     std::vector<std::string> kept;
     // The distances (with the readings held) under which no mending move, and no move of the tab
     // width, improved: not tried there again, in this descent or a later one.
@@ -580,6 +595,7 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         search.exclude_nothing();
         search.descend(best, readings.certain);
     }
+    search.last_single_moves(best, readings.certain);
     return best.style;
 }
 
