@@ -139,6 +139,16 @@ private slots:
             << "C++" << "{BasedOnStyle: Microsoft, AccessModifierOffset: -4, AlignAfterOpenBracket: AlwaysBreak, "
                         "AlignEscapedNewlines: DontAlign, BinPackArguments: false, ColumnLimit: 0, "
                         "IndentPPDirectives: BeforeHash, UseTab: AlignWithSpaces}";
+        // The bound spent on other starts before the best style's single moves were tried there: a
+        // last pass of single moves brings the arguments of "long call assignment" back to the next line.
+        QTest::newRow("C Mozilla, tabs of 8 for continuation, nothing aligned, limit 79, blanks around")
+            << "C" << "{BasedOnStyle: Mozilla, AlignAfterOpenBracket: DontAlign, AlignEscapedNewlines: DontAlign, "
+                      "AlignOperands: DontAlign, AlignTrailingComments: {Kind: Never}, "
+                      "AllowAllParametersOfDeclarationOnNextLine: true, BinPackArguments: true, BinPackParameters: true, "
+                      "BreakAfterReturnType: Automatic, BreakBeforeTernaryOperators: false, ColumnLimit: 79, "
+                      "ContinuationIndentWidth: 8, IndentWidth: 8, PointerAlignment: Middle, "
+                      "SpaceBeforeAssignmentOperators: false, SpaceAfterCStyleCast: true, SpaceAfterLogicalNot: true, "
+                      "SpacesInSquareBrackets: true, UseTab: ForContinuationAndIndentation}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
