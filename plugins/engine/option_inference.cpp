@@ -12,6 +12,7 @@
 #include <numeric>
 #include <map>
 #include <set>
+#include <string>
 
 namespace tarnel_engine {
 
@@ -107,7 +108,20 @@ public:
     bool within_budget() {
         if (going_on && !stopped)
             stopped = !going_on(static_cast<unsigned long>(std::min(formatted, budget)), static_cast<unsigned long>(budget));
-        return formatted < budget && !stopped;
+        return formatted < budget + reserve && !stopped;
+    }
+
+    // Where the bound is spent with forms still differing, the single moves from the best style found
+    // (a search that ran out on another start never tried them there), within a tenth of the bound
+    // more.
+    void last_single_moves(scored_style& current, std::vector<std::string> const& pinned) {
+        if (current.total == 0 || stopped)
+            return;
+        reserve = std::max(formatted, budget) - budget + budget / 10;
+        kept = pinned;
+        unhelpful.clear();
+        while (current.total > 0 && within_budget() && single_moves(current)) {
+        }
     }
 
 private:
@@ -121,6 +135,8 @@ private:
     infer_options::distance_measure const& measure;
     bool stopped = false;
     long formatted = 0;
+    // Forms formatted past the bound by the last single moves.
+    long reserve = 0;
     std::vector<std::string> kept;
     // The distances (with the readings held) under which no mending move, and no move of the tab
     // width, improved: not tried there again, in this descent or a later one.
@@ -297,7 +313,8 @@ private:
                     for (std::size_t other = 0; other < groups.size(); ++other)
                         if (among(line_breaking, groups[other].name))
                             partners.insert(other);
-                for (clang::format::FormatStyle const& trial : moves_of(group, current.style)) {
+                std::vector<clang::format::FormatStyle> const group_moves = moves_of(group, current.style);
+                for (clang::format::FormatStyle const& trial : group_moves) {
                     if (!within_budget())
                         return false;
                     scored_style const moved = scored(trial);
@@ -313,7 +330,7 @@ private:
                     if (!tried.insert(std::minmax(group, other)).second || !within_budget())
                         continue;
                     std::vector<clang::format::FormatStyle> trials;
-                    for (clang::format::FormatStyle const& first : moves_of(group, current.style))
+                    for (clang::format::FormatStyle const& first : group_moves)
                         for (clang::format::FormatStyle const& both : moves_of(other, first))
                             trials.push_back(both);
                     if (take_best_of(trials, {std::min(group, other), std::max(group, other)}, current))
@@ -325,12 +342,33 @@ private:
         return false;
     }
 
+    // Scales a width measured in tabs of one width to another (an indent of 8 in tabs of 4 is 4 in tabs
+    // of 2); false where it does not scale to a whole value that the table's group holds (an indent of
+    // 16 is no step a style of the table takes).
+    template <typename width_type>
+    bool scaled_exactly(width_type& value, unsigned from_width, unsigned to_width, std::string const& group) const {
+        long const scaled = static_cast<long>(value) * to_width / static_cast<long>(from_width);
+        if (scaled * from_width != static_cast<long>(value) * to_width || !table_holds(group, std::to_string(scaled)))
+            return false;
+        value = static_cast<width_type>(scaled);
+        return true;
+    }
+
+    // Whether a group of the table has the value among its candidates.
+    bool table_holds(std::string const& group, std::string const& value) const {
+        std::string const candidate = "{" + group + ": " + value + "}";
+        return std::any_of(groups.begin(), groups.end(), [&](option_group const& each) {
+            return each.name == group && among(each.candidates, candidate);
+        });
+    }
+
     // Code indented with tabs alone looks the same under every tab width whose indent step is the
     // same number of tabs: where tabs indent, the tab width moves to each other width, alone and
-    // with the indent step and the continuation indent measured in it (an indent of 8 in tabs of 4
-    // reads as 4 in tabs of 2), and each of those with one value of tab use, the continuation
-    // indent or indented braces (the groups whose lines reach past the tabs), or of a group that
-    // a form still differing names.
+    // with the indent step (and the access labels' offset) and the continuation indent measured in
+    // it (an indent of 8 in tabs of 4 reads as 4 in tabs of 2), each scaled only to a value the
+    // table holds, and each of those with one value of tab use, the continuation indent or indented
+    // braces (the groups whose lines reach past the tabs), or of a group that a form still
+    // differing names.
     bool tab_width_move(scored_style& current) {
         clang::format::FormatStyle const& style = current.style;
         if (style.UseTab == clang::format::FormatStyle::UT_Never || untabbed.count({current.distances, kept}) ||
@@ -344,18 +382,30 @@ private:
                 for (bool const scaled_continuation : {false, true}) {
                     clang::format::FormatStyle trial = style;
                     trial.TabWidth = width;
-                    if (scaled_step)
-                        trial.IndentWidth = style.IndentWidth * width / style.TabWidth;
-                    if (scaled_continuation)
-                        trial.ContinuationIndentWidth = style.ContinuationIndentWidth * width / style.TabWidth;
-                    if ((scaled_step && (trial.IndentWidth * style.TabWidth != style.IndentWidth * width ||
-                                         trial.IndentWidth == 0)) ||
-                        (scaled_continuation &&
-                         (trial.ContinuationIndentWidth * style.TabWidth != style.ContinuationIndentWidth * width ||
-                          trial.ContinuationIndentWidth == 0)) ||
-                        !holds_readings(trial) ||
-                        std::any_of(widths.begin(), widths.end(),
-                                    [&](auto const& known) { return same_options(known, trial); }))
+                    if ((scaled_step && !scaled_exactly(trial.IndentWidth, style.TabWidth, width, "IndentWidth")) ||
+                        (scaled_continuation && !scaled_exactly(trial.ContinuationIndentWidth, style.TabWidth, width,
+                                                                "ContinuationIndentWidth")))
+                        continue;
+                    // An access label's offset is measured in the step's columns too (-16 under a step
+                    // of 16 in tabs of 8 is -8 under 8 in tabs of 4), or else keeps the label's column
+                    // (-5 under a step of 8 is -1 under 4), and so is the directives' indent where it is
+                    // the step's; the initializers of a constructor, where they are continued as far as
+                    // other lines, in the continuation's columns.
+                    if (scaled_step && !scaled_exactly(trial.AccessModifierOffset, style.TabWidth, width,
+                                                       "AccessModifierOffset")) {
+                        int const same_column = style.AccessModifierOffset + static_cast<int>(trial.IndentWidth) -
+                                                static_cast<int>(style.IndentWidth);
+                        if (table_holds("AccessModifierOffset", std::to_string(same_column)))
+                            trial.AccessModifierOffset = same_column;
+                    }
+                    if (scaled_step && trial.PPIndentWidth == static_cast<int>(style.IndentWidth))
+                        scaled_exactly(trial.PPIndentWidth, style.TabWidth, width, "PPIndentWidth");
+                    if (scaled_continuation && style.ConstructorInitializerIndentWidth == style.ContinuationIndentWidth)
+                        scaled_exactly(trial.ConstructorInitializerIndentWidth, style.TabWidth, width,
+                                       "ConstructorInitializerIndentWidth");
+                    if (!holds_readings(trial) || std::any_of(widths.begin(), widths.end(), [&](auto const& known) {
+                            return same_options(known, trial);
+                        }))
                         continue;
                     widths.push_back(trial);
                 }
@@ -379,10 +429,34 @@ private:
     }
 };
 
-// A style that derives where `*` leans from the code it formats takes the leaning of most of that
-// code: the forms that show it are formatted each on its own, so that their own majority decides.
-bool formatted_alone(form_case const& form) {
-    return std::find(form.decides.begin(), form.decides.end(), "DerivePointerAlignment") != form.decides.end();
+// Whether a line of the code holds a comment after code.
+bool has_trailing_comment(std::string const& code) {
+    std::size_t line_start = 0;
+    while (line_start < code.size()) {
+        std::size_t const line_end = std::min(code.find('\n', line_start), code.size());
+        std::size_t const first = code.find_first_not_of(" \t", line_start);
+        for (char const* const opening : {"//", "/*"}) {
+            std::size_t const comment = code.find(opening, line_start);
+            if (comment < line_end && first < comment)
+                return true;
+        }
+        line_start = line_end + 1;
+    }
+    return false;
+}
+
+// Forms formatted each on its own, as a revision formats a form, where what the engine does to one
+// form depends on the others before it. A style that derives where `*` leans from the code it
+// formats takes the leaning of most of that code: the forms that show it, so that their own
+// majority decides. A style that leaves trailing comments where they stand sets every comment after
+// a line longer than the limit its own distance away: the forms with trailing comments, so that
+// another form's long line does not reach them.
+bool formatted_alone(form_case const& form, clang::format::FormatStyle const& style) {
+    if (style.DerivePointerAlignment &&
+        std::find(form.decides.begin(), form.decides.end(), "DerivePointerAlignment") != form.decides.end())
+        return true;
+    return style.AlignTrailingComments.Kind == clang::format::FormatStyle::TCAS_Leave && style.ColumnLimit > 0 &&
+           has_trailing_comment(form.code);
 }
 
 }  // namespace
@@ -393,7 +467,7 @@ std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, cla
     std::vector<std::size_t> together;
     std::vector<std::string> pieces(forms.size());
     for (std::size_t i = 0; i < forms.size(); ++i) {
-        if (style.DerivePointerAlignment && formatted_alone(forms[i])) {
+        if (formatted_alone(forms[i], style)) {
             pieces[i] = format_with(style).the_code(forms[i].code + "\n").text;
             continue;
         }
@@ -521,6 +595,7 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         search.exclude_nothing();
         search.descend(best, readings.certain);
     }
+    search.last_single_moves(best, readings.certain);
     return best.style;
 }
 

@@ -24,8 +24,10 @@ namespace tarnel_engine {
 // and the groups that pack lists with each other), and last, where no such pair improves, a group
 // that a differing form names with one that the forms its move puts off name (or, for the groups
 // that break long lines, with another of those). The result has the smallest total white-space
-// distance found between the forms and their formatted results. Deterministic: the same forms give
-// the same options; the work is bounded by a count of forms formatted, never by time.
+// distance found between the forms and their formatted results; where the bound is spent with forms
+// still differing, single moves from that result within a tenth of the bound more. Deterministic:
+// the same forms give the same options; the work is bounded by a count of forms formatted, never by
+// time.
 class infer_options {
 public:
     // Told the forms formatted so far and the bound; the search stops at once when it says false.
@@ -56,7 +58,9 @@ private:
 };
 
 // How far each form is from its formatted result under a style, by the white-space distance or the
-// measure given; all forms are formatted in one engine call.
+// measure given; the forms are formatted in one engine call, but those that another form could
+// reach there (trailing comments left where they stand, a pointer leaning derived from the code),
+// which are formatted each on its own as a revision formats them.
 std::vector<unsigned long> distances_of(std::vector<form_case> const& forms, clang::format::FormatStyle const& style,
                                         infer_options::distance_measure const& measure = {});
 

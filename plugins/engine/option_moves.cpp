@@ -3,6 +3,7 @@
 #include "option_moves.h"
 
 #include "engine_hazards.h"
+#include "token_safe_settings.h"
 
 #include <algorithm>
 #include <cctype>
@@ -266,22 +267,7 @@ std::vector<option_group> const& option_groups(lexed_as language) {
     static std::vector<option_group> const objective_c = make_objective_c_groups();
     static std::vector<option_group> const csharp = make_csharp_groups();
     static std::vector<option_group> const javascript = make_javascript_groups();
-    switch (language) {
-    case lexed_as::java:
-        return java;
-    case lexed_as::protocol_buffers:
-        return protocol_buffers;
-    case lexed_as::objective_c:
-        return objective_c;
-    case lexed_as::csharp:
-        return csharp;
-    case lexed_as::javascript:
-        return javascript;
-    case lexed_as::latest_c:
-    case lexed_as::latest_cpp:
-        break;
-    }
-    return option_groups();
+    return of_language(language, option_groups(), java, protocol_buffers, objective_c, csharp, javascript);
 }
 
 bool applies_to_every_structure(std::string const& group_name) {

@@ -47,22 +47,9 @@ std::vector<std::string> const& names_of_token_safe_settings() {
 }
 
 clang::format::FormatStyle::LanguageKind engine_kind_of(lexed_as language) {
-    switch (language) {
-    case lexed_as::java:
-        return clang::format::FormatStyle::LK_Java;
-    case lexed_as::protocol_buffers:
-        return clang::format::FormatStyle::LK_Proto;
-    case lexed_as::objective_c:
-        return clang::format::FormatStyle::LK_ObjC;
-    case lexed_as::csharp:
-        return clang::format::FormatStyle::LK_CSharp;
-    case lexed_as::javascript:
-        return clang::format::FormatStyle::LK_JavaScript;
-    case lexed_as::latest_c:
-    case lexed_as::latest_cpp:
-        break;
-    }
-    return clang::format::FormatStyle::LK_Cpp;
+    using kind = clang::format::FormatStyle;
+    return of_language(language, kind::LK_Cpp, kind::LK_Java, kind::LK_Proto, kind::LK_ObjC, kind::LK_CSharp,
+                       kind::LK_JavaScript);
 }
 
 std::vector<std::string> const& names_of_predefined_styles(lexed_as language) {
@@ -74,22 +61,7 @@ std::vector<std::string> const& names_of_predefined_styles(lexed_as language) {
     static std::vector<std::string> const objective_c = {"Google", "WebKit", "LLVM", "Chromium", "Mozilla"};
     static std::vector<std::string> const csharp = {"Microsoft", "Google", "LLVM", "Mozilla", "WebKit"};
     static std::vector<std::string> const javascript = {"Google", "Chromium", "Mozilla", "WebKit", "LLVM"};
-    switch (language) {
-    case lexed_as::java:
-        return java;
-    case lexed_as::protocol_buffers:
-        return protocol_buffers;
-    case lexed_as::objective_c:
-        return objective_c;
-    case lexed_as::csharp:
-        return csharp;
-    case lexed_as::javascript:
-        return javascript;
-    case lexed_as::latest_c:
-    case lexed_as::latest_cpp:
-        break;
-    }
-    return c_family;
+    return of_language(language, c_family, java, protocol_buffers, objective_c, csharp, javascript);
 }
 
 clang::format::FormatStyle token_safe_predefined_style(std::string const& name, lexed_as language) {

@@ -1,5 +1,5 @@
-// The engine's settings that would edit tokens, switched off, and the predefined styles that the
-// inference starts from (internal to the engine library).
+// The engine's settings that would edit tokens, switched off, the predefined styles that the
+// inference starts from, and the choice of a value by language (internal to the engine library).
 #ifndef TARNEL_ENGINE_TOKEN_SAFE_SETTINGS_H
 #define TARNEL_ENGINE_TOKEN_SAFE_SETTINGS_H
 
@@ -22,6 +22,29 @@ void make_token_safe(clang::format::FormatStyle& style);
 
 // The names of the options make_token_safe sets, as the engine's configuration text names them.
 std::vector<std::string> const& names_of_token_safe_settings();
+
+// Of values given for each kind of language, the one for the language: the C family's for C and C++.
+template <typename value_type>
+value_type const& of_language(lexed_as language, value_type const& c_family, value_type const& java,
+                              value_type const& protocol_buffers, value_type const& objective_c,
+                              value_type const& csharp, value_type const& javascript) {
+    switch (language) {
+    case lexed_as::java:
+        return java;
+    case lexed_as::protocol_buffers:
+        return protocol_buffers;
+    case lexed_as::objective_c:
+        return objective_c;
+    case lexed_as::csharp:
+        return csharp;
+    case lexed_as::javascript:
+        return javascript;
+    case lexed_as::latest_c:
+    case lexed_as::latest_cpp:
+        break;
+    }
+    return c_family;
+}
 
 // The kind of source the engine formats a language as: C and C++ alike as C++.
 clang::format::FormatStyle::LanguageKind engine_kind_of(lexed_as language);

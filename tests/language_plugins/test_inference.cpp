@@ -110,6 +110,45 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, AlignAfterOpenBracket: BlockIndent, AlignEscapedNewlines: DontAlign, "
                       "BreakBeforeBinaryOperators: NonAssignment, ColumnLimit: 100, ContinuationIndentWidth: 8, "
                       "Cpp11BracedListStyle: false, IndentWidth: 8, UseTab: ForContinuationAndIndentation}";
+        // Comments left where they stand: a line longer than the limit in one form sets the trailing
+        // comments of the forms after it the style's distance away, which a revision formatting each
+        // form alone never does (measured together, 2 blanks put "trailing comments" off, and the
+        // search read 1 blank: two forms lost).
+        QTest::newRow("C++ comments left where they stand 2 blanks away, limit 120, blanks inside parentheses")
+            << "C++" << "{BasedOnStyle: LLVM, AlignTrailingComments: {Kind: Leave}, SpacesBeforeTrailingComments: 2, "
+                        "ColumnLimit: 120, SpacesInParens: Custom, SpacesInParensOptions: {InConditionalStatements: "
+                        "true, Other: true}}";
+        // Read as an indent of 16 in tabs of 8: the tab width's move to 8 in tabs of 4 brings "enum"
+        // back only with the access labels' offset scaled too (-16 to -8), and never reaches 16.
+        QTest::newRow("C++ WebKit, indent 8 in tabs of 4 for indentation, access labels 8 out, continuation 2")
+            << "C++" << "{BasedOnStyle: WebKit, AccessModifierOffset: -8, IndentWidth: 8, TabWidth: 4, UseTab: "
+                        "ForIndentation, ContinuationIndentWidth: 2, AlignAfterOpenBracket: BlockIndent, "
+                        "AlignEscapedNewlines: DontAlign}";
+        // Read as 8 in tabs of 8: the move to tabs of 4 keeps the access labels' column (-5 to -1) and
+        // scales the constructor initializers' indent with the continuation (four long forms lost).
+        QTest::newRow("C++ Google, indent 4 in tabs of 4 aligned with blanks, arguments one a line, comments left")
+            << "C++" << "{BasedOnStyle: Google, AlignAfterOpenBracket: DontAlign, AlignEscapedNewlines: DontAlign, "
+                        "AlignTrailingComments: {Kind: Leave, OverEmptyLines: 0}, AllowAllArgumentsOnNextLine: false, "
+                        "BinPackArguments: false, BreakBeforeTernaryOperators: false, BreakConstructorInitializers: "
+                        "BeforeComma, NamespaceIndentation: All, PenaltyBreakBeforeFirstCallParameter: 100, "
+                        "SpaceBeforeAssignmentOperators: false, SpacesInParens: Custom, SpacesInParensOptions: "
+                        "{InConditionalStatements: true, Other: true}, IndentWidth: 4, TabWidth: 4, UseTab: AlignWithSpaces}";
+        // Read as 8 in tabs of 8 with directives indented 8: the move to tabs of 4 scales the
+        // directives' indent with the step ("multiline string" lost).
+        QTest::newRow("C++ Microsoft, tabs of 4 aligned with blanks, directives indented, parenthesis left open")
+            << "C++" << "{BasedOnStyle: Microsoft, AccessModifierOffset: -4, AlignAfterOpenBracket: AlwaysBreak, "
+                        "AlignEscapedNewlines: DontAlign, BinPackArguments: false, ColumnLimit: 0, "
+                        "IndentPPDirectives: BeforeHash, UseTab: AlignWithSpaces}";
+        // The bound spent on other starts before the best style's single moves were tried there: a
+        // last pass of single moves brings the arguments of "long call assignment" back to the next line.
+        QTest::newRow("C Mozilla, tabs of 8 for continuation, nothing aligned, limit 79, blanks around")
+            << "C" << "{BasedOnStyle: Mozilla, AlignAfterOpenBracket: DontAlign, AlignEscapedNewlines: DontAlign, "
+                      "AlignOperands: DontAlign, AlignTrailingComments: {Kind: Never}, "
+                      "AllowAllParametersOfDeclarationOnNextLine: true, BinPackArguments: true, BinPackParameters: true, "
+                      "BreakAfterReturnType: Automatic, BreakBeforeTernaryOperators: false, ColumnLimit: 79, "
+                      "ContinuationIndentWidth: 8, IndentWidth: 8, PointerAlignment: Middle, "
+                      "SpaceBeforeAssignmentOperators: false, SpaceAfterCStyleCast: true, SpaceAfterLogicalNot: true, "
+                      "SpacesInSquareBrackets: true, UseTab: ForContinuationAndIndentation}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
