@@ -47,6 +47,7 @@
 #include "proto_language.h"
 #include "revision.h"
 #include "style_learning.h"
+#include "text_lines.h"
 #include "token_safe_settings.h"
 #include "white_space.h"
 

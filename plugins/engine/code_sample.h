@@ -4,9 +4,6 @@
 #ifndef TARNEL_ENGINE_CODE_SAMPLE_H
 #define TARNEL_ENGINE_CODE_SAMPLE_H
 
-// The lines of a text, as those who read a sample cut it.
-#include "text_lines.h"
-
 #include <string>
 #include <vector>
 
