@@ -63,12 +63,25 @@ std::shared_ptr<reviser::run_state const> reviser::options_for(std::string const
 
 std::string reviser::revise(std::string const& source, std::string const& addon, line_ending_traits const& traits) {
     std::string revised;
-    run_on_a_deep_stack([&] { revised = revise_here(source, addon, traits, false); });
+    run_on_a_deep_stack([&] {
+        try {
+            revised = revise_here(source, options_for(addon)->style, traits, false);
+        } catch (...) {
+            revised = syntax_error;
+        }
+    });
     return revised;
 }
 
-std::string reviser::revise_here(std::string const& source, std::string const& addon, line_ending_traits const& traits,
-                                 bool next_revision) {
+std::string reviser::revise_under(std::string const& source, clang::format::FormatStyle const& style,
+                                  line_ending_traits const& traits) {
+    std::string revised;
+    run_on_a_deep_stack([&] { revised = revise_here(source, style, traits, false); });
+    return revised;
+}
+
+std::string reviser::revise_here(std::string const& source, clang::format::FormatStyle const& options,
+                                 line_ending_traits const& traits, bool next_revision) {
     try {
         text_encoding const encoding = text_encoding::of(source, traits);
         std::optional<std::string> const decoded = encoding.decoded_for_revision(source);
@@ -78,7 +91,7 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
         // would crash the engine or abort the process: it is refused before the engine sees it.
         if (!brackets_are_balanced_in(*decoded, language.lexing) || !the_engine_takes(*decoded, language.lexing))
             return syntax_error;
-        clang::format::FormatStyle style = options_for(addon)->style;
+        clang::format::FormatStyle style = options;
         style.LineEnding = engine_line_ending(encoding.ending());
 
         // The engine is told our markers of regions kept as written in its own words.
@@ -111,7 +124,7 @@ std::string reviser::revise_here(std::string const& source, std::string const& a
         // it out otherwise (it reads the two closers differently). The answer stands only when
         // the next revision, made here, gives it back.
         if (closers_kept_apart && !next_revision && answer != source &&
-            revise_here(answer, addon, traits, true) != answer)
+            revise_here(answer, options, traits, true) != answer)
             return source;
         return answer;
     } catch (...) {

@@ -12,6 +12,10 @@
 #include <mutex>
 #include <string>
 
+namespace clang::format {
+struct FormatStyle;
+}
+
 namespace tarnel_engine {
 
 // Safe to use from several threads at once: the host revises files on several workers.
@@ -26,16 +30,20 @@ public:
     // cannot take (engine_limits.h). Never throws. The engine runs on a stack of its own
     // (deep_stack.h), whatever the calling thread's.
     std::string revise(std::string const& source, std::string const& addon, line_ending_traits const& traits);
+    // The same under options given as they stand, not inferred from an addon: what a revision
+    // gives where the addon carries its options whole.
+    std::string revise_under(std::string const& source, clang::format::FormatStyle const& style,
+                             line_ending_traits const& traits);
 
     // Drops what this run remembered (the last addon and its options); the inference caches stay.
     void forget_the_run();
 
 private:
     struct run_state;
-    // revise() on the calling thread's stack; as the `next_revision` of an answer, that answer is
-    // not proven again.
-    std::string revise_here(std::string const& source, std::string const& addon, line_ending_traits const& traits,
-                            bool next_revision);
+    // A revision under the options on the calling thread's stack; as the `next_revision` of an
+    // answer, that answer is not proven again.
+    std::string revise_here(std::string const& source, clang::format::FormatStyle const& options,
+                            line_ending_traits const& traits, bool next_revision);
     // The options of the addon last asked for; revisions on several threads share it.
     std::shared_ptr<run_state const> options_for(std::string const& addon);
 
