@@ -549,7 +549,7 @@ private slots:
               "kept line break in a declaration", "kept line breaks around operators", "multiline string",
               "short case label", "blank lines in a row", "long assignment to an element", "long call through members",
               "long constructor initializers", "trailing comments after a long comment",
-              "declaration eighty columns wide", "kept line break in parameters"}) {
+              "declaration eighty columns wide", "kept line break in parameters", "comments near a tab stop"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
