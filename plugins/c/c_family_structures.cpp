@@ -44,6 +44,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "Trailing comments their author set at different distances from the code (none and one blank): kept where "
          "they stand, lined up, or each the style's distance away.",
          {"AlignTrailingComments", "SpacesBeforeTrailingComments"}},
+        {"comments near a tab stop", "int name;    // SOME\n\ntype name_part; // SOME",
+         "Trailing comments whose distance from the code reaches past a tab stop: whether a tab fills the way there, "
+         "as the style's tabs used everywhere do, or blanks.",
+         {"UseTab", "SpacesBeforeTrailingComments", "AlignTrailingComments"}},
         {"consecutive assignments", "name = SOME;\nname_long_part = SOME;\nname_part = SOME;",
          "Whether the `=` of assignments on neighbouring lines line up.",
          {"AlignConsecutiveAssignments", "SpaceBeforeAssignmentOperators"}},

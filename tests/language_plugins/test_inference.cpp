@@ -320,6 +320,15 @@ private slots:
             << "C" << "{BasedOnStyle: GNU, IndentWidth: 2, TabWidth: 8, UseTab: ForContinuationAndIndentation, "
                       "AlignAfterOpenBracket: Align, ColumnLimit: 0}"
             << QStringList{"UseTab: ForContinuationAndIndentation", "IndentWidth: 2"};
+        // Tabs everywhere show only in the blanks before a trailing comment that reach past a tab stop
+        // (read as tabs for continuation and indentation, which lay every other form out alike).
+        QTest::newRow("tabs everywhere, comments the style's distance away")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 2, TabWidth: 8, UseTab: Always, AlignTrailingComments: Never, "
+                      "SpacesBeforeTrailingComments: 2}"
+            << QStringList{"UseTab: Always"};
+        QTest::newRow("tabs of 4 everywhere, comments left where they stand")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 4, UseTab: Always, AlignTrailingComments: Leave}"
+            << QStringList{"UseTab: Always", "TabWidth: 4"};
         // A lone pointer keeps its leaning where the style derives it, declarations leaning two ways
         // take their majority's: the forms lean two ways (read as the lone pointer's leaning, not derived).
         QTest::newRow("* leaning derived from the code, on the type otherwise")
@@ -540,7 +549,7 @@ private slots:
               "kept line break in a declaration", "kept line breaks around operators", "multiline string",
               "short case label", "blank lines in a row", "long assignment to an element", "long call through members",
               "long constructor initializers", "trailing comments after a long comment",
-              "declaration eighty columns wide", "kept line break in parameters"}) {
+              "declaration eighty columns wide", "kept line break in parameters", "comments near a tab stop"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
