@@ -88,8 +88,10 @@ revision_wishes revision_wishes_from(argument_list const& arguments) {
     }
     // The words come in byte order, not as typed: a pattern that brings a path back weighs more
     // than one that leaves paths out, whatever their order.
-    std::stable_partition(wishes.excluded.begin(), wishes.excluded.end(),
-                          [](QString const& pattern) { return !pattern.startsWith('!'); });
+    QStringList leaving_out, bringing_back;
+    for (QString const& pattern : wishes.excluded)
+        (pattern.startsWith('!') ? bringing_back : leaving_out) << pattern;
+    wishes.excluded = leaving_out + bringing_back;
     return wishes;
 }
 

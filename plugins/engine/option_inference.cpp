@@ -533,7 +533,17 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
                 apply_candidate(start, readings.braces);
             starts.push_back(search.scored(start));
         }
-    std::stable_sort(starts.begin(), starts.end(), [](auto const& a, auto const& b) { return a.total < b.total; });
+    // Closest first; among equals, in the order they were made.
+    std::vector<std::size_t> order(starts.size());
+    for (std::size_t i = 0; i < order.size(); ++i)
+        order[i] = i;
+    std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        return starts[a].total != starts[b].total ? starts[a].total < starts[b].total : a < b;
+    });
+    std::vector<scored_style> by_distance;
+    for (std::size_t i : order)
+        by_distance.push_back(std::move(starts[i]));
+    starts = std::move(by_distance);
 
     // A predefined style as it stands is a result too: the search never ends further from the forms.
     scored_style best = !best_base.distances.empty() && best_base.total < starts.front().total ? best_base : starts.front();

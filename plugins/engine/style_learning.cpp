@@ -938,8 +938,9 @@ style_learned_from_starts learn_style_of::from(std::vector<std::string> const& s
                 screening.emplace_back(counted.lines_left, i);
             }
             // Most lines left first, then in the candidates' order.
-            std::stable_sort(screening.begin(), screening.end(),
-                             [](auto const& a, auto const& b) { return a.first > b.first; });
+            std::sort(screening.begin(), screening.end(), [](auto const& a, auto const& b) {
+                return a.first != b.first ? a.first > b.first : a.second < b.second;
+            });
             std::vector<std::size_t> best_starts;
             for (std::size_t i = 0; i < starts_weighed_in_full; ++i)
                 best_starts.push_back(screening[i].second);
