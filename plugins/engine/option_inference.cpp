@@ -5,6 +5,7 @@
 #include "engine_call.h"
 #include "form_readings.h"
 #include "option_moves.h"
+#include "text_lines.h"
 #include "token_safe_settings.h"
 #include "white_space.h"
 
@@ -431,16 +432,13 @@ private:
 
 // Whether a line of the code holds a comment after code.
 bool has_trailing_comment(std::string const& code) {
-    std::size_t line_start = 0;
-    while (line_start < code.size()) {
-        std::size_t const line_end = std::min(code.find('\n', line_start), code.size());
-        std::size_t const first = code.find_first_not_of(" \t", line_start);
+    for (std::string const& line : lines_of(code)) {
+        std::size_t const first = line.find_first_not_of(" \t");
         for (char const* const opening : {"//", "/*"}) {
-            std::size_t const comment = code.find(opening, line_start);
-            if (comment < line_end && first < comment)
+            std::size_t const comment = line.find(opening);
+            if (comment != std::string::npos && first < comment)
                 return true;
         }
-        line_start = line_end + 1;
     }
     return false;
 }
