@@ -10,6 +10,9 @@ namespace tarnel_engine {
 clang::LangOptions lexer_options_for(lexed_as language) {
     clang::LangOptions options;
     switch (language) {
+    case lexed_as::objective_c:
+        options.ObjC = true;
+        [[fallthrough]];
     case lexed_as::latest_cpp:
         options.CPlusPlus = options.CPlusPlus11 = options.CPlusPlus14 = options.CPlusPlus17 = true;
         options.CPlusPlus20 = options.CPlusPlus23 = options.CPlusPlus26 = true;
@@ -27,19 +30,6 @@ clang::LangOptions lexer_options_for(lexed_as language) {
     case lexed_as::protocol_buffers:
         // `::` and `->` are tokens of Java too; digraphs, raw strings and digit separators are
         // not: `<:` and `%>` are two tokens there, `R"x"` a name and a string.
-        options.CPlusPlus = options.CPlusPlus11 = true;
-        options.Digraphs = false;
-        options.RawStringLiterals = false;
-        break;
-    case lexed_as::objective_c:
-        options.ObjC = true;
-        options.CPlusPlus = options.CPlusPlus11 = options.CPlusPlus14 = options.CPlusPlus17 = true;
-        options.CPlusPlus20 = options.CPlusPlus23 = options.CPlusPlus26 = true;
-        options.Char8 = true;
-        options.CXXOperatorNames = true;
-        options.Digraphs = true;
-        options.RawStringLiterals = true;
-        break;
     case lexed_as::csharp:
         // C#'s strings, verbatim names and operators that clang reads otherwise are read whole
         // after it (token_sequence.cpp); `'` is no digit separator there.
