@@ -146,6 +146,16 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "broken at the `=` under any column limit, before it or after it, and without a limit kept so only where "
          "the style puts every operator, `=` too, first on a line.",
          {"BreakBeforeBinaryOperators", "ContinuationIndentWidth", "ColumnLimit"}},
+        {"long assignments in a function",
+         "type name(void) {\n  type name = SOME_LONG(SOME_LONG, SOME_LONG);\n\n  name_part = SOME_LONG(SOME_LONG) + SOME;\n\n"
+         "  type name_long_part = SOME_LONG(SOME, name, SOME_LONG);\n\n  name = SOME_LONG(SOME_LONG.SOME_LONG);\n\n"
+         "  type name_long_part = SOME_LONG(SOME) == SOME_LONG ? SOME : name;\n}",
+         "Assignments inside a function a little too long for their line, whose value fits on the next: broken "
+         "after the `=`, or inside the value (after a call's `(`, between its arguments, at an operator), as breaking "
+         "at the `=` costs the style more or less than those breaks.",
+         {"PenaltyBreakAssignment", "PenaltyBreakBeforeFirstCallParameter", "AlignAfterOpenBracket",
+          "ContinuationIndentWidth", "ColumnLimit", "BreakBeforeBinaryOperators", "AlignOperands",
+          "BreakBeforeTernaryOperators", "BraceWrapping.AfterFunction"}},
         {"long call assignment",
          "type name = SOME_LONG(SOME_LONG, SOME_LONG, SOME_LONG);\nname_part = SOME_LONG(SOME_LONG, SOME_LONG) + SOME_LONG;",
          "How assignments of calls too long for one line break: after the `=`, after the `(`, or between the arguments.",
@@ -171,6 +181,14 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "How a condition too long for one line breaks around `&&` and `||`.",
          {"BreakBeforeBinaryOperators", "AlignOperands", "ColumnLimit", "ContinuationIndentWidth",
           "BraceWrapping.AfterControlStatement"}},
+        {"long conditional chain",
+         "type name(void) {\n  return SOME_LONG == SOME ? SOME_LONG(SOME_LONG)\n         : SOME_LONG == name ? SOME_LONG\n"
+         "                             : SOME_LONG(SOME_LONG, SOME_LONG);\n}",
+         "A chain of conditional expressions returned, too long for any column limit and written broken before each "
+         "`?` and `:` (kept so where the style has no limit): whether the lines break before or after `?` and `:`, "
+         "and where the operators and the operands after them line up.",
+         {"BreakBeforeTernaryOperators", "AlignOperands", "ContinuationIndentWidth", "ColumnLimit",
+          "AlignAfterOpenBracket", "BraceWrapping.AfterFunction"}},
         {"long enum",
          "enum name {\n  name_part,\n  name_long_part = SOME,\n  SOME_LONG,\n  SOME_LONG,\n  SOME_LONG,\n  SOME_LONG\n};",
          "An enumeration too long for one line: one enumerator a line, and where its brace goes.",
