@@ -233,6 +233,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
          {"BraceWrapping.AfterControlStatement", "AllowShortBlocksOnASingleLine"}},
         {"pointer", "type *name = &SOME;", "Where the `*` of a pointer declaration leans: on the type, on the name, or neither.",
          {"PointerAlignment", "DerivePointerAlignment"}},
+        {"pointer qualifiers", "type *const *name = SOME;",
+         "A pointer to a constant pointer: whether a blank stands on both sides of the `const` between the two `*`, "
+         "where the pointers' leaning alone would leave it on one.",
+         {"PointerAlignment", "DerivePointerAlignment", "SpaceAroundPointerQualifiers"}},
         {"preprocessor", "#ifdef name\n#define name_part SOME\n#endif",
          "Whether directives inside a conditional block are indented, and how.",
          {"IndentPPDirectives", "PPIndentWidth"}},
