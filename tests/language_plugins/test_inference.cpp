@@ -512,6 +512,46 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 79, AlignAfterOpenBracket: AlwaysBreak, BinPackArguments: false, "
                       "AllowAllArgumentsOnNextLine: false}"
             << QStringList{"AllowAllArgumentsOnNextLine: false"};
+        // Indented with tabs as wide as the indent, code shows the tab's width only where it meets the
+        // column limit: calls two blocks deep break under one width and not the other (read as tabs of
+        // 8 once the macro's backslashes no longer lined up).
+        QTest::newRow("tabs of 4 for indentation, indent width 4, backslashes not lined up")
+            << "C++" << "{BasedOnStyle: LLVM, AlignEscapedNewlines: DontAlign, IndentWidth: 4, TabWidth: 4, "
+                        "UseTab: ForIndentation}"
+            << QStringList{"IndentWidth: 4", "TabWidth: 4", "UseTab: ForIndentation"};
+        // Assignments whose value fits on the next line break at the `=` where that costs little
+        // (read as 2: the long call assignment breaks inside its value under either).
+        QTest::newRow("breaking after = costs more, every operator first, continuation 8")
+            << "C++" << "{BasedOnStyle: LLVM, BreakBeforeBinaryOperators: All, ContinuationIndentWidth: 8, "
+                        "SpacesInParens: Custom, SpacesInParensOptions: {InConditionalStatements: true, Other: true}, "
+                        "PenaltyBreakAssignment: 100}"
+            << QStringList{"PenaltyBreakAssignment: 100"};
+        // A chain of conditionals returned: `?` and `:` lined up so that the operands after them do
+        // (read as lined-up operands: no form broke an expression before an operator).
+        QTest::newRow("operands lined up after the operators, conditionals broken before ? and :")
+            << "C++" << "{BasedOnStyle: LLVM, AlignOperands: AlignAfterOperator}"
+            << QStringList{"AlignOperands: AlignAfterOperator"};
+        // Without a column limit only a conditional its author broke shows where `?` and `:` go.
+        QTest::newRow("conditionals broken after ? and :, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeTernaryOperators: false}"
+            << QStringList{"BreakBeforeTernaryOperators: false", "ColumnLimit: 0"};
+        // The template head before the return type where the declaration breaks (the short template
+        // forms fit on their line: read as LLVM's head on a line of its own for a declaration broken).
+        QTest::newRow("template heads never on a line of their own")
+            << "C++" << "{BasedOnStyle: LLVM, BreakTemplateDeclarations: No}" << QStringList{"BreakTemplateDeclarations: No"};
+        QTest::newRow("return type on its own line more often (60), parameters broken as a block")
+            << "C++" << "{BasedOnStyle: Google, PenaltyReturnTypeOnItsOwnLine: 60, AlignAfterOpenBracket: BlockIndent}"
+            << QStringList{"PenaltyReturnTypeOnItsOwnLine: 60"};
+        // A blank on the side of the qualifier that the `*` does not lean to: no option group moves
+        // it, the reading carries it.
+        QTest::newRow("a blank before a pointer's qualifier")
+            << "C" << "{BasedOnStyle: LLVM, SpaceAroundPointerQualifiers: Before}"
+            << QStringList{"SpaceAroundPointerQualifiers: Before"};
+        QTest::newRow("a blank after a pointer's qualifier, pointers leaning on the type")
+            << "C++" << "{BasedOnStyle: LLVM, PointerAlignment: Left, SpaceAroundPointerQualifiers: After}"
+            << QStringList{"SpaceAroundPointerQualifiers: After"};
+        QTest::newRow("no blank added around a pointer's qualifier, pointers leaning on the type")
+            << "C" << "{BasedOnStyle: LLVM, PointerAlignment: Left}" << QStringList{"SpaceAroundPointerQualifiers: Default"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
