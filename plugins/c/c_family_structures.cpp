@@ -174,6 +174,12 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "together on the next: whether they go there together where they are not packed, or one a line.",
          {"AllowAllArgumentsOnNextLine", "BinPackArguments", "AlignAfterOpenBracket", "ContinuationIndentWidth",
           "ColumnLimit", "BraceWrapping.AfterFunction"}},
+        {"long call with a string in parts",
+         "type name(void) {\n  name_long_part(SOME_LONG, \"a string in two parts, \"\n                 \"the first line of them long\");\n}",
+         "A call inside a function whose last argument is a string written in parts over two lines, the call too long "
+         "for one line under any column limit: whether the line breaks before the string, and where its parts line up.",
+         {"AlwaysBreakBeforeMultilineStrings", "AlignAfterOpenBracket", "ContinuationIndentWidth", "ColumnLimit",
+          "BinPackArguments", "BraceWrapping.AfterFunction"}},
         {"long comment", "name_part = SOME_LONG(SOME_LONG, SOME); // SOME comment that reaches past the column limit",
          "How the code before a trailing comment too long for its line breaks; the comment itself is never broken.",
          {"ColumnLimit", "ContinuationIndentWidth", "AlignAfterOpenBracket"}},

@@ -542,6 +542,12 @@ private slots:
         QTest::newRow("return type on its own line more often (60), parameters broken as a block")
             << "C++" << "{BasedOnStyle: Google, PenaltyReturnTypeOnItsOwnLine: 60, AlignAfterOpenBracket: BlockIndent}"
             << QStringList{"PenaltyReturnTypeOnItsOwnLine: 60"};
+        // A call broken after its `(` with a string in parts last: the string stays on the line of the
+        // argument before it (read as a break before it, which the short strings in parts do not tell).
+        QTest::newRow("no break before strings in parts, parameters one a line, continuation 8")
+            << "C++" << "{BasedOnStyle: LLVM, BinPackParameters: false, ContinuationIndentWidth: 8, "
+                        "AlwaysBreakBeforeMultilineStrings: false}"
+            << QStringList{"AlwaysBreakBeforeMultilineStrings: false"};
         // A blank on the side of the qualifier that the `*` does not lean to: no option group moves
         // it, the reading carries it.
         QTest::newRow("a blank before a pointer's qualifier")
