@@ -595,7 +595,9 @@ private slots:
               "kept line break in a declaration", "kept line breaks around operators", "multiline string",
               "short case label", "blank lines in a row", "long assignment to an element", "long call through members",
               "long constructor initializers", "trailing comments after a long comment",
-              "declaration eighty columns wide", "kept line break in parameters", "comments near a tab stop"}) {
+              "declaration eighty columns wide", "kept line break in parameters", "comments near a tab stop",
+              "long assignments in a function", "long conditional chain", "long calls in a loop",
+              "long template function", "pointer qualifiers", "long call with a string in parts"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
