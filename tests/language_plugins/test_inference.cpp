@@ -648,7 +648,14 @@ private slots:
              {"long call in a function", "type name(void) {", "type name(void)\n{"},
              {"long call through members", "type name(void) {", "type name(void)\n{"},
              {"long constructor initializers", "name(SOME_LONG) {", "name(SOME_LONG)\n{"},
-             {"long constructor initializers", "name(SOME) {", "name(SOME)\n{"}},
+             {"long constructor initializers", "name(SOME) {", "name(SOME)\n{"},
+             {"long assignments in a function", "type name(void) {", "type name(void)\n{"},
+             {"long conditional chain", "type name(void) {", "type name(void)\n{"},
+             {"long call with a string in parts", "type name(void) {", "type name(void)\n{"},
+             {"long calls in a loop", "type name(type argument) {", "type name(type argument)\n{"},
+             // Without the ` {` the declaration fits its line of 80.
+             {"long template function", "(type SOME_LONG,\n                                   type *name_part) {",
+              "(type SOME_LONG, type *name_part)\n{"}},
             {{"attribute macro", "type *name", "type* name"},
              {"cast", "(type *)", "(type*)"},
              {"consecutive declarations", "type *name_long_part", "type* name_long_part"},
@@ -658,7 +665,9 @@ private slots:
              {"reference", "type &name", "type& name"},
              {"reference", "const &argument", "const& argument"},
              {"struct", "type *name_part", "type* name_part"},
-             {"try catch", "type &name", "type& name"}},
+             {"try catch", "type &name", "type& name"},
+             {"pointer qualifiers", "type *const *name", "type* const* name"},
+             {"long template function", "type *name_part", "type* name_part"}},
         };
         QFETCH(QString, addon_file);
         QFETCH(int, edit);
