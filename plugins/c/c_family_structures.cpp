@@ -146,6 +146,16 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "broken at the `=` under any column limit, before it or after it, and without a limit kept so only where "
          "the style puts every operator, `=` too, first on a line.",
          {"BreakBeforeBinaryOperators", "ContinuationIndentWidth", "ColumnLimit"}},
+        {"long assignments in a function",
+         "type name(void) {\n  type name = SOME_LONG(SOME_LONG, SOME_LONG);\n\n  name_part = SOME_LONG(SOME_LONG) + SOME;\n\n"
+         "  type name_long_part = SOME_LONG(SOME, name, SOME_LONG);\n\n  name = SOME_LONG(SOME_LONG.SOME_LONG);\n\n"
+         "  type name_long_part = SOME_LONG(SOME) == SOME_LONG ? SOME : name;\n}",
+         "Assignments inside a function a little too long for their line, whose value fits on the next: broken "
+         "after the `=`, or inside the value (after a call's `(`, between its arguments, at an operator), as breaking "
+         "at the `=` costs the style more or less than those breaks.",
+         {"PenaltyBreakAssignment", "PenaltyBreakBeforeFirstCallParameter", "AlignAfterOpenBracket",
+          "ContinuationIndentWidth", "ColumnLimit", "BreakBeforeBinaryOperators", "AlignOperands",
+          "BreakBeforeTernaryOperators", "BraceWrapping.AfterFunction"}},
         {"long call assignment",
          "type name = SOME_LONG(SOME_LONG, SOME_LONG, SOME_LONG);\nname_part = SOME_LONG(SOME_LONG, SOME_LONG) + SOME_LONG;",
          "How assignments of calls too long for one line break: after the `=`, after the `(`, or between the arguments.",
@@ -164,6 +174,12 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "together on the next: whether they go there together where they are not packed, or one a line.",
          {"AllowAllArgumentsOnNextLine", "BinPackArguments", "AlignAfterOpenBracket", "ContinuationIndentWidth",
           "ColumnLimit", "BraceWrapping.AfterFunction"}},
+        {"long call with a string in parts",
+         "type name(void) {\n  name_long_part(SOME_LONG, \"a string in two parts, \"\n                 \"the first line of them long\");\n}",
+         "A call inside a function whose last argument is a string written in parts over two lines, the call too long "
+         "for one line under any column limit: whether the line breaks before the string, and where its parts line up.",
+         {"AlwaysBreakBeforeMultilineStrings", "AlignAfterOpenBracket", "ContinuationIndentWidth", "ColumnLimit",
+          "BinPackArguments", "BraceWrapping.AfterFunction"}},
         {"long comment", "name_part = SOME_LONG(SOME_LONG, SOME); // SOME comment that reaches past the column limit",
          "How the code before a trailing comment too long for its line breaks; the comment itself is never broken.",
          {"ColumnLimit", "ContinuationIndentWidth", "AlignAfterOpenBracket"}},
@@ -171,6 +187,14 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "How a condition too long for one line breaks around `&&` and `||`.",
          {"BreakBeforeBinaryOperators", "AlignOperands", "ColumnLimit", "ContinuationIndentWidth",
           "BraceWrapping.AfterControlStatement"}},
+        {"long conditional chain",
+         "type name(void) {\n  return SOME_LONG == SOME ? SOME_LONG(SOME_LONG)\n         : SOME_LONG == name ? SOME_LONG\n"
+         "                             : SOME_LONG(SOME_LONG, SOME_LONG);\n}",
+         "A chain of conditional expressions returned, too long for any column limit and written broken before each "
+         "`?` and `:` (kept so where the style has no limit): whether the lines break before or after `?` and `:`, "
+         "and where the operators and the operands after them line up.",
+         {"BreakBeforeTernaryOperators", "AlignOperands", "ContinuationIndentWidth", "ColumnLimit",
+          "AlignAfterOpenBracket", "BraceWrapping.AfterFunction"}},
         {"long enum",
          "enum name {\n  name_part,\n  name_long_part = SOME,\n  SOME_LONG,\n  SOME_LONG,\n  SOME_LONG,\n  SOME_LONG\n};",
          "An enumeration too long for one line: one enumerator a line, and where its brace goes.",
@@ -215,6 +239,10 @@ tarnel_engine::structure_catalogue c_family_structures() {
          {"BraceWrapping.AfterControlStatement", "AllowShortBlocksOnASingleLine"}},
         {"pointer", "type *name = &SOME;", "Where the `*` of a pointer declaration leans: on the type, on the name, or neither.",
          {"PointerAlignment", "DerivePointerAlignment"}},
+        {"pointer qualifiers", "type *const *name = SOME;",
+         "A pointer to a constant pointer: whether a blank stands on both sides of the `const` between the two `*`, "
+         "where the pointers' leaning alone would leave it on one.",
+         {"PointerAlignment", "DerivePointerAlignment", "SpaceAroundPointerQualifiers"}},
         {"preprocessor", "#ifdef name\n#define name_part SOME\n#endif",
          "Whether directives inside a conditional block are indented, and how.",
          {"IndentPPDirectives", "PPIndentWidth"}},

@@ -39,6 +39,20 @@ tarnel_engine::structure_catalogue cpp_only_structures() {
          "whether the initializers share lines, and how far they are indented.",
          {"BreakConstructorInitializers", "PackConstructorInitializers", "ConstructorInitializerIndentWidth",
           "ColumnLimit", "BraceWrapping.AfterFunction"}},
+        {"long calls in a loop",
+         "type name(type argument) {\n  name::type name;\n  char name_part = SOME;\n  for (SOME; SOME; SOME) {\n"
+         "    name_part(SOME_LONG, SOME_LONG, name_part);\n    name_long_part(SOME_LONG, SOME_LONG, SOME_LONG, SOME);\n"
+         "    name_long_part(SOME_LONG, SOME_LONG, SOME_LONG, SOME_LONG, name_part);\n  }\n}",
+         "Calls two blocks deep in a function, each of them near one of the column limits, after declarations that "
+         "may line up: where tabs indent them, how wide a tab is decides which of them break.",
+         {"Indentation", "UseTab", "IndentWidth", "ColumnLimit", "AlignAfterOpenBracket", "BinPackArguments",
+          "ContinuationIndentWidth", "AlignConsecutiveDeclarations", "BraceWrapping.AfterFunction"}},
+        {"long template function",
+         "template <typename type>\nstatic type SOME_LONG(type SOME_LONG, type *name_part) {\n  return SOME;\n}",
+         "A function template whose declaration is too long for its line: whether its template head keeps a line of "
+         "its own or goes before the return type, and whether the return type or the parameters break.",
+         {"BreakTemplateDeclarations", "BreakAfterReturnType", "PenaltyReturnTypeOnItsOwnLine", "AlignAfterOpenBracket",
+          "ColumnLimit", "ContinuationIndentWidth", "BraceWrapping.AfterFunction", "PointerAlignment"}},
         {"namespace", "namespace name {\nnamespace name_part {\ntype name();\n}\ntype name_long_part();\n}",
          "Namespaces: where their braces go and whether their content is indented.",
          {"NamespaceIndentation", "BraceWrapping.AfterNamespace"}},

@@ -526,6 +526,22 @@ std::string pointers_read_from(forms_by_name const& forms) {
     return "{" + reading + "}";
 }
 
+// The blanks around the `const` between two `*`: where pointers lean on the name the leaning
+// leaves none before it, on the type none after it; a blank there is the style's rule for
+// qualifiers (read against the lone pointer's leaning; nothing where that leans neither way).
+std::string pointer_qualifiers_read_from(forms_by_name const& forms) {
+    std::string const* code = forms.find("pointer qualifiers");
+    std::string const pointer = leaning_of(forms.find("pointer"), '*');
+    std::size_t const qualifier = code ? code->find("const") : std::string::npos;
+    if (qualifier == std::string::npos || qualifier == 0 || qualifier + 5 >= code->size())
+        return std::string();
+    if (pointer == "Right" && (*code)[qualifier - 1] == ' ')
+        return "{SpaceAroundPointerQualifiers: Before}";
+    if (pointer == "Left" && (*code)[qualifier + 5] == ' ')
+        return "{SpaceAroundPointerQualifiers: After}";
+    return std::string();
+}
+
 // A lone `if` sharing its statement's line, and in a chain without braces the first `if` alone or
 // every `if` and `else` too.
 char const* short_ifs_read_from(forms_by_name const& forms) {
@@ -845,6 +861,10 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     std::string const blank_lines = blank_lines_read_from(named);
     if (!blank_lines.empty())
         readings.passed.push_back(blank_lines);
+    // No option group moves the qualifiers' blanks: the reading is taken as it stands.
+    std::string const qualifiers = pointer_qualifiers_read_from(named);
+    if (!qualifiers.empty())
+        readings.passed.push_back(qualifiers);
     for (macro_kind const& kind : macro_kinds())
         if (std::string const* macros = named.find(kind.structure))
             readings.passed.push_back(macros_option_for(kind, macros_named_in(kind, *macros)));

@@ -1,9 +1,10 @@
 // What the forms of an addon show directly, read from their text without the engine: the indent
-// step and tabs, the continuation indent, the access-specifier offset, case-label and namespace indentation, brace
-// placement per construct, the blanks before and inside parentheses, where `*` and `&` lean, which
-// short statements share a line, how many blank lines are kept, the macros used as loops, the
-// narrowest column limit the forms allow or none where a short call keeps its author's line
-// break, and the width of a tab (internal to the engine library).
+// step and tabs, the continuation indent, the access-specifier offset, case-label and namespace
+// indentation, brace placement per construct, the blanks before and inside parentheses, where `*`
+// and `&` lean and the blanks around a pointer's `const`, which short statements share a line, how
+// many blank lines are kept, the macros used as loops, the narrowest column limit the forms allow
+// or none where a short call keeps its author's line break, and the width of a tab (internal to
+// the engine library).
 #ifndef TARNEL_ENGINE_FORM_READINGS_H
 #define TARNEL_ENGINE_FORM_READINGS_H
 

@@ -512,6 +512,52 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 79, AlignAfterOpenBracket: AlwaysBreak, BinPackArguments: false, "
                       "AllowAllArgumentsOnNextLine: false}"
             << QStringList{"AllowAllArgumentsOnNextLine: false"};
+        // Indented with tabs as wide as the indent, code shows the tab's width only where it meets the
+        // column limit: calls two blocks deep break under one width and not the other (read as tabs of
+        // 8 once the macro's backslashes no longer lined up).
+        QTest::newRow("tabs of 4 for indentation, indent width 4, backslashes not lined up")
+            << "C++" << "{BasedOnStyle: LLVM, AlignEscapedNewlines: DontAlign, IndentWidth: 4, TabWidth: 4, "
+                        "UseTab: ForIndentation}"
+            << QStringList{"IndentWidth: 4", "TabWidth: 4", "UseTab: ForIndentation"};
+        // Assignments whose value fits on the next line break at the `=` where that costs little
+        // (read as 2: the long call assignment breaks inside its value under either).
+        QTest::newRow("breaking after = costs more, every operator first, continuation 8")
+            << "C++" << "{BasedOnStyle: LLVM, BreakBeforeBinaryOperators: All, ContinuationIndentWidth: 8, "
+                        "SpacesInParens: Custom, SpacesInParensOptions: {InConditionalStatements: true, Other: true}, "
+                        "PenaltyBreakAssignment: 100}"
+            << QStringList{"PenaltyBreakAssignment: 100"};
+        // A chain of conditionals returned: `?` and `:` lined up so that the operands after them do
+        // (read as lined-up operands: no form broke an expression before an operator).
+        QTest::newRow("operands lined up after the operators, conditionals broken before ? and :")
+            << "C++" << "{BasedOnStyle: LLVM, AlignOperands: AlignAfterOperator}"
+            << QStringList{"AlignOperands: AlignAfterOperator"};
+        // Without a column limit only a conditional its author broke shows where `?` and `:` go.
+        QTest::newRow("conditionals broken after ? and :, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakBeforeTernaryOperators: false}"
+            << QStringList{"BreakBeforeTernaryOperators: false", "ColumnLimit: 0"};
+        // The template head before the return type where the declaration breaks (the short template
+        // forms fit on their line: read as LLVM's head on a line of its own for a declaration broken).
+        QTest::newRow("template heads never on a line of their own")
+            << "C++" << "{BasedOnStyle: LLVM, BreakTemplateDeclarations: No}" << QStringList{"BreakTemplateDeclarations: No"};
+        QTest::newRow("return type on its own line more often (60), parameters broken as a block")
+            << "C++" << "{BasedOnStyle: Google, PenaltyReturnTypeOnItsOwnLine: 60, AlignAfterOpenBracket: BlockIndent}"
+            << QStringList{"PenaltyReturnTypeOnItsOwnLine: 60"};
+        // A call broken after its `(` with a string in parts last: the string stays on the line of the
+        // argument before it (read as a break before it, which the short strings in parts do not tell).
+        QTest::newRow("no break before strings in parts, parameters one a line, continuation 8")
+            << "C++" << "{BasedOnStyle: LLVM, BinPackParameters: false, ContinuationIndentWidth: 8, "
+                        "AlwaysBreakBeforeMultilineStrings: false}"
+            << QStringList{"AlwaysBreakBeforeMultilineStrings: false"};
+        // A blank on the side of the qualifier that the `*` does not lean to: no option group moves
+        // it, the reading carries it.
+        QTest::newRow("a blank before a pointer's qualifier")
+            << "C" << "{BasedOnStyle: LLVM, SpaceAroundPointerQualifiers: Before}"
+            << QStringList{"SpaceAroundPointerQualifiers: Before"};
+        QTest::newRow("a blank after a pointer's qualifier, pointers leaning on the type")
+            << "C++" << "{BasedOnStyle: LLVM, PointerAlignment: Left, SpaceAroundPointerQualifiers: After}"
+            << QStringList{"SpaceAroundPointerQualifiers: After"};
+        QTest::newRow("no blank added around a pointer's qualifier, pointers leaning on the type")
+            << "C" << "{BasedOnStyle: LLVM, PointerAlignment: Left}" << QStringList{"SpaceAroundPointerQualifiers: Default"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -549,7 +595,9 @@ private slots:
               "kept line break in a declaration", "kept line breaks around operators", "multiline string",
               "short case label", "blank lines in a row", "long assignment to an element", "long call through members",
               "long constructor initializers", "trailing comments after a long comment",
-              "declaration eighty columns wide", "kept line break in parameters", "comments near a tab stop"}) {
+              "declaration eighty columns wide", "kept line break in parameters", "comments near a tab stop",
+              "long assignments in a function", "long conditional chain", "long calls in a loop",
+              "long template function", "pointer qualifiers", "long call with a string in parts"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
@@ -600,7 +648,14 @@ private slots:
              {"long call in a function", "type name(void) {", "type name(void)\n{"},
              {"long call through members", "type name(void) {", "type name(void)\n{"},
              {"long constructor initializers", "name(SOME_LONG) {", "name(SOME_LONG)\n{"},
-             {"long constructor initializers", "name(SOME) {", "name(SOME)\n{"}},
+             {"long constructor initializers", "name(SOME) {", "name(SOME)\n{"},
+             {"long assignments in a function", "type name(void) {", "type name(void)\n{"},
+             {"long conditional chain", "type name(void) {", "type name(void)\n{"},
+             {"long call with a string in parts", "type name(void) {", "type name(void)\n{"},
+             {"long calls in a loop", "type name(type argument) {", "type name(type argument)\n{"},
+             // Without the ` {` the declaration fits its line of 80.
+             {"long template function", "(type SOME_LONG,\n                                   type *name_part) {",
+              "(type SOME_LONG, type *name_part)\n{"}},
             {{"attribute macro", "type *name", "type* name"},
              {"cast", "(type *)", "(type*)"},
              {"consecutive declarations", "type *name_long_part", "type* name_long_part"},
@@ -610,7 +665,9 @@ private slots:
              {"reference", "type &name", "type& name"},
              {"reference", "const &argument", "const& argument"},
              {"struct", "type *name_part", "type* name_part"},
-             {"try catch", "type &name", "type& name"}},
+             {"try catch", "type &name", "type& name"},
+             {"pointer qualifiers", "type *const *name", "type* const* name"},
+             {"long template function", "type *name_part", "type* name_part"}},
         };
         QFETCH(QString, addon_file);
         QFETCH(int, edit);
