@@ -575,13 +575,15 @@ std::string short_functions_read_from(forms_by_name const& forms) {
 // of packing constructor initializers that join such a body to their line give it back apart too.
 // Where empty functions share their line, an empty constructor body apart after its initializers
 // shows a packing that keeps it so: the initializers on the next line only where the body's brace
-// has a line of its own (never packed, or after commas that begin lines, the other forms tell).
+// has a line of its own (never packed, or packed after commas that begin lines, the other forms
+// tell). Not where commas begin lines: the engine keeps them so under either packing.
 std::string constructor_packing_read_from(forms_by_name const& forms) {
     std::string const* constructor = forms.find("kept line breaks in constructor initializers");
     if (!constructor || !(forms.has_one_line("empty function") || destructor_joined(forms, "name::~")))
         return std::string();
     std::vector<std::string> const lines = lines_of(*constructor);
-    if (lines.size() < 2 || trimmed(lines.back()) != "}")
+    if (lines.size() < 2 || trimmed(lines.back()) != "}" ||
+        forms.line_starting("kept line breaks in constructor initializers", ",") >= 0)
         return std::string();
     return "{PackConstructorInitializers: NextLineOnly}";
 }
