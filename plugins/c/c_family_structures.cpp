@@ -142,6 +142,8 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "How far a label inside a nested block is indented: one step out from the block's statements, or at the "
          "start of the line.",
          {"IndentGotoLabels", "BraceWrapping.AfterFunction", "BraceWrapping.AfterControlStatement"}},
+        {"logical not", "name = !SOME;", "A negation: whether a blank follows the `!`.",
+         {"SpaceAfterLogicalNot", "SpaceBeforeAssignmentOperators"}},
         {"long assignment", "name = SOME_LONG + SOME_LONG * SOME_LONG - SOME_LONG;",
          "How an expression too long for one line breaks: before or after its operators, and how far the rest is indented.",
          {"BreakBeforeBinaryOperators", "AlignOperands", "ContinuationIndentWidth", "ColumnLimit"}},

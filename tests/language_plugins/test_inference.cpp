@@ -554,6 +554,9 @@ private slots:
         QTest::newRow("arguments together on the next line, not packed, no column limit")
             << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AlignAfterOpenBracket: BlockIndent, BinPackArguments: false}"
             << QStringList{"BinPackArguments: false", "AllowAllArgumentsOnNextLine: true"};
+        // No other form holds a `!`.
+        QTest::newRow("a blank after the logical not")
+            << "C" << "{BasedOnStyle: LLVM, SpaceAfterLogicalNot: true}" << QStringList{"SpaceAfterLogicalNot: true"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -592,7 +595,8 @@ private slots:
               "short case label", "blank lines in a row", "long assignment to an element", "long call through members",
               "long constructor initializers", "trailing comments after a long comment",
               "declaration eighty columns wide", "kept line break in parameters", "comments near a tab stop",
-              "destructors", "kept line breaks in arguments", "kept line breaks in constructor initializers"}) {
+              "destructors", "kept line breaks in arguments", "kept line breaks in constructor initializers",
+              "logical not"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
