@@ -56,6 +56,10 @@ tarnel_engine::structure_catalogue cpp_only_structures() {
         {"namespace", "namespace name {\nnamespace name_part {\ntype name();\n}\ntype name_long_part();\n}",
          "Namespaces: where their braces go and whether their content is indented.",
          {"NamespaceIndentation", "BraceWrapping.AfterNamespace"}},
+        {"nested class", "class name {\n  class name_part {\n  public:\n    type name;\n  };\n};",
+         "A class inside a class: how far its `public:` stands from its members, two steps in, where a step back "
+         "further than the first step in reaches no further than the start of the line.",
+         {"AccessModifierOffset", "IndentAccessModifiers", "BraceWrapping.AfterClass"}},
         {"range for", "for (type &name : SOME) {\n  SOME;\n}", "A range-based for loop: the blanks around its colon.",
          {"SpaceBeforeRangeBasedForLoopColon", "ReferenceAlignment", "PointerAlignment",
           "BraceWrapping.AfterControlStatement"}},

@@ -557,6 +557,10 @@ private slots:
         // No other form holds a `!`.
         QTest::newRow("a blank after the logical not")
             << "C" << "{BasedOnStyle: LLVM, SpaceAfterLogicalNot: true}" << QStringList{"SpaceAfterLogicalNot: true"};
+        // Stepping back further than the indent step, `public:` of a class at the top level stands
+        // where it would stand a step in; in a nested class it shows how far (read as 0).
+        QTest::newRow("access specifiers 3 back, indent width 2")
+            << "C++" << "{BasedOnStyle: LLVM, AccessModifierOffset: -3}" << QStringList{"AccessModifierOffset: -3"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -596,7 +600,7 @@ private slots:
               "long constructor initializers", "trailing comments after a long comment",
               "declaration eighty columns wide", "kept line break in parameters", "comments near a tab stop",
               "destructors", "kept line breaks in arguments", "kept line breaks in constructor initializers",
-              "logical not"}) {
+              "logical not", "nested class"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
