@@ -57,8 +57,8 @@ tarnel_engine::structure_catalogue cpp_only_structures() {
          "Namespaces: where their braces go and whether their content is indented.",
          {"NamespaceIndentation", "BraceWrapping.AfterNamespace"}},
         {"nested class", "class name {\n  class name_part {\n  public:\n    type name;\n  };\n};",
-         "A class inside a class: how far its `public:` stands from its members, two steps in, where a step back "
-         "further than the first step in reaches no further than the start of the line.",
+         "A class inside a class: how far its `public:` steps back from its members. Two steps in, an offset "
+         "further back than one step shows too, which a class at the top level lays out as no offset at all.",
          {"AccessModifierOffset", "IndentAccessModifiers", "BraceWrapping.AfterClass"}},
         {"range for", "for (type &name : SOME) {\n  SOME;\n}", "A range-based for loop: the blanks around its colon.",
          {"SpaceBeforeRangeBasedForLoopColon", "ReferenceAlignment", "PointerAlignment",
