@@ -133,10 +133,17 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "limit, the break on the side the style puts operators stays and the other is joined, and then whether the "
          "operands line up.",
          {"ColumnLimit", "BreakBeforeBinaryOperators", "AlignOperands", "ContinuationIndentWidth"}},
+        {"kept line breaks in arguments", "type name(void) {\n  name_part(\n      SOME, SOME,\n      SOME);\n}",
+         "A call inside a function its author broke after its `(` and between its arguments: kept so where the style "
+         "has no column limit and packs arguments, one a line or joined where it does not.",
+         {"BinPackArguments", "AllowAllArgumentsOnNextLine", "AlignAfterOpenBracket", "ColumnLimit",
+          "ContinuationIndentWidth", "BraceWrapping.AfterFunction"}},
         {"label in a block", "type name(void) {\n  if (SOME) {\n    SOME;\n    goto label;\n  label:\n    SOME;\n  }\n}",
          "How far a label inside a nested block is indented: one step out from the block's statements, or at the "
          "start of the line.",
          {"IndentGotoLabels", "BraceWrapping.AfterFunction", "BraceWrapping.AfterControlStatement"}},
+        {"logical not", "name = !SOME;", "A negation: whether a blank follows the `!`.",
+         {"SpaceAfterLogicalNot", "SpaceBeforeAssignmentOperators"}},
         {"long assignment", "name = SOME_LONG + SOME_LONG * SOME_LONG - SOME_LONG;",
          "How an expression too long for one line breaks: before or after its operators, and how far the rest is indented.",
          {"BreakBeforeBinaryOperators", "AlignOperands", "ContinuationIndentWidth", "ColumnLimit"}},

@@ -15,6 +15,11 @@ tarnel_engine::structure_catalogue cpp_only_structures() {
          "How the member initializers of a constructor are laid out: where the colon and the commas go.",
          {"BreakConstructorInitializers", "PackConstructorInitializers", "ConstructorInitializerIndentWidth",
           "SpaceBeforeCtorInitializerColon", "BraceWrapping.AfterFunction"}},
+        {"destructors", "name::~name() {}\nname_part::~name_part() { SOME; }",
+         "Destructors defined outside their class, one with an empty body and one with a one-statement body: on "
+         "one line or not, where no return type stands on a line of its own to keep them apart.",
+         {"AllowShortFunctionsOnASingleLine", "BraceWrapping.SplitEmptyFunction", "BraceWrapping.AfterFunction",
+          "SpaceInEmptyBlock"}},
         {"empty class", "class name {};", "A class with an empty body.",
          {"BraceWrapping.SplitEmptyRecord", "BraceWrapping.AfterClass", "SpaceInEmptyBlock"}},
         {"inheritance", "class name : public type, private name_part {\n  type name;\n};",
@@ -26,6 +31,15 @@ tarnel_engine::structure_catalogue cpp_only_structures() {
         {"inline method", "class name {\n  type name_part() const { return SOME; }\n};",
          "A member function defined in its class with a one-statement body: on one line or not.",
          {"AllowShortFunctionsOnASingleLine", "BraceWrapping.AfterFunction", "BraceWrapping.AfterClass"}},
+        {"kept line breaks in constructor initializers",
+         "name::name(type argument)\n    : name_part(argument),\n      name_long_part(SOME) {}",
+         "A constructor with an empty body whose author broke the line before its initializers and between them: "
+         "kept so where the style has no column limit, and then where the colon and the commas go, how far the "
+         "initializers are indented, and whether the empty body joins their line, as it does where they may share a "
+         "line with the parameters.",
+         {"BreakConstructorInitializers", "PackConstructorInitializers", "ConstructorInitializerIndentWidth",
+          "ColumnLimit", "AllowShortFunctionsOnASingleLine", "BraceWrapping.AfterFunction",
+          "BraceWrapping.SplitEmptyFunction"}},
         {"lambda",
          "auto name = [&](type argument) { return SOME; };\nname_part(SOME, [](type argument) {\n  SOME;\n  SOME;\n});",
          "A lambda: a short one on one line, and how the body of a longer one is indented.",
@@ -56,6 +70,10 @@ tarnel_engine::structure_catalogue cpp_only_structures() {
         {"namespace", "namespace name {\nnamespace name_part {\ntype name();\n}\ntype name_long_part();\n}",
          "Namespaces: where their braces go and whether their content is indented.",
          {"NamespaceIndentation", "BraceWrapping.AfterNamespace"}},
+        {"nested class", "class name {\n  class name_part {\n  public:\n    type name;\n  };\n};",
+         "A class inside a class: how far its `public:` steps back from its members. Two steps in, an offset "
+         "further back than one step shows too, which a class at the top level lays out as no offset at all.",
+         {"AccessModifierOffset", "IndentAccessModifiers", "BraceWrapping.AfterClass"}},
         {"range for", "for (type &name : SOME) {\n  SOME;\n}", "A range-based for loop: the blanks around its colon.",
          {"SpaceBeforeRangeBasedForLoopColon", "ReferenceAlignment", "PointerAlignment",
           "BraceWrapping.AfterControlStatement"}},

@@ -563,6 +563,59 @@ char const* short_ifs_read_from(forms_by_name const& forms) {
     return shares_its_line("else if") ? "AllIfsAndElse" : "OnlyFirstIf";
 }
 
+// Whether the destructor whose line starts so shares it with its body (no return type keeps it
+// apart, as one can keep the other functions of the forms apart).
+bool destructor_joined(forms_by_name const& forms, std::string const& opening) {
+    int const line = forms.line_starting("destructors", opening);
+    return line >= 0 && lines_of(*forms.find("destructors"))[static_cast<std::size_t>(line)].find('}') != std::string::npos;
+}
+
+// Which functions share a line with their short body: every one, those defined in a class (and
+// the empty ones), or only the empty ones.
+std::string short_functions_read_from(forms_by_name const& forms) {
+    if (!forms.find("short function") || !forms.find("empty function"))
+        return std::string();
+    bool const short_function = forms.has_one_line("short function") || destructor_joined(forms, "name_part::~");
+    bool const empty_function = forms.has_one_line("empty function") || destructor_joined(forms, "name::~");
+    std::string const* method = forms.find("inline method");
+    bool const inline_method = method && method->find("{ return") != std::string::npos;
+    char const* value = short_function                     ? "All"
+                        : inline_method && empty_function ? "Inline"
+                        : inline_method                    ? "InlineOnly"
+                        : empty_function                   ? "Empty"
+                                                           : "None";
+    return std::string("{AllowShortFunctionsOnASingleLine: ") + value + "}";
+}
+
+// Without a limit the engine keeps an empty body on the lines its author wrote it on, so the ways
+// of packing constructor initializers that join such a body to their line give it back apart too.
+// Where empty functions share their line, an empty constructor body apart after its initializers
+// shows a packing that keeps it so: the initializers on the next line only where the body's brace
+// has a line of its own (never packed, or packed after commas that begin lines, the other forms
+// tell). Not where commas begin lines: the engine keeps them so under either packing.
+std::string constructor_packing_read_from(forms_by_name const& forms) {
+    std::string const* constructor = forms.find("kept line breaks in constructor initializers");
+    if (!constructor || !(forms.has_one_line("empty function") || destructor_joined(forms, "name::~")))
+        return std::string();
+    std::vector<std::string> const lines = lines_of(*constructor);
+    if (lines.size() < 2 || trimmed(lines.back()) != "}" ||
+        forms.line_starting("kept line breaks in constructor initializers", ",") >= 0)
+        return std::string();
+    return "{PackConstructorInitializers: NextLineOnly}";
+}
+
+// Without a limit the engine keeps initializers on the lines their author broke them over where
+// a colon or a comma ends a line; only where commas begin lines does it join them when they may
+// share one: joined after the colon that begins a line, they show commas first.
+std::string constructor_commas_read_from(forms_by_name const& forms) {
+    int const colon = forms.line_starting("kept line breaks in constructor initializers", ":");
+    if (colon < 0)
+        return std::string();
+    std::string const line =
+        lines_of(*forms.find("kept line breaks in constructor initializers"))[static_cast<std::size_t>(colon)];
+    return line.find("name_long_part") == std::string::npos ? std::string() : "{BreakConstructorInitializers: BeforeComma}";
+}
+
 std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
     std::vector<std::string> readings;
     if (forms.find("short if"))
@@ -576,18 +629,9 @@ std::vector<std::string> short_lines_read_from(forms_by_name const& forms) {
                            (forms.has_one_line("if") ? "Always}" : "Never}"));
     if (forms.find("empty function"))
         readings.push_back("{SpaceInEmptyBlock: " + flag(forms.contains("empty function", "{ }")) + "}");
-    if (forms.find("short function") && forms.find("empty function")) {
-        bool const short_function = forms.has_one_line("short function");
-        bool const empty_function = forms.has_one_line("empty function");
-        std::string const* method = forms.find("inline method");
-        bool const inline_method = method && method->find("{ return") != std::string::npos;
-        char const* value = short_function                     ? "All"
-                            : inline_method && empty_function ? "Inline"
-                            : inline_method                    ? "InlineOnly"
-                            : empty_function                   ? "Empty"
-                                                               : "None";
-        readings.push_back(std::string("{AllowShortFunctionsOnASingleLine: ") + value + "}");
-    }
+    std::string const functions = short_functions_read_from(forms);
+    if (!functions.empty())
+        readings.push_back(functions);
     return readings;
 }
 
@@ -618,6 +662,34 @@ std::string packed_arguments_read_from(forms_by_name const& forms) {
         forms.line_starting("long call in a function", "name_part") < 0)
         return std::string();
     return "{BinPackArguments: " + flag(broken("long call in a function", "name_part")) + "}";
+}
+
+// Without a column limit the engine keeps a call's arguments on the lines its author wrote them on
+// where it packs them, and where it does not, it keeps them one a line as well: the call whose
+// author packed two of its three arguments on a line shows which. Taken apart, one a line, the
+// arguments show a style that does not pack them nor put them all on the next line; together on
+// one line after the `(`, one that does not pack them but puts them all on the next line.
+std::string arguments_apart_read_from(forms_by_name const& forms) {
+    std::string const* call = forms.find("kept line breaks in arguments");
+    int const head = forms.line_starting("kept line breaks in arguments", "name_part");
+    if (!call || head < 0)
+        return std::string();
+    bool const broken_after_parenthesis =
+        lines_of(*call)[static_cast<std::size_t>(head)].find("SOME") == std::string::npos;
+    int arguments_on_lines = 0;
+    bool all_together = false;
+    for (std::string const& line : lines_of(*call)) {
+        std::size_t count = 0;
+        for (std::size_t at = line.find("SOME"); at != std::string::npos; at = line.find("SOME", at + 1))
+            ++count;
+        arguments_on_lines += count > 0;
+        all_together = all_together || count == 3;
+    }
+    if (all_together && broken_after_parenthesis)
+        return "{BinPackArguments: false, AllowAllArgumentsOnNextLine: true}";
+    if (arguments_on_lines == 3)
+        return "{BinPackArguments: false, AllowAllArgumentsOnNextLine: false}";
+    return std::string();
 }
 
 // Without a column limit a short call its author broke after an argument stays so where the
@@ -849,6 +921,20 @@ form_readings readings_of(std::vector<form_case> const& forms) {
     std::string const return_type = return_type_read_from(named);
     if (!return_type.empty() && return_type.find("BreakAfterReturnType: None") == std::string::npos)
         readings.preferred.push_back(return_type);
+    // Without a limit the engine keeps a short function on the lines its author wrote it on, so
+    // styles that join every short function give the broken ones back too (and a source's
+    // functions written on one line stay so under them): a predefined one among them too.
+    std::string const functions = short_functions_read_from(named);
+    if (!functions.empty() && functions.find("All}") == std::string::npos) {
+        readings.preferred.push_back(functions);
+        readings.telling.push_back(functions);
+    }
+    std::string const arguments = arguments_apart_read_from(named);
+    if (!arguments.empty())
+        readings.preferred.push_back(arguments);
+    for (std::string const& reading : {constructor_packing_read_from(named), constructor_commas_read_from(named)})
+        if (!reading.empty())
+            readings.preferred.push_back(reading);
     std::string const bracket_break = bracket_break_read_from(named);
     if (!bracket_break.empty())
         readings.preferred.push_back(bracket_break);

@@ -558,6 +558,55 @@ private slots:
             << QStringList{"SpaceAroundPointerQualifiers: After"};
         QTest::newRow("no blank added around a pointer's qualifier, pointers leaning on the type")
             << "C" << "{BasedOnStyle: LLVM, PointerAlignment: Left}" << QStringList{"SpaceAroundPointerQualifiers: Default"};
+        // Without a limit the engine keeps a short function broken where its author broke it, even
+        // where it joins every short function: the readings decide (read as every one joined).
+        QTest::newRow("short functions of a class and empty ones, WebKit's")
+            << "C++" << "{BasedOnStyle: WebKit, AllowShortFunctionsOnASingleLine: Inline}"
+            << QStringList{"AllowShortFunctionsOnASingleLine: Inline"};
+        // Return types on lines of their own keep every function of the other forms apart; the
+        // destructors have none (read as a style that joins only functions of a class, or none).
+        QTest::newRow("short functions of a class and empty ones, return types on their own line, no column limit")
+            << "C++" << "{BasedOnStyle: Mozilla, ColumnLimit: 0}" << QStringList{"AllowShortFunctionsOnASingleLine: Inline"};
+        QTest::newRow("empty functions, return types on their own line, no column limit")
+            << "C++" << "{BasedOnStyle: Mozilla, ColumnLimit: 0, AllowShortFunctionsOnASingleLine: Empty}"
+            << QStringList{"AllowShortFunctionsOnASingleLine: Empty"};
+        QTest::newRow("every short function, return types on their own line, no column limit")
+            << "C++" << "{BasedOnStyle: Mozilla, ColumnLimit: 0, AllowShortFunctionsOnASingleLine: All}"
+            << QStringList{"AllowShortFunctionsOnASingleLine: All"};
+        // A constructor whose author broke its initializers: without a limit the engine keeps them
+        // so, showing how far they are indented and where the commas go, and keeps its empty body
+        // apart where initializers go on the next line only.
+        QTest::newRow("initializers on the next line only, no column limit")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, PackConstructorInitializers: NextLineOnly, "
+                        "BreakBeforeBraces: Custom, BraceWrapping: {AfterFunction: true}}"
+            << QStringList{"PackConstructorInitializers: NextLineOnly"};
+        QTest::newRow("initializers 8 in, no column limit")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, ConstructorInitializerIndentWidth: 8, IndentWidth: 8, "
+                        "UseTab: ForContinuationAndIndentation}"
+            << QStringList{"ConstructorInitializerIndentWidth: 8"};
+        QTest::newRow("initializers with commas first, on the next line only, no column limit")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BreakConstructorInitializers: BeforeComma, "
+                        "PackConstructorInitializers: NextLineOnly}"
+            << QStringList{"BreakConstructorInitializers: BeforeComma"};
+        // A call whose author packed two of its three arguments on a line: without a limit the
+        // engine keeps them so where it packs arguments, and one a line as well where it does not.
+        QTest::newRow("arguments one a line, no column limit, the `)` on a line of its own")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AlignAfterOpenBracket: BlockIndent, BinPackArguments: false, "
+                        "AllowAllArgumentsOnNextLine: false}"
+            << QStringList{"BinPackArguments: false", "AllowAllArgumentsOnNextLine: false"};
+        QTest::newRow("arguments one a line, never together on the next line, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 0, BinPackArguments: false, AllowAllArgumentsOnNextLine: false}"
+            << QStringList{"BinPackArguments: false", "AllowAllArgumentsOnNextLine: false"};
+        QTest::newRow("arguments together on the next line, not packed, no column limit")
+            << "C++" << "{BasedOnStyle: LLVM, ColumnLimit: 0, AlignAfterOpenBracket: BlockIndent, BinPackArguments: false}"
+            << QStringList{"BinPackArguments: false", "AllowAllArgumentsOnNextLine: true"};
+        // No other form holds a `!`.
+        QTest::newRow("a blank after the logical not")
+            << "C" << "{BasedOnStyle: LLVM, SpaceAfterLogicalNot: true}" << QStringList{"SpaceAfterLogicalNot: true"};
+        // Stepping back further than the indent step, `public:` of a class at the top level stands
+        // where it would stand a step in; in a nested class it shows how far (read as 0).
+        QTest::newRow("access specifiers 3 back, indent width 2")
+            << "C++" << "{BasedOnStyle: LLVM, AccessModifierOffset: -3}" << QStringList{"AccessModifierOffset: -3"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -597,7 +646,9 @@ private slots:
               "long constructor initializers", "trailing comments after a long comment",
               "declaration eighty columns wide", "kept line break in parameters", "comments near a tab stop",
               "long assignments in a function", "long conditional chain", "long calls in a loop",
-              "long template function", "pointer qualifiers", "long call with a string in parts"}) {
+              "long template function", "pointer qualifiers", "long call with a string in parts",
+              "destructors", "kept line breaks in arguments", "kept line breaks in constructor initializers",
+              "logical not", "nested class"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
