@@ -149,6 +149,15 @@ private slots:
                       "ContinuationIndentWidth: 8, IndentWidth: 8, PointerAlignment: Middle, "
                       "SpaceBeforeAssignmentOperators: false, SpaceAfterCStyleCast: true, SpaceAfterLogicalNot: true, "
                       "SpacesInSquareBrackets: true, UseTab: ForContinuationAndIndentation}";
+        // Read as a continuation of 8 in tabs of 4, then as 8 in tabs of 8 (macros, a ternary and a
+        // multiline string lost): the way back to tabs of 4 puts "long call assignment" off unless
+        // breaking after `=` costs more too, a pair the tab width's move makes with the groups of the
+        // forms it puts off; and it is tried before the other pairs, which spent the bound first.
+        QTest::newRow("C WebKit, tabs of 4 aligned with blanks, breaking after = costs more, limit 100")
+            << "C" << "{BasedOnStyle: WebKit, AlignAfterOpenBracket: Align, AlignConsecutiveAssignments: {Enabled: "
+                      "true}, AlignEscapedNewlines: LeftWithLastLine, AlwaysBreakBeforeMultilineStrings: true, "
+                      "BreakBeforeBinaryOperators: None, ColumnLimit: 100, PenaltyBreakAssignment: 100, TabWidth: 4, "
+                      "UseTab: AlignWithSpaces}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
