@@ -158,6 +158,12 @@ private slots:
                       "true}, AlignEscapedNewlines: LeftWithLastLine, AlwaysBreakBeforeMultilineStrings: true, "
                       "BreakBeforeBinaryOperators: None, ColumnLimit: 100, PenaltyBreakAssignment: 100, TabWidth: 4, "
                       "UseTab: AlignWithSpaces}";
+        // Read as 8 in tabs of 8 ("multiline string" lost): tabs of 4 bring the string back but put
+        // "long constructor initializers" off until their indent, 8 in tabs of 8, moves to 4 with them.
+        QTest::newRow("C++ Microsoft, tabs of 4 aligned with blanks, continuation 2, access labels indented")
+            << "C++" << "{BasedOnStyle: Microsoft, AlignConsecutiveMacros: {Enabled: true}, AlignEscapedNewlines: "
+                        "DontAlign, AlignTrailingComments: {Kind: Never}, AllowShortFunctionsOnASingleLine: All, "
+                        "ContinuationIndentWidth: 2, IndentAccessModifiers: true, UseTab: AlignWithSpaces}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
