@@ -92,19 +92,16 @@ public:
         return {style, std::move(distances), total};
     }
 
-    // Single moves until none improves, then one move of the tab width, coupled or mending move, and
-    // again; until every form is a fixed point, nothing improves, or the budget is spent. Pinned
-    // candidates (readings) hold in every style the descent moves to. The tab width moves before
-    // the pairs: under a width that is not the author's many forms differ, and their pairs could
-    // spend the bound before the width was tried (an indent of 2 in tabs of 4 read in tabs of 8,
-    // constructor initializers under an indent of 8 in tabs of 8 read in tabs of 4).
+    // Single moves until none improves, then one coupled move, and again; until every form is a
+    // fixed point, nothing improves, or the budget is spent. Pinned candidates (readings) hold in
+    // every style the descent moves to.
     void descend(scored_style& current, std::vector<std::string> const& pinned) {
         kept = pinned;
         unhelpful.clear();
         while (current.total > 0 && within_budget()) {
             if (single_moves(current))
                 continue;
-            if (!tab_width_move(current) && !coupled_move(current) && !mending_move(current))
+            if (!coupled_move(current) && !mending_move(current) && !tab_width_move(current))
                 return;
         }
     }

@@ -152,7 +152,7 @@ private slots:
         // Read as a continuation of 8 in tabs of 4, then as 8 in tabs of 8 (macros, a ternary and a
         // multiline string lost): the way back to tabs of 4 puts "long call assignment" off unless
         // breaking after `=` costs more too, a pair the tab width's move makes with the groups of the
-        // forms it puts off; and it is tried before the other pairs, which spent the bound first.
+        // forms it puts off, after a descent that the former bound left no room for.
         QTest::newRow("C WebKit, tabs of 4 aligned with blanks, breaking after = costs more, limit 100")
             << "C" << "{BasedOnStyle: WebKit, AlignAfterOpenBracket: Align, AlignConsecutiveAssignments: {Enabled: "
                       "true}, AlignEscapedNewlines: LeftWithLastLine, AlwaysBreakBeforeMultilineStrings: true, "
