@@ -411,17 +411,36 @@ private:
                     widths.push_back(trial);
                 }
         }
+        // A width that brings as many forms closer as it puts off (or more) pairs, as a mending move
+        // does, with the groups that the forms it puts off name: tabs of 4 that bring a multiline
+        // string back put long constructor initializers off until their indent moves too (8 in tabs
+        // of 8 to 4), and tabs of 4 that bring macros back put a long call off until breaking after
+        // `=` costs more.
+        std::vector<std::set<std::string>> mending(widths.size());
+        for (std::size_t w = 0; w < widths.size() && within_budget(); ++w) {
+            scored_style const moved = scored(widths[w]);
+            std::size_t closer = 0;
+            std::size_t further = 0;
+            for (std::size_t i = 0; i < forms.size(); ++i) {
+                closer += moved.distances[i] < current.distances[i] ? 1 : 0;
+                further += moved.distances[i] > current.distances[i] ? 1 : 0;
+            }
+            for (std::size_t j = 0; j < forms.size() && further <= closer; ++j)
+                if (moved.distances[j] > current.distances[j])
+                    mending[w].insert(forms[j].decides.begin(), forms[j].decides.end());
+        }
         std::vector<clang::format::FormatStyle> trials = widths;
         for (std::size_t group = 0; group < groups.size(); ++group) {
             std::string const& name = groups[group].name;
             bool const named = std::any_of(forms.begin(), forms.end(), [&](form_case const& form) {
                 return current.distances[&form - forms.data()] > 0 && among(form.decides, name);
             });
-            if (!named && name != "UseTab" && name != "ContinuationIndentWidth" && name != "BraceWrapping.IndentBraces")
-                continue;
-            for (clang::format::FormatStyle const& width : widths)
-                for (clang::format::FormatStyle& both : moves_of(group, width))
-                    trials.push_back(std::move(both));
+            bool const with_every_width =
+                named || name == "UseTab" || name == "ContinuationIndentWidth" || name == "BraceWrapping.IndentBraces";
+            for (std::size_t w = 0; w < widths.size(); ++w)
+                if (with_every_width || mending[w].count(name) > 0)
+                    for (clang::format::FormatStyle& both : moves_of(group, widths[w]))
+                        trials.push_back(std::move(both));
         }
         if (take_best_of(trials, forms, current.total, current))
             return true;

@@ -50,9 +50,11 @@ public:
 
 private:
     lexed_as language;
-    // Twice what single and coupled moves alone needed: the moves that mend a form with two groups,
-    // and those of the tab width, are tried where the others stall, after the first starts.
-    long formatting_budget = 60000;
+    // Twice what single and coupled moves alone needed, and a third more: the moves that mend a form
+    // with two groups, and those of the tab width, are tried where the others stall, after the first
+    // starts; a tab width read wrong costs a descent two of them (one to the wrong width, one back
+    // with the group that the width puts off).
+    long formatting_budget = 80000;
     going_on_check going_on;
     distance_measure measure;
 };

@@ -149,6 +149,21 @@ private slots:
                       "ContinuationIndentWidth: 8, IndentWidth: 8, PointerAlignment: Middle, "
                       "SpaceBeforeAssignmentOperators: false, SpaceAfterCStyleCast: true, SpaceAfterLogicalNot: true, "
                       "SpacesInSquareBrackets: true, UseTab: ForContinuationAndIndentation}";
+        // Read as a continuation of 8 in tabs of 4, then as 8 in tabs of 8 (macros, a ternary and a
+        // multiline string lost): the way back to tabs of 4 puts "long call assignment" off unless
+        // breaking after `=` costs more too, a pair the tab width's move makes with the groups of the
+        // forms it puts off, after a descent that the former bound left no room for.
+        QTest::newRow("C WebKit, tabs of 4 aligned with blanks, breaking after = costs more, limit 100")
+            << "C" << "{BasedOnStyle: WebKit, AlignAfterOpenBracket: Align, AlignConsecutiveAssignments: {Enabled: "
+                      "true}, AlignEscapedNewlines: LeftWithLastLine, AlwaysBreakBeforeMultilineStrings: true, "
+                      "BreakBeforeBinaryOperators: None, ColumnLimit: 100, PenaltyBreakAssignment: 100, TabWidth: 4, "
+                      "UseTab: AlignWithSpaces}";
+        // Read as 8 in tabs of 8 ("multiline string" lost): tabs of 4 bring the string back but put
+        // "long constructor initializers" off until their indent, 8 in tabs of 8, moves to 4 with them.
+        QTest::newRow("C++ Microsoft, tabs of 4 aligned with blanks, continuation 2, access labels indented")
+            << "C++" << "{BasedOnStyle: Microsoft, AlignConsecutiveMacros: {Enabled: true}, AlignEscapedNewlines: "
+                        "DontAlign, AlignTrailingComments: {Kind: Never}, AllowShortFunctionsOnASingleLine: All, "
+                        "ContinuationIndentWidth: 2, IndentAccessModifiers: true, UseTab: AlignWithSpaces}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
