@@ -27,9 +27,10 @@ struct form_readings {
     // Values the forms make unlikely (no column limit, where a long call breaks inside its
     // statement), moved to only by a last descent when nothing else gives every form back.
     std::vector<std::string> ruled_out;
-    // What no fixed point tells apart, taken as read: the macros used as loops (names the engine
-    // is told), and how many blank lines are kept (the engine keeps blank lines and never adds
-    // one). Every style the search tries, and the one it ends on, holds them.
+    // Taken as read: what no fixed point tells apart (the macros used as loops, names the engine
+    // is told; how many blank lines are kept, as the engine keeps blank lines and never adds one),
+    // and rules the search has no move for (the blanks around a pointer's qualifier). Every style
+    // the search tries, and the one it ends on, holds them.
     std::vector<std::string> passed;
     // What the forms show that some predefined style's forms do not tell apart from another value
     // (a leaning derived from the code, where the forms all lean one way): a predefined style is
