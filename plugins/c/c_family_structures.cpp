@@ -253,6 +253,11 @@ tarnel_engine::structure_catalogue c_family_structures() {
          {"IndentCaseLabels", "IndentCaseBlocks", "BraceWrapping.AfterCaseLabel", "AllowShortCaseLabelsOnASingleLine",
           "SpaceBeforeCaseColon", "BraceWrapping.AfterControlStatement"}},
         {"ternary", "name = SOME ? SOME : SOME;", "A conditional expression that fits on its line.", {}},
+        {"trailing comment continued", "type name_long_part; // SOME\n                     // SOME",
+         "A trailing comment continued on a line of its own, which the engine lines up under the first: whether tabs "
+         "fill the way there (tabs for continuation, tabs with blanks only for alignment, tabs everywhere) or blanks "
+         "(tabs for indentation alone, or none).",
+         {"UseTab", "AlignTrailingComments"}},
         {"trailing comments", "type name; // SOME\n\ntype name_long_part; // SOME",
          "Trailing comments with a blank line between them: whether they still line up.",
          {"AlignTrailingComments", "AlignTrailingComments.OverEmptyLines", "SpacesBeforeTrailingComments"}},

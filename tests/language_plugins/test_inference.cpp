@@ -512,6 +512,17 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, ColumnLimit: 79, AlignAfterOpenBracket: AlwaysBreak, BinPackArguments: false, "
                       "AllowAllArgumentsOnNextLine: false}"
             << QStringList{"AllowAllArgumentsOnNextLine: false"};
+        // Tabs and blanks for alignment: no line of the other forms goes on past a tab stop beyond
+        // its block's indentation without lining up, but a trailing comment continued under itself
+        // does (read as tabs for indentation only).
+        QTest::newRow("tabs of 8 and blanks for alignment, indent 2, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 2, TabWidth: 8, UseTab: AlignWithSpaces, ColumnLimit: 0, "
+                      "AlignAfterOpenBracket: AlwaysBreak, ContinuationIndentWidth: 2}"
+            << QStringList{"UseTab: AlignWithSpaces"};
+        QTest::newRow("tabs of 8 and blanks for alignment, indent 4, C++")
+            << "C++" << "{BasedOnStyle: Google, IndentWidth: 4, TabWidth: 8, UseTab: AlignWithSpaces, "
+                        "ContinuationIndentWidth: 2, ColumnLimit: 100}"
+            << QStringList{"UseTab: AlignWithSpaces"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
