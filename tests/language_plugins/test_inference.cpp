@@ -523,6 +523,13 @@ private slots:
             << "C++" << "{BasedOnStyle: Google, IndentWidth: 4, TabWidth: 8, UseTab: AlignWithSpaces, "
                         "ContinuationIndentWidth: 2, ColumnLimit: 100}"
             << QStringList{"UseTab: AlignWithSpaces"};
+        // A condition lined up past a tab stop beyond its block's indentation, which blanks fill
+        // (read as tabs for continuation: the long forms' lines line up at the top level, and the
+        // continued comment has a tab under either).
+        QTest::newRow("tabs of 8 and blanks for alignment, indent 3, arguments after a break")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 3, TabWidth: 8, UseTab: AlignWithSpaces, ColumnLimit: 100, "
+                      "ContinuationIndentWidth: 4, AlignAfterOpenBracket: AlwaysBreak, AlignOperands: DontAlign}"
+            << QStringList{"UseTab: AlignWithSpaces"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
