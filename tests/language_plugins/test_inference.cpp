@@ -530,6 +530,12 @@ private slots:
             << "C" << "{BasedOnStyle: LLVM, IndentWidth: 3, TabWidth: 8, UseTab: AlignWithSpaces, ColumnLimit: 100, "
                       "ContinuationIndentWidth: 4, AlignAfterOpenBracket: AlwaysBreak, AlignOperands: DontAlign}"
             << QStringList{"UseTab: AlignWithSpaces"};
+        // Two tabs a step read alike as tabs of 4 under an indent of 8 and tabs of 8 under 16: the
+        // continued comment, lined up under the trailing one with tabs, shows the width (read as 8,
+        // the search ended on comments left where they stand, 2 blanks away, and one form lost).
+        QTest::newRow("tabs of 4 and blanks for alignment, indent 8")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 4, UseTab: AlignWithSpaces}"
+            << QStringList{"IndentWidth: 8", "TabWidth: 4", "UseTab: AlignWithSpaces", "SpacesBeforeTrailingComments: 1"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
