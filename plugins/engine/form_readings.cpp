@@ -344,6 +344,14 @@ std::string continuation_indent_read_from(std::vector<form_case> const& forms) {
     return read.width ? "{ContinuationIndentWidth: " + std::to_string(read.width) + "}" : std::string();
 }
 
+// A trailing comment continued on a line of its own at the top level: the engine takes the way
+// to it for no alignment, so a tab there is a tab used beyond the indentation.
+bool continued_comment_with_tab(forms_by_name const& forms) {
+    std::string const* code = forms.find("trailing comment continued");
+    std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
+    return lines.size() == 2 && tabs_in_indent_of(lines[1]) > 0;
+}
+
 // The most common step after a line that ends with an opening brace, and tabs if any line starts
 // with one (for continuation too where a continued call starts with one). Read together, because
 // those options only work together.
@@ -384,8 +392,9 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
         if (brace_step > 0 && brace_step < most_common->first)
             width = std::to_string(brace_step);
     }
-    char const* const use = continuation_read_from(named, tab_width).with_tab ? "ForContinuationAndIndentation"
-                                                                              : "ForIndentation";
+    char const* const use = continuation_read_from(named, tab_width).with_tab || continued_comment_with_tab(named)
+                                ? "ForContinuationAndIndentation"
+                                : "ForIndentation";
     return tabs ? "{IndentWidth: " + width + ", TabWidth: " + std::to_string(tab_width) + ", UseTab: " + use + "}"
                 : "{IndentWidth: " + width + ", UseTab: Never}";
 }
