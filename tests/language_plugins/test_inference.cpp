@@ -623,6 +623,7 @@ private slots:
              {"label in a block", "type name(void) {", "type name(void)\n{"},
              {"long call in a function", "type name(void) {", "type name(void)\n{"},
              {"long call through members", "type name(void) {", "type name(void)\n{"},
+             {"long loop condition", "type name(void) {", "type name(void)\n{"},
              {"long constructor initializers", "name(SOME_LONG) {", "name(SOME_LONG)\n{"},
              {"long constructor initializers", "name(SOME) {", "name(SOME)\n{"}},
             {{"attribute macro", "type *name", "type* name"},
