@@ -214,6 +214,14 @@ tarnel_engine::structure_catalogue c_family_structures() {
          "How the parameters of a declaration too long for one line are laid out.",
          {"AlignAfterOpenBracket", "BinPackParameters", "AllowAllParametersOfDeclarationOnNextLine", "ColumnLimit",
           "ContinuationIndentWidth", "IndentWrappedFunctionNames", "BreakAfterReturnType"}},
+        {"long loop condition",
+         "type name(void) {\n  while (SOME_LONG && SOME_LONG || SOME_LONG && SOME_LONG ||\n         SOME_LONG) {\n"
+         "    SOME;\n  }\n}",
+         "A loop in a function whose condition is too long for one line: its later lines line up after `while (`, "
+         "past a tab stop beyond the loop's own indentation, and whether tabs fill the way there (tabs for "
+         "continuation, tabs everywhere) or blanks after the loop's indentation (tabs with blanks for alignment, "
+         "tabs for indentation alone).",
+         {"UseTab", "BreakBeforeBinaryOperators", "AlignOperands", "ColumnLimit", "BraceWrapping.AfterControlStatement"}},
         {"long return type", "static struct SOME_LONG SOME_LONG(type SOME_LONG, type SOME_LONG);",
          "A declaration whose return type and name leave no room for its parameters: the return type on a line of its "
          "own, or the parameters broken.",
@@ -288,6 +296,11 @@ tarnel_engine::structure_catalogue c_family_structures() {
          {"IndentCaseLabels", "IndentCaseBlocks", "BraceWrapping.AfterCaseLabel", "AllowShortCaseLabelsOnASingleLine",
           "SpaceBeforeCaseColon", "BraceWrapping.AfterControlStatement"}},
         {"ternary", "name = SOME ? SOME : SOME;", "A conditional expression that fits on its line.", {}},
+        {"trailing comment continued", "int name_long_part; // SOME\n                    // SOME",
+         "A trailing comment continued on a line of its own, which the engine lines up under the first: whether tabs "
+         "fill the way there (tabs for continuation, tabs with blanks only for alignment, tabs everywhere) or blanks "
+         "(tabs for indentation alone, or none).",
+         {"UseTab", "AlignTrailingComments"}},
         {"trailing comments", "type name; // SOME\n\ntype name_long_part; // SOME",
          "Trailing comments with a blank line between them: whether they still line up.",
          {"AlignTrailingComments", "AlignTrailingComments.OverEmptyLines", "SpacesBeforeTrailingComments"}},

@@ -152,8 +152,35 @@ int column_after_open_parenthesis(std::string const& line, int tab_width) {
     return open.empty() ? -1 : open.back();
 }
 
+// The column of what follows the last brace the line leaves open, where something does (an
+// enumeration or a list of values whose next line lines up under its first item), or -1: a brace
+// that ends its line (before a comment, or a macro's backslash) opens a block, whose lines stand an
+// indent step in, not lined up.
+int column_after_open_brace(std::string const& line, int tab_width) {
+    std::vector<std::size_t> open;
+    for (std::size_t i = 0; i < line.size(); ++i)
+        if (line[i] == '{')
+            open.push_back(i);
+        else if (line[i] == '}' && !open.empty())
+            open.pop_back();
+    if (open.empty())
+        return -1;
+    std::size_t const item = line.find_first_not_of(" \t", open.back() + 1);
+    return item == std::string::npos || line[item] == '/' || line[item] == '\\' ? -1
+                                                                                : columns_of(line.substr(0, item), tab_width);
+}
+
+// The column of the line's trailing comment (a comment after code), or -1.
+int column_of_trailing_comment(std::string const& line, int tab_width) {
+    std::size_t const comment = line.find("//");
+    if (comment == std::string::npos || trimmed(line.substr(0, comment)).empty())
+        return -1;
+    return columns_of(line.substr(0, comment), tab_width);
+}
+
 // How well a tab width fits the code: lines indented with tabs that stand under the parenthesis the
-// line above leaves open count for it; steps after an opening brace other than the most common one
+// line above leaves open, under the first item after a brace it leaves open, or (a comment on a
+// line of its own) under its trailing comment, count for it; steps after an opening brace other than the most common one
 // (a tab-indented line under a blank-indented one one step out) count against it.
 struct tab_width_fit {
     long score = 0;
@@ -173,7 +200,10 @@ tab_width_fit fit_of(int tab_width, std::vector<std::string> const& codes) {
                 ++steps[indentation_columns_of(line, tab_width) - indentation_columns_of(previous, tab_width)];
                 ++all_steps;
             } else if (indented_with_tab(line) && !previous.empty() &&
-                       indentation_columns_of(line, tab_width) == column_after_open_parenthesis(previous, tab_width)) {
+                       (indentation_columns_of(line, tab_width) == column_after_open_parenthesis(previous, tab_width) ||
+                        indentation_columns_of(line, tab_width) == column_after_open_brace(previous, tab_width) ||
+                        (starts_with(trimmed(line), "//") &&
+                         indentation_columns_of(line, tab_width) == column_of_trailing_comment(previous, tab_width)))) {
                 ++fit.score;
             }
             previous = line;
@@ -314,6 +344,14 @@ std::string continuation_indent_read_from(std::vector<form_case> const& forms) {
     return read.width ? "{ContinuationIndentWidth: " + std::to_string(read.width) + "}" : std::string();
 }
 
+// A trailing comment continued on a line of its own at the top level: the engine takes the way
+// to it for no alignment, so a tab there is a tab used beyond the indentation.
+bool continued_comment_with_tab(forms_by_name const& forms) {
+    std::string const* code = forms.find("trailing comment continued");
+    std::vector<std::string> const lines = code ? lines_of(*code) : std::vector<std::string>();
+    return lines.size() == 2 && tabs_in_indent_of(lines[1]) > 0;
+}
+
 // The most common step after a line that ends with an opening brace, and tabs if any line starts
 // with one (for continuation too where a continued call starts with one). Read together, because
 // those options only work together.
@@ -354,8 +392,9 @@ std::string indentation_read_from(std::vector<form_case> const& forms) {
         if (brace_step > 0 && brace_step < most_common->first)
             width = std::to_string(brace_step);
     }
-    char const* const use = continuation_read_from(named, tab_width).with_tab ? "ForContinuationAndIndentation"
-                                                                              : "ForIndentation";
+    char const* const use = continuation_read_from(named, tab_width).with_tab || continued_comment_with_tab(named)
+                                ? "ForContinuationAndIndentation"
+                                : "ForIndentation";
     return tabs ? "{IndentWidth: " + width + ", TabWidth: " + std::to_string(tab_width) + ", UseTab: " + use + "}"
                 : "{IndentWidth: " + width + ", UseTab: Never}";
 }

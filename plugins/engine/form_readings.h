@@ -46,7 +46,8 @@ struct form_readings {
 form_readings readings_of(std::vector<form_case> const& forms);
 
 // The width of a tab, read where tabs and blanks must line up: a line indented with tabs under
-// the parenthesis the line above leaves open, and the steps after an opening brace (a tab-indented
+// the parenthesis the line above leaves open, under the first item after a brace it leaves open or
+// under its trailing comment, and the steps after an opening brace (a tab-indented
 // line one step in from a blank-indented one). 8 when nothing shows another width: code indented
 // with tabs alone does not show it, and the indent step never decides it.
 int tab_width_read_from(std::vector<std::string> const& codes);

@@ -622,6 +622,30 @@ private slots:
         // where it would stand a step in; in a nested class it shows how far (read as 0).
         QTest::newRow("access specifiers 3 back, indent width 2")
             << "C++" << "{BasedOnStyle: LLVM, AccessModifierOffset: -3}" << QStringList{"AccessModifierOffset: -3"};
+        // Tabs and blanks for alignment: no line of the other forms goes on past a tab stop beyond
+        // its block's indentation without lining up, but a trailing comment continued under itself
+        // does (read as tabs for indentation only).
+        QTest::newRow("tabs of 8 and blanks for alignment, indent 2, no column limit")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 2, TabWidth: 8, UseTab: AlignWithSpaces, ColumnLimit: 0, "
+                      "AlignAfterOpenBracket: AlwaysBreak, ContinuationIndentWidth: 2}"
+            << QStringList{"UseTab: AlignWithSpaces"};
+        QTest::newRow("tabs of 8 and blanks for alignment, indent 4, C++")
+            << "C++" << "{BasedOnStyle: Google, IndentWidth: 4, TabWidth: 8, UseTab: AlignWithSpaces, "
+                        "ContinuationIndentWidth: 2, ColumnLimit: 100}"
+            << QStringList{"UseTab: AlignWithSpaces"};
+        // A condition lined up past a tab stop beyond its block's indentation, which blanks fill
+        // (read as tabs for continuation: the long forms' lines line up at the top level, and the
+        // continued comment has a tab under either).
+        QTest::newRow("tabs of 8 and blanks for alignment, indent 3, arguments after a break")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 3, TabWidth: 8, UseTab: AlignWithSpaces, ColumnLimit: 100, "
+                      "ContinuationIndentWidth: 4, AlignAfterOpenBracket: AlwaysBreak, AlignOperands: DontAlign}"
+            << QStringList{"UseTab: AlignWithSpaces"};
+        // Two tabs a step read alike as tabs of 4 under an indent of 8 and tabs of 8 under 16: the
+        // continued comment, lined up under the trailing one with tabs, shows the width (read as 8,
+        // the search ended on comments left where they stand, 2 blanks away, and one form lost).
+        QTest::newRow("tabs of 4 and blanks for alignment, indent 8")
+            << "C" << "{BasedOnStyle: LLVM, IndentWidth: 8, TabWidth: 4, UseTab: AlignWithSpaces}"
+            << QStringList{"IndentWidth: 8", "TabWidth: 4", "UseTab: AlignWithSpaces", "SpacesBeforeTrailingComments: 1"};
     }
     void break_and_tab_options_come_back() {
         QFETCH(QString, language);
@@ -663,7 +687,7 @@ private slots:
               "long assignments in a function", "long conditional chain", "long calls in a loop",
               "long template function", "pointer qualifiers", "long call with a string in parts",
               "destructors", "kept line breaks in arguments", "kept line breaks in constructor initializers",
-              "logical not", "nested class"}) {
+              "logical not", "nested class", "trailing comment continued", "long loop condition"}) {
             std::size_t const begin = older.find(std::string("\nS_NAME=") + structure + "\n");
             if (begin == std::string::npos)
                 continue;
@@ -713,6 +737,7 @@ private slots:
              {"label in a block", "type name(void) {", "type name(void)\n{"},
              {"long call in a function", "type name(void) {", "type name(void)\n{"},
              {"long call through members", "type name(void) {", "type name(void)\n{"},
+             {"long loop condition", "type name(void) {", "type name(void)\n{"},
              {"long constructor initializers", "name(SOME_LONG) {", "name(SOME_LONG)\n{"},
              {"long constructor initializers", "name(SOME) {", "name(SOME)\n{"},
              {"long assignments in a function", "type name(void) {", "type name(void)\n{"},

@@ -587,8 +587,9 @@ private slots:
     }
 
     // The width of a tab comes from where tabs and blanks line up, never from the indent step:
-    // tabs alone show no width (8), continuation lines under an open parenthesis and a tab-indented
-    // line one step in from a blank-indented one do.
+    // tabs alone show no width (8), continuation lines under an open parenthesis or the first item
+    // after an open brace, comments under a trailing comment, and a tab-indented line one step in
+    // from a blank-indented one do.
     void reads_the_width_of_tabs_data() {
         QTest::addColumn<QString>("code");
         QTest::addColumn<int>("width");
@@ -602,6 +603,11 @@ private slots:
             << "int f(void) {\n    if (a) {\n\tb();\n\tif (c) {\n\t    d();\n\t}\n    }\n}\n" << 8;
         QTest::newRow("indent 2, tabs of 4 at the second level")
             << "int f(void) {\n  if (a) {\n\tb();\n\tif (c) {\n\t  d();\n\t}\n  }\n}\n" << 4;
+        // Steps of two tabs read alike under any width: the enumerator under the first one shows it.
+        QTest::newRow("enumerators lined up after { with tabs of 4 and blanks, two tabs a step")
+            << "int f(void)\n{\n\t\tenum e { one,\n\t\t\t\t two };\n}\n" << 4;
+        QTest::newRow("a comment lined up under a trailing comment with tabs of 4 and blanks, two tabs a step")
+            << "int f(void)\n{\n\t\tint name; // one\n\t\t\t\t  // two\n}\n" << 4;
     }
     void reads_the_width_of_tabs() {
         QFETCH(QString, code);
