@@ -427,7 +427,7 @@ void test_ci_and_editors::a_damaged_inference_cache_entry_is_inferred_again() {
                                   return c == '\n' && ++n == 100;
                               }))) + 1);
     else if (damage == "an option changed")
-        damaged = QByteArray(whole).replace("BreakBeforeBraces: GNU", "BreakBeforeBraces: Attach");
+        damaged = QByteArray(whole).replace("\nIndentWidth:     2\n", "\nIndentWidth:     8\n");
     QVERIFY(damaged != whole);
     QFile file(entry);
     QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
