@@ -541,11 +541,12 @@ std::string trailing_comment_blanks_read_from(std::vector<std::string> const& pi
 }
 
 // Under no limit the engine keeps the author's line breaks, and joins what the options let it join
-// only where the author wrote it on one line: arguments packed keep a call broken by hand as it is
-// (one a line splits every argument of it), and ifs (with or without an else), case labels and
-// functions joined with their statements are kept as written wherever the code shows a few. So
-// these values leave at least as many lines as any other under no limit; a sample may show none
-// of them, and the search then keeps whichever value it started from.
+// only where the author wrote it on one line: arguments and parameters packed keep a call or a
+// declaration broken by hand as it is (one a line splits every argument or parameter of it), and
+// ifs (with or without an else), case labels and functions joined with their statements are kept
+// as written wherever the code shows a few. So these values leave at least as many lines as any
+// other under no limit; a sample may show none of them, and the search then keeps whichever value
+// it started from.
 std::vector<std::string> rules_kept_under_no_limit(std::vector<std::string> const& sources) {
     long ifs_joined = 0;
     long cases_joined = 0;
@@ -581,7 +582,7 @@ std::vector<std::string> rules_kept_under_no_limit(std::vector<std::string> cons
                                 text.find("::") == std::string::npos;
             }
         }
-    std::vector<std::string> rules = {"{BinPackArguments: true}"};
+    std::vector<std::string> rules = {"{BinPackArguments: true, BinPackParameters: true}"};
     if (ifs_joined >= 3)
         rules.push_back("{AllowShortIfStatementsOnASingleLine: AllIfsAndElse}");
     if (cases_joined >= 3)

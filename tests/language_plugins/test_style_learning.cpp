@@ -449,10 +449,11 @@ private slots:
 
     // Code with lines longer than any limit (the author's breaks kept): in the files the sample
     // leaves out (every other one of 70), ifs with an else, case labels and functions joined with
-    // their statements, and calls broken by hand with their arguments packed; the files the sample
-    // takes show none of them. The style must leave every line as it is. Fault caught: under no
-    // limit, the values the search kept from a sample that cannot tell (ifs, case labels and
-    // functions on lines of their own), which split what the author joined.
+    // their statements, and calls and declarations broken by hand with their arguments and
+    // parameters packed; the files the sample takes show none of them. The style must leave every
+    // line as it is. Fault caught: under no limit, the values the search kept from a sample that
+    // cannot tell (ifs, case labels and functions on lines of their own, parameters one a line),
+    // which split what the author joined.
     void keeps_what_the_author_joined_under_no_limit() {
         std::vector<std::string> const project = functions_in(70, 12, [](int file, std::string const& n) {
             std::string text = "int step_" + n + "(int x) {\n  int y = x + " + n + ";\n  if (y > 3) {\n    y = 3;\n  }\n"
@@ -462,7 +463,8 @@ private slots:
                         "int choose_" + n + "(int x) {\n  switch (x) {\n    case 1: return 2;\n"
                         "    default: return 0;\n  }\n}\n\n"
                         "int call_" + n + "(int x) {\n  return compute(x, 1,\n                 2, 3);\n}\n\n"
-                        "int size_" + n + "(int x) { return x + 1; }\n\n";
+                        "int size_" + n + "(int x) { return x + 1; }\n\n"
+                        "int scale_" + n + "(int value, int factor,\n" + std::string(11 + n.size(), ' ') + "int offset);\n\n";
             return text;
         });
         loaded_plugin plugin(c_plugin_file());
