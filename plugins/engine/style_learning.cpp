@@ -508,6 +508,61 @@ std::string case_labels_read_from(std::vector<std::string> const& pieces, int ta
     return way < 0 ? std::string() : way ? "{IndentCaseLabels: true}" : "{IndentCaseLabels: false}";
 }
 
+// How much further in than a constructor's head its initializer list goes: the line that begins
+// with the list's `:` under a head that ends with `)`, or the line after a head that ends with
+// `) :`, measured from the line where the head's parentheses open (a head may take several
+// lines). A ternary's `:` stands under a line with its `?`, and an inheritance list's under a
+// class's name. Files count, each by the step most of its lists take (one file may write a few
+// lists its own way; a file split between two steps says nothing), where one step clearly
+// outnumbers the others.
+std::string constructor_initializers_read_from(std::vector<std::string> const& pieces, int tab_width) {
+    std::map<long, long> files;
+    for (std::string const& piece : pieces) {
+        std::vector<std::string> const lines = lines_of(piece);
+        std::map<long, long> steps;
+        for (std::size_t i = 1; i < lines.size(); ++i) {
+            std::string const text = trimmed(lines[i]);
+            std::string const before = trimmed(lines[i - 1]);
+            if (text.empty() || comment_or_directive(text) || before.find('?') != std::string::npos)
+                continue;
+            bool const colon_first = text[0] == ':' && (text.size() == 1 || text[1] != ':');
+            std::string const head = ends_with(before, ":") ? trimmed(before.substr(0, before.size() - 1)) : before;
+            bool const colon_last = head != before && !ends_with(head, ":") && ends_with(head, ")");
+            if (!(colon_first && ends_with(before, ")")) && !colon_last)
+                continue;
+            // The line where the head's parentheses open.
+            long open = 0;
+            std::size_t at = i;
+            while (at-- > 0) {
+                open += static_cast<long>(std::count(lines[at].begin(), lines[at].end(), ')')) -
+                        static_cast<long>(std::count(lines[at].begin(), lines[at].end(), '('));
+                if (open <= 0)
+                    break;
+            }
+            if (open != 0 || at >= i)
+                continue;
+            std::size_t const here = indentation_of(lines[at], tab_width);
+            std::size_t const there = indentation_of(lines[i], tab_width);
+            if (there > here)
+                ++steps[static_cast<long>(there - here)];
+        }
+        long most = 0;
+        long most_step = 0;
+        bool tied = false;
+        for (auto const& [step, times] : steps) {
+            tied = times == most || (tied && times < most);
+            if (times > most) {
+                most = times;
+                most_step = step;
+            }
+        }
+        if (most > 0 && !tied)
+            ++files[most_step];
+    }
+    long const step = clear_majority_of(files, 3);
+    return step > 0 ? "{ConstructorInitializerIndentWidth: " + std::to_string(step) + "}" : std::string();
+}
+
 // The blanks between code and a `//` comment that ends its line, where one count clearly outnumbers
 // the others: a run of such lines counts once, by its fewest blanks (the others may line their
 // comments up with the longest line's).
@@ -817,6 +872,7 @@ std::vector<std::string> rules_read_from_every_source(std::vector<std::string> c
           trailing_comment_blanks_read_from(sources), escaped_newlines_read_from(sources, tab_columns),
           braced_lists_read_from(sources), loop_macro_parentheses_read_from(sources),
           blank_lines_read_from(sources), goto_labels_read_from(sources),
+          constructor_initializers_read_from(sources, tab_columns),
           tab_width ? continuation_tabs_read_from(sources, tab_columns) : std::string()})
         if (!reading.empty())
             rules.push_back(reading);

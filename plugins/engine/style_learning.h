@@ -47,7 +47,7 @@ private:
 // the step of a continued line, case labels, blanks before trailing comments, backslashes that
 // continue a macro one blank after its code, blanks inside braced lists, loop macros close to their
 // parentheses where keywords are not, the most blank lines in a row kept, labels of nested blocks
-// first on their line or not, and, in code indented
+// first on their line or not, the step of a constructor's initializer list, and, in code indented
 // with tabs `tab_width` wide (0: blanks), whether continued lines take tabs beyond their
 // statement's.
 std::vector<std::string> rules_read_from_every_source(std::vector<std::string> const& sources, int tab_width);

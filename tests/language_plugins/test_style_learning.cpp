@@ -523,7 +523,7 @@ private slots:
     // inside, not without; loop macros close to their parentheses where keywords are not; the most
     // blank lines in a row kept; labels of nested blocks first on their line;
     // continued lines with tabs beyond their statement's or blanks after them, and nothing of tabs
-    // in code indented with blanks.
+    // in code indented with blanks; the step of a constructor's initializer list.
     void reads_rules_from_every_source_data() {
         QTest::addColumn<QString>("code");
         QTest::addColumn<int>("tab_width");
@@ -574,6 +574,23 @@ private slots:
         QTest::newRow("code indented with blanks says nothing of tabs")
             << "int f(void)\n{\n    result = check_state(dev, flags,\n                         other);\n}\n" << 0
             << "UseTab" << "";
+        // Fault caught: the step of an initializer list left to a sample that may show none.
+        QTest::newRow("initializer lists four further in than their constructor")
+            << "Plan::Plan(Builder* builder)\n    : builder_(builder) {}\nclass Pool {\n  Pool(int depth)\n"
+               "      : depth_(depth) {}\n};\n"
+            << 0 << "ConstructorInitializerIndentWidth" << "{ConstructorInitializerIndentWidth: 4}";
+        // Fault caught: the step measured from the line above rather than from the head's first line.
+        QTest::newRow("a constructor's head over two lines: the step from its first line")
+            << "Parser::Parser(State* state,\n               Reader* reader)\n  : state_(state), reader_(reader) {}\n"
+            << 0 << "ConstructorInitializerIndentWidth" << "{ConstructorInitializerIndentWidth: 2}";
+        // Fault caught: a list after a head that ends with its colon not read.
+        QTest::newRow("the colon at the end of the head: the step of the next line")
+            << "Plan::Plan(Builder* builder) :\n        builder_(builder) {}\n" << 0
+            << "ConstructorInitializerIndentWidth" << "{ConstructorInitializerIndentWidth: 8}";
+        // Fault caught: a ternary's colon taken for an initializer list's.
+        QTest::newRow("a ternary's colon is no initializer list")
+            << "int f() {\n  return ready(a) ? first(b)\n         : second(c);\n}\n" << 0
+            << "ConstructorInitializerIndentWidth" << "";
     }
     void reads_rules_from_every_source() {
         QFETCH(QString, code);
