@@ -511,8 +511,8 @@ std::string case_labels_read_from(std::vector<std::string> const& pieces, int ta
 // How much further in than a constructor's head its initializer list goes: the line that begins
 // with the list's `:` under a head that ends with `)`, or the line after a head that ends with
 // `) :`, measured from the line where the head's parentheses open (a head may take several
-// lines). A ternary's `:` stands under a line with its `?`, and an inheritance list's under a
-// class's name. Files count, each by the step most of its lists take (one file may write a few
+// lines). A ternary's `:` stands under a line with its `?`, an inheritance list's under a
+// class's name, and a case label's `KIND(x):` ends a label, not a head. Files count, each by the step most of its lists take (one file may write a few
 // lists its own way; a file split between two steps says nothing), where one step clearly
 // outnumbers the others.
 std::string constructor_initializers_read_from(std::vector<std::string> const& pieces, int tab_width) {
@@ -523,7 +523,8 @@ std::string constructor_initializers_read_from(std::vector<std::string> const& p
         for (std::size_t i = 1; i < lines.size(); ++i) {
             std::string const text = trimmed(lines[i]);
             std::string const before = trimmed(lines[i - 1]);
-            if (text.empty() || comment_or_directive(text) || before.find('?') != std::string::npos)
+            if (text.empty() || comment_or_directive(text) || before.find('?') != std::string::npos ||
+                starts_with(before, "case "))
                 continue;
             bool const colon_first = text[0] == ':' && (text.size() == 1 || text[1] != ':');
             std::string const head = ends_with(before, ":") ? trimmed(before.substr(0, before.size() - 1)) : before;

@@ -591,6 +591,10 @@ private slots:
         QTest::newRow("a ternary's colon is no initializer list")
             << "int f() {\n  return ready(a) ? first(b)\n         : second(c);\n}\n" << 0
             << "ConstructorInitializerIndentWidth" << "";
+        // Fault caught: a case label made by a macro taken for a constructor's head.
+        QTest::newRow("a case label with parentheses is no constructor")
+            << "void f(int k) {\n  switch (k) {\n  case KIND(a):\n        run();\n  }\n}\n" << 0
+            << "ConstructorInitializerIndentWidth" << "";
     }
     void reads_rules_from_every_source() {
         QFETCH(QString, code);
