@@ -189,27 +189,33 @@ private:
         return taken;
     }
 
+    // The forms that judge a move are not all those it reaches (a pair that packs arguments may put a
+    // form off that names neither group): where the best one there puts the whole further, the others
+    // as good there are scored on the whole too, in turn.
     bool take_best_of(std::vector<clang::format::FormatStyle> const& trials, std::vector<form_case> const& judged,
                       unsigned long judged_distance, scored_style& current) {
-        clang::format::FormatStyle const* best = nullptr;
+        std::vector<std::size_t> best;
         unsigned long best_distance = judged_distance;
-        for (clang::format::FormatStyle const& trial : trials) {
+        for (std::size_t t = 0; t < trials.size(); ++t) {
             if (!within_budget())
                 break;
             formatted += static_cast<long>(judged.size());
-            unsigned long const distance = total_of(distances_of(judged, trial, measure));
-            if (distance < best_distance) {
-                best = &trial;
+            unsigned long const distance = total_of(distances_of(judged, trials[t], measure));
+            if (distance < best_distance)
+                best.clear();
+            if (distance <= best_distance && distance < judged_distance) {
+                best.push_back(t);
                 best_distance = distance;
             }
         }
-        if (!best)
-            return false;
-        scored_style moved = scored(*best);
-        if (moved.total >= current.total)
-            return false;
-        current = std::move(moved);
-        return true;
+        for (std::size_t b = 0; b < best.size() && (b == 0 || within_budget()); ++b) {
+            scored_style moved = scored(trials[best[b]]);
+            if (moved.total >= current.total)
+                continue;
+            current = std::move(moved);
+            return true;
+        }
+        return false;
     }
 
     std::vector<clang::format::FormatStyle> moves_of(std::size_t group, clang::format::FormatStyle const& style) const {
