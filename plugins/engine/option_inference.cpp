@@ -115,13 +115,35 @@ public:
     // Where the bound is spent with forms still differing, the single moves from the best style found
     // (a search that ran out on another start never tried them there), within a tenth of the bound
     // more.
-    void last_single_moves(scored_style& current, std::vector<std::string> const& pinned) {
+    void last_single_moves(scored_style& current, std::vector<std::string> const& pinned,
+                           std::vector<std::string> const& preferred) {
         if (current.total == 0 || stopped)
             return;
         reserve = std::max(formatted, budget) - budget + budget / 10;
         kept = pinned;
         unhelpful.clear();
         while (current.total > 0 && within_budget() && single_moves(current)) {
+        }
+        // Then each reading that a style giving every form back should follow, where the best style
+        // does not, applied and followed by single moves (comments read as lined up, where leaving
+        // them where they stand came closer on the way: lining them up takes their distance and the
+        // blank lines they line up over with it, a move each, which no pair reaches).
+        if (current.total > 0 && !stopped)
+            reserve = std::max(formatted, budget) - budget + budget / 10;
+        for (std::string const& reading : preferred) {
+            if (current.total == 0 || !within_budget())
+                return;
+            scored_style kicked{current.style, {}, 0};
+            if (!apply_candidate(kicked.style, reading) || same_options(kicked.style, current.style))
+                continue;
+            kicked = scored(kicked.style);
+            kept = pinned;
+            kept.push_back(reading);
+            unhelpful.clear();
+            while (kicked.total > 0 && within_budget() && single_moves(kicked)) {
+            }
+            if (kicked.total < current.total)
+                current = std::move(kicked);
         }
     }
 
@@ -628,7 +650,7 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         search.exclude_nothing();
         search.descend(best, readings.certain);
     }
-    search.last_single_moves(best, readings.certain);
+    search.last_single_moves(best, readings.certain, readings.preferred);
     return best.style;
 }
 
