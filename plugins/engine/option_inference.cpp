@@ -114,7 +114,7 @@ public:
 
     // Where the bound is spent with forms still differing, the single moves from the best style found
     // (a search that ran out on another start never tried them there), within a tenth of the bound
-    // more.
+    // more; then, within another tenth, the preferred readings as kicks.
     void last_single_moves(scored_style& current, std::vector<std::string> const& pinned,
                            std::vector<std::string> const& preferred) {
         if (current.total == 0 || stopped)
