@@ -194,7 +194,8 @@ int column_of_trailing_comment(std::string const& line, int tab_width) {
 }
 
 // How well a tab width fits the code: lines indented with tabs that stand under the parenthesis the
-// line above leaves open, under the first item after a brace it leaves open, or (a comment on a
+// line above leaves open (just after it, or under the first item after it where blanks follow it),
+// under the first item after a brace it leaves open, or (a comment on a
 // line of its own) under its trailing comment, count for it; steps after an opening brace other than the most common one
 // (a tab-indented line under a blank-indented one one step out) count against it.
 struct tab_width_fit {
@@ -215,7 +216,8 @@ tab_width_fit fit_of(int tab_width, std::vector<std::string> const& codes) {
                 ++steps[indentation_columns_of(line, tab_width) - indentation_columns_of(previous, tab_width)];
                 ++all_steps;
             } else if (indented_with_tab(line) && !previous.empty() &&
-                       (indentation_columns_of(line, tab_width) ==
+                       (indentation_columns_of(line, tab_width) == column_after_open_parenthesis(previous, tab_width) ||
+                        indentation_columns_of(line, tab_width) ==
                             column_of_item_after_open_parenthesis(previous, tab_width) ||
                         indentation_columns_of(line, tab_width) == column_after_open_brace(previous, tab_width) ||
                         (starts_with(trimmed(line), "//") &&
