@@ -152,6 +152,21 @@ int column_after_open_parenthesis(std::string const& line, int tab_width) {
     return open.empty() ? -1 : open.back();
 }
 
+// The column of the first item after the last parenthesis the line leaves open (past the blanks
+// that parentheses with spaces inside set after it), or just after it where nothing follows, or -1.
+int column_of_item_after_open_parenthesis(std::string const& line, int tab_width) {
+    std::vector<std::size_t> open;
+    for (std::size_t i = 0; i < line.size(); ++i)
+        if (line[i] == '(')
+            open.push_back(i);
+        else if (line[i] == ')' && !open.empty())
+            open.pop_back();
+    if (open.empty())
+        return -1;
+    std::size_t const item = line.find_first_not_of(' ', open.back() + 1);
+    return columns_of(line.substr(0, item == std::string::npos ? open.back() + 1 : item), tab_width);
+}
+
 // The column of what follows the last brace the line leaves open, where something does (an
 // enumeration or a list of values whose next line lines up under its first item), or -1: a brace
 // that ends its line (before a comment, or a macro's backslash) opens a block, whose lines stand an
@@ -179,7 +194,8 @@ int column_of_trailing_comment(std::string const& line, int tab_width) {
 }
 
 // How well a tab width fits the code: lines indented with tabs that stand under the parenthesis the
-// line above leaves open, under the first item after a brace it leaves open, or (a comment on a
+// line above leaves open (just after it, or under the first item after it where blanks follow it),
+// under the first item after a brace it leaves open, or (a comment on a
 // line of its own) under its trailing comment, count for it; steps after an opening brace other than the most common one
 // (a tab-indented line under a blank-indented one one step out) count against it.
 struct tab_width_fit {
@@ -201,6 +217,8 @@ tab_width_fit fit_of(int tab_width, std::vector<std::string> const& codes) {
                 ++all_steps;
             } else if (indented_with_tab(line) && !previous.empty() &&
                        (indentation_columns_of(line, tab_width) == column_after_open_parenthesis(previous, tab_width) ||
+                        indentation_columns_of(line, tab_width) ==
+                            column_of_item_after_open_parenthesis(previous, tab_width) ||
                         indentation_columns_of(line, tab_width) == column_after_open_brace(previous, tab_width) ||
                         (starts_with(trimmed(line), "//") &&
                          indentation_columns_of(line, tab_width) == column_of_trailing_comment(previous, tab_width)))) {

@@ -25,7 +25,7 @@ namespace tarnel_engine {
 namespace {
 
 // Raise when the search itself changes, so that entries written by an older search are not used.
-char const* const search_revision = "14";
+char const* const search_revision = "15";
 
 std::string key_of(std::string const& addon, language_description const& language) {
     QCryptographicHash hash(QCryptographicHash::Sha256);

@@ -114,14 +114,36 @@ public:
 
     // Where the bound is spent with forms still differing, the single moves from the best style found
     // (a search that ran out on another start never tried them there), within a tenth of the bound
-    // more.
-    void last_single_moves(scored_style& current, std::vector<std::string> const& pinned) {
+    // more; then, within another tenth, the preferred readings as kicks.
+    void last_single_moves(scored_style& current, std::vector<std::string> const& pinned,
+                           std::vector<std::string> const& preferred) {
         if (current.total == 0 || stopped)
             return;
         reserve = std::max(formatted, budget) - budget + budget / 10;
         kept = pinned;
         unhelpful.clear();
         while (current.total > 0 && within_budget() && single_moves(current)) {
+        }
+        // Then each reading that a style giving every form back should follow, where the best style
+        // does not, applied and followed by single moves (comments read as lined up, where leaving
+        // them where they stand came closer on the way: lining them up takes their distance and the
+        // blank lines they line up over with it, a move each, which no pair reaches).
+        if (current.total > 0 && !stopped)
+            reserve = std::max(formatted, budget) - budget + budget / 10;
+        for (std::string const& reading : preferred) {
+            if (current.total == 0 || !within_budget())
+                return;
+            scored_style kicked{current.style, {}, 0};
+            if (!apply_candidate(kicked.style, reading) || same_options(kicked.style, current.style))
+                continue;
+            kicked = scored(kicked.style);
+            kept = pinned;
+            kept.push_back(reading);
+            unhelpful.clear();
+            while (kicked.total > 0 && within_budget() && single_moves(kicked)) {
+            }
+            if (kicked.total < current.total)
+                current = std::move(kicked);
         }
     }
 
@@ -189,27 +211,33 @@ private:
         return taken;
     }
 
+    // The forms that judge a move are not all those it reaches (a pair that packs arguments may put a
+    // form off that names neither group): where the best one there puts the whole further, the others
+    // as good there are scored on the whole too, in turn.
     bool take_best_of(std::vector<clang::format::FormatStyle> const& trials, std::vector<form_case> const& judged,
                       unsigned long judged_distance, scored_style& current) {
-        clang::format::FormatStyle const* best = nullptr;
+        std::vector<std::size_t> best;
         unsigned long best_distance = judged_distance;
-        for (clang::format::FormatStyle const& trial : trials) {
+        for (std::size_t t = 0; t < trials.size(); ++t) {
             if (!within_budget())
                 break;
             formatted += static_cast<long>(judged.size());
-            unsigned long const distance = total_of(distances_of(judged, trial, measure));
-            if (distance < best_distance) {
-                best = &trial;
+            unsigned long const distance = total_of(distances_of(judged, trials[t], measure));
+            if (distance < best_distance)
+                best.clear();
+            if (distance <= best_distance && distance < judged_distance) {
+                best.push_back(t);
                 best_distance = distance;
             }
         }
-        if (!best)
-            return false;
-        scored_style moved = scored(*best);
-        if (moved.total >= current.total)
-            return false;
-        current = std::move(moved);
-        return true;
+        for (std::size_t b = 0; b < best.size() && (b == 0 || within_budget()); ++b) {
+            scored_style moved = scored(trials[best[b]]);
+            if (moved.total >= current.total)
+                continue;
+            current = std::move(moved);
+            return true;
+        }
+        return false;
     }
 
     std::vector<clang::format::FormatStyle> moves_of(std::size_t group, clang::format::FormatStyle const& style) const {
@@ -622,7 +650,7 @@ clang::format::FormatStyle infer_options::from(std::vector<form_case> const& for
         search.exclude_nothing();
         search.descend(best, readings.certain);
     }
-    search.last_single_moves(best, readings.certain);
+    search.last_single_moves(best, readings.certain, readings.preferred);
     return best.style;
 }
 

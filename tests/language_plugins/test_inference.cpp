@@ -164,6 +164,31 @@ private slots:
             << "C++" << "{BasedOnStyle: Microsoft, AlignConsecutiveMacros: {Enabled: true}, AlignEscapedNewlines: "
                         "DontAlign, AlignTrailingComments: {Kind: Never}, AllowShortFunctionsOnASingleLine: All, "
                         "ContinuationIndentWidth: 2, IndentAccessModifiers: true, UseTab: AlignWithSpaces}";
+        // "long call through members" comes back with all arguments on the next line and breaking
+        // before the first argument costing more, a pair whose first trial as good on the forms that
+        // judge it (arguments on the next line, the cost left) put "long calls in a loop" off: the
+        // others as good there are scored on the whole too.
+        QTest::newRow("C++ GNU, tabs of 4, arguments and parameters one a line, breaking before the first argument costs more")
+            << "C++" << "{BasedOnStyle: GNU, AlignEscapedNewlines: DontAlign, AlignOperands: DontAlign, BinPackArguments: "
+                        "false, BinPackParameters: false, BitFieldColonSpacing: None, BreakAfterReturnType: "
+                        "ExceptShortType, BreakBeforeBinaryOperators: None, IndentWidth: 4, PackConstructorInitializers: "
+                        "Never, PenaltyBreakBeforeFirstCallParameter: 100, SpaceBeforeSquareBrackets: true, "
+                        "SpacesBeforeTrailingComments: 2, TabWidth: 4, UseTab: Always}";
+        // The bound spent with comments left where they stand 2 blanks away ("trailing comments after a
+        // long comment" lost): lined up, as "comment spacing" reads, they come back with 1 blank and
+        // over blank lines, a move each, which the kick of that reading reaches.
+        QTest::newRow("C Microsoft, tabs of 8 for continuation, comments lined up over blank lines, parenthesis left open")
+            << "C" << "{BasedOnStyle: Microsoft, AlignAfterOpenBracket: AlwaysBreak, AlignEscapedNewlines: Left, "
+                      "AlignOperands: DontAlign, AlignTrailingComments: {Kind: Always, OverEmptyLines: 1}, "
+                      "BreakBeforeBinaryOperators: NonAssignment, BreakBeforeTernaryOperators: false, "
+                      "ContinuationIndentWidth: 8, IndentWidth: 8, TabWidth: 8, UseTab: ForContinuationAndIndentation}";
+        // Arguments lined up under the first one after `( ` with blanks inside parentheses: measured
+        // from the parenthesis, no line stood under it for any width, and the search ended on an
+        // indent of 4 in tabs of 2 (15 forms lost).
+        QTest::newRow("C++ Microsoft, indent 8 in tabs of 4 for continuation, function names wrapped, blanks inside parentheses")
+            << "C++" << "{BasedOnStyle: Microsoft, AlignEscapedNewlines: DontAlign, BreakAfterReturnType: AllDefinitions, "
+                        "IndentWidth: 8, IndentWrappedFunctionNames: true, SpacesInParens: Custom, SpacesInParensOptions: "
+                        "{InConditionalStatements: true, Other: true}, UseTab: ForContinuationAndIndentation}";
         QTest::newRow("Java Google, indent 4, braces of classes and methods below, annotations of fields above")
             << "Java" << "{BasedOnStyle: Google, IndentWidth: 4, BreakBeforeBraces: Custom, BraceWrapping: "
                          "{AfterClass: true, AfterFunction: true}, BreakAfterJavaFieldAnnotations: true}";
