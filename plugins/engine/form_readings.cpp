@@ -152,19 +152,25 @@ int column_after_open_parenthesis(std::string const& line, int tab_width) {
     return open.empty() ? -1 : open.back();
 }
 
+// Where the last `opening` bracket that the line leaves open stands, or npos.
+std::size_t last_left_open(std::string const& line, char opening, char closing) {
+    std::vector<std::size_t> open;
+    for (std::size_t i = 0; i < line.size(); ++i)
+        if (line[i] == opening)
+            open.push_back(i);
+        else if (line[i] == closing && !open.empty())
+            open.pop_back();
+    return open.empty() ? std::string::npos : open.back();
+}
+
 // The column of the first item after the last parenthesis the line leaves open (past the blanks
 // that parentheses with spaces inside set after it), or just after it where nothing follows, or -1.
 int column_of_item_after_open_parenthesis(std::string const& line, int tab_width) {
-    std::vector<std::size_t> open;
-    for (std::size_t i = 0; i < line.size(); ++i)
-        if (line[i] == '(')
-            open.push_back(i);
-        else if (line[i] == ')' && !open.empty())
-            open.pop_back();
-    if (open.empty())
+    std::size_t const open = last_left_open(line, '(', ')');
+    if (open == std::string::npos)
         return -1;
-    std::size_t const item = line.find_first_not_of(' ', open.back() + 1);
-    return columns_of(line.substr(0, item == std::string::npos ? open.back() + 1 : item), tab_width);
+    std::size_t const item = line.find_first_not_of(' ', open + 1);
+    return columns_of(line.substr(0, item == std::string::npos ? open + 1 : item), tab_width);
 }
 
 // The column of what follows the last brace the line leaves open, where something does (an
@@ -172,15 +178,10 @@ int column_of_item_after_open_parenthesis(std::string const& line, int tab_width
 // that ends its line (before a comment, or a macro's backslash) opens a block, whose lines stand an
 // indent step in, not lined up.
 int column_after_open_brace(std::string const& line, int tab_width) {
-    std::vector<std::size_t> open;
-    for (std::size_t i = 0; i < line.size(); ++i)
-        if (line[i] == '{')
-            open.push_back(i);
-        else if (line[i] == '}' && !open.empty())
-            open.pop_back();
-    if (open.empty())
+    std::size_t const open = last_left_open(line, '{', '}');
+    if (open == std::string::npos)
         return -1;
-    std::size_t const item = line.find_first_not_of(" \t", open.back() + 1);
+    std::size_t const item = line.find_first_not_of(" \t", open + 1);
     return item == std::string::npos || line[item] == '/' || line[item] == '\\' ? -1
                                                                                 : columns_of(line.substr(0, item), tab_width);
 }
