@@ -119,7 +119,7 @@ public:
                            std::vector<std::string> const& preferred) {
         if (current.total == 0 || stopped)
             return;
-        reserve = std::max(formatted, budget) - budget + budget / 10;
+        a_tenth_of_the_bound_more();
         kept = pinned;
         unhelpful.clear();
         while (current.total > 0 && within_budget() && single_moves(current)) {
@@ -129,7 +129,7 @@ public:
         // them where they stand came closer on the way: lining them up takes their distance and the
         // blank lines they line up over with it, a move each, which no pair reaches).
         if (current.total > 0 && !stopped)
-            reserve = std::max(formatted, budget) - budget + budget / 10;
+            a_tenth_of_the_bound_more();
         for (std::string const& reading : preferred) {
             if (current.total == 0 || !within_budget())
                 return;
@@ -148,6 +148,9 @@ public:
     }
 
 private:
+    // From what is formatted so far (or the bound, where less was), a tenth of the bound more.
+    void a_tenth_of_the_bound_more() { reserve = std::max(formatted, budget) - budget + budget / 10; }
+
     // The option table of the language.
     std::vector<option_group> const& groups;
     std::vector<form_case> const& forms;

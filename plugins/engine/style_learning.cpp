@@ -262,6 +262,18 @@ long clear_majority_of(std::map<long, long> const& seen, long fewest) {
     return most.second >= fewest && most.second > 2 * (total - most.second) ? most.first : -1;
 }
 
+// The value seen most, where no other is seen as often; -1 otherwise.
+long most_seen_of(std::map<long, long> const& seen) {
+    std::pair<long, long> most{-1, 0};
+    bool tied = false;
+    for (auto const& [value, times] : seen) {
+        tied = times == most.second || (tied && times < most.second);
+        if (times > most.second)
+            most = {value, times};
+    }
+    return tied ? -1 : most.first;
+}
+
 // How much further in than its statement a line goes after a break behind an opening parenthesis
 // or an assignment, where one step clearly outnumbers the others.
 std::string continuation_indent_read_from(std::vector<std::string> const& pieces, int tab_width) {
@@ -512,9 +524,9 @@ std::string case_labels_read_from(std::vector<std::string> const& pieces, int ta
 // with the list's `:` under a head that ends with `)`, or the line after a head that ends with
 // `) :`, measured from the line where the head's parentheses open (a head may take several
 // lines). A ternary's `:` stands under a line with its `?`, an inheritance list's under a
-// class's name, and a case label's `KIND(x):` ends a label, not a head. Files count, each by the step most of its lists take (one file may write a few
-// lists its own way; a file split between two steps says nothing), where one step clearly
-// outnumbers the others.
+// class's name, and a case label's `KIND(x):` ends a label, not a head. Files count, each by the
+// step most of its lists take (one file may write a few lists its own way; a file split between
+// two steps says nothing), where one step clearly outnumbers the others.
 std::string constructor_initializers_read_from(std::vector<std::string> const& pieces, int tab_width) {
     std::map<long, long> files;
     for (std::string const& piece : pieces) {
@@ -547,18 +559,9 @@ std::string constructor_initializers_read_from(std::vector<std::string> const& p
             if (there > here)
                 ++steps[static_cast<long>(there - here)];
         }
-        long most = 0;
-        long most_step = 0;
-        bool tied = false;
-        for (auto const& [step, times] : steps) {
-            tied = times == most || (tied && times < most);
-            if (times > most) {
-                most = times;
-                most_step = step;
-            }
-        }
-        if (most > 0 && !tied)
-            ++files[most_step];
+        long const most = most_seen_of(steps);
+        if (most > 0)
+            ++files[most];
     }
     long const step = clear_majority_of(files, 3);
     return step > 0 ? "{ConstructorInitializerIndentWidth: " + std::to_string(step) + "}" : std::string();
